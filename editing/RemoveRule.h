@@ -1,0 +1,25 @@
+#pragma once
+
+#include "platform/Platform.h"
+#include "prefs/RuleCategory.h"
+
+namespace tarnwick {
+
+class RulePages;
+
+/// Removes the selected row of a table. Order: list, store, synchronise, reload, template file (CreateNewFile
+/// only), selection of a neighbour or disabling of the remove button, publish; for Others, last, the remove
+/// button of a neighbour that may not be removed. The row itself is not tested for protection: that rests on
+/// the remove button alone.
+class RemoveRule {
+public:
+    RemoveRule(const Platform& platform, RulePages& pages) : platform_(platform), pages_(pages) {}
+
+    void remove(RuleCategory category);
+
+private:
+    Platform platform_;
+    RulePages& pages_;
+};
+
+} // namespace tarnwick

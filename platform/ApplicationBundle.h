@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tarnwick {
+
+/// What the application carries with it. Implementations: AppKit main bundle, in memory.
+class ApplicationBundle {
+public:
+    virtual ~ApplicationBundle() = default;
+    /// The text for `key` in the application's default string table; the key itself when it has none.
+    [[nodiscard]] virtual std::string localized(std::string_view key) const = 0;
+    /// The folder of the application's resources, without trailing slash.
+    [[nodiscard]] virtual std::string resourceFolder() const = 0;
+    /// The folder of the built-in plug-ins, without trailing slash; it need not exist.
+    [[nodiscard]] virtual std::string plugInsFolder() const = 0;
+    /// The version that a user is shown.
+    [[nodiscard]] virtual std::string shortVersion() const = 0;
+};
+
+} // namespace tarnwick

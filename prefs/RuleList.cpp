@@ -1,0 +1,31 @@
+#include "prefs/RuleList.h"
+
+#include <algorithm>
+
+namespace tarnwick {
+
+void RuleList::insert(std::size_t index, RuleRecord record) {
+    const auto place = std::min(index, records_.size());
+    records_.insert(records_.begin() + static_cast<std::ptrdiff_t>(place), std::move(record));
+}
+
+PlistValue RuleList::toPlist() const {
+    PlistArray array;
+    array.reserve(records_.size());
+    for (const auto& record : records_) {
+        array.push_back(record.toPlist());
+    }
+    return PlistValue(std::move(array));
+}
+
+PlistValue RuleList::enabledToPlist() const {
+    PlistArray array;
+    for (const auto& record : records_) {
+        if (record.isEnabled()) {
+            array.push_back(record.toPlist());
+        }
+    }
+    return PlistValue(std::move(array));
+}
+
+} // namespace tarnwick

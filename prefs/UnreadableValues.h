@@ -1,0 +1,15 @@
+#pragma once
+
+namespace tarnwick {
+
+class LocalPreferences;
+class SystemLog;
+
+/// Keeps what cannot be read before anything overwrites it: for each list key whose
+/// stored value is not an array, or holds an element or a field of the wrong type, the original goes under
+/// "<list key>.unreadable" in `LocalPreferences`, with one log line that names the key. An original kept
+/// earlier is never replaced: a different one goes under "<list key>.unreadable.2" and so on. Sound values
+/// are left alone and nothing is written.
+void keepUnreadableOriginals(LocalPreferences& local, SystemLog& log);
+
+} // namespace tarnwick

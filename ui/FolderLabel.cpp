@@ -1,0 +1,43 @@
+#include "ui/FolderLabel.h"
+
+#include "platform/ApplicationBundle.h"
+#include "prefs/HomeFolder.h"
+#include "prefs/PathText.h"
+#include "prefs/RuleRecord.h"
+
+#include <array>
+#include <string_view>
+
+namespace tarnwick {
+namespace {
+
+constexpr std::array<std::string_view, 5> wellKnownFolders{"Downloads", "Pictures", "Music", "Movies", "Desktop"};
+
+} // namespace
+
+std::string folderLabel(const Platform& platform, const RuleRecord& record) {
+    if (const auto name = record.text(field::displayName); !name.empty()) {
+        return std::string(name);
+    }
+    const auto path = record.text(field::realPath);
+    for (const auto& name : wellKnownFolders) {
+        if (path == homeSubfolder(platform.folders, name)) {
+            return platform.bundle.localized(name);
+        }
+    }
+    if (path == undefinedPath) {
+        return platform.bundle.localized(undefinedPath);
+    }
+    return std::string(lastPathComponent(path));
+}
+
+std::string shortenedPath(const Platform& platform, const RuleRecord& record) {
+    const auto home = homeFolder(platform.folders);
+    std::string path(record.text(field::realPath));
+    for (auto found = path.find(home); found != std::string::npos; found = path.find(home, found + 1)) {
+        path.replace(found, home.size(), "~");
+    }
+    return path;
+}
+
+} // namespace tarnwick
