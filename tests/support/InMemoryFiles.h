@@ -1,0 +1,72 @@
+#pragma once
+
+#include "platform/ApplicationBundle.h"
+#include "platform/FileManager.h"
+#include "platform/KnownFolders.h"
+#include "tests/support/CallLog.h"
+
+#include <map>
+#include <set>
+#include <string>
+
+namespace tarnwick::testing {
+
+/// A file tree: paths with their contents; folders are paths of their own. Logs "remove PATH",
+/// "create folder PATH", "copy FROM -> TO" and "move FROM -> TO", also when they fail.
+class InMemoryFiles final : public FileManager {
+public:
+    explicit InMemoryFiles(CallLog& log) : log_(log) {}
+
+    std::map<std::string, std::string> files;
+    std::set<std::string> folders;
+    /// Destinations (or removed or created paths) at which the operation fails.
+    std::set<std::string> failing;
+
+    bool exists(const std::string& path) const override;
+    bool remove(const std::string& path) override;
+    bool createFolder(const std::string& path) override;
+    bool copy(const std::string& from, const std::string& to) override;
+    bool move(const std::string& from, const std::string& to) override;
+
+    /// The names of the files directly in a folder, sorted.
+    [[nodiscard]] std::set<std::string> namesIn(const std::string& folder) const;
+
+private:
+    CallLog& log_;
+};
+
+/// Folders at fixed places: the group container at "/container", the scripts at "/scripts", the user "anna".
+class InMemoryFolders final : public KnownFolders {
+public:
+    std::optional<std::string> container = "/container";
+    FolderResult scripts{"/scripts", ""};
+    std::string user = "anna";
+    std::string libraryFolder = "/Users/anna/Library";
+    /// The identifier last asked for.
+    mutable std::string askedGroup;
+
+    std::optional<std::string> groupContainer(std::string_view identifier) const override {
+        askedGroup = identifier;
+        return container;
+    }
+    FolderResult applicationScripts() override { return scripts; }
+    std::string library() const override { return libraryFolder; }
+    std::string userName() const override { return user; }
+};
+
+/// Resources at "/resources"; every text is localised to itself unless `texts` says otherwise.
+class InMemoryBundle final : public ApplicationBundle {
+public:
+    std::map<std::string, std::string, std::less<>> texts;
+    std::string version = "1.2.3";
+
+    std::string localized(std::string_view key) const override {
+        const auto found = texts.find(key);
+        return found == texts.end() ? std::string(key) : found->second;
+    }
+    std::string resourceFolder() const override { return "/resources"; }
+    std::string plugInsFolder() const override { return "/app/PlugIns"; }
+    std::string shortVersion() const override { return version; }
+};
+
+} // namespace tarnwick::testing

@@ -1,0 +1,210 @@
+#pragma once
+
+#include "platform/Alerts.h"
+#include "platform/DistributedNotifications.h"
+#include "platform/FinderSync.h"
+#include "platform/LaunchServices.h"
+#include "platform/LoginItems.h"
+#include "platform/OpenPanel.h"
+#include "platform/ProcessControl.h"
+#include "platform/PropertyLists.h"
+#include "platform/RunLoop.h"
+#include "platform/RunningApplications.h"
+#include "platform/ShellTask.h"
+#include "platform/SystemLog.h"
+#include "platform/SystemVersion.h"
+#include "platform/UserScript.h"
+#include "platform/Workspace.h"
+#include "tests/support/CallLog.h"
+
+#include <deque>
+#include <map>
+#include <set>
+#include <utility>
+
+namespace tarnwick::testing {
+
+/// Keeps each chooser open until the test answers it. Logs "open panel".
+class InMemoryOpenPanel final : public OpenPanel {
+public:
+    explicit InMemoryOpenPanel(CallLog& log) : log_(log) {}
+    std::vector<OpenPanelRequest> requests;
+
+    void begin(const OpenPanelRequest& request, std::function<void(const OpenPanelAnswer&)> completion) override;
+    [[nodiscard]] bool isOpen() const { return !open_.empty(); }
+    /// Closes the chooser that was opened first.
+    void choose(std::vector<std::string> paths);
+    void cancel();
+
+private:
+    void close(const OpenPanelAnswer& answer);
+    CallLog& log_;
+    std::deque<std::function<void(const OpenPanelAnswer&)>> open_;
+};
+
+/// Answers each alert with the next of `answers`, the first button when there is none. Logs "alert MESSAGE".
+class InMemoryAlerts final : public Alerts {
+public:
+    explicit InMemoryAlerts(CallLog& log) : log_(log) {}
+    std::vector<AlertRequest> shown;
+    std::deque<long> answers;
+    long runModal(const AlertRequest& request) override;
+
+private:
+    CallLog& log_;
+};
+
+/// Logs "open URL ADDRESS", "launch PATH" and "observe applications".
+class InMemoryWorkspace final : public Workspace {
+public:
+    explicit InMemoryWorkspace(CallLog& log) : log_(log) {}
+    std::map<std::string, std::string, std::less<>> applications;
+    void openURL(std::string_view address) override { log_.add("open URL " + std::string(address)); }
+    void launchApplication(const std::string& path) override { log_.add("launch " + path); }
+    std::optional<std::string> applicationPath(std::string_view bundleIdentifier) const override;
+    void observeApplicationChanges() override { log_.add("observe applications"); }
+
+private:
+    CallLog& log_;
+};
+
+/// Logs "terminate IDENTIFIER".
+class InMemoryRunningApplications final : public RunningApplications {
+public:
+    explicit InMemoryRunningApplications(CallLog& log) : log_(log) {}
+    std::set<std::string, std::less<>> running;
+    bool isRunning(std::string_view bundleIdentifier) const override { return running.count(bundleIdentifier) != 0; }
+    void terminateAll(std::string_view bundleIdentifier) override {
+        log_.add("terminate " + std::string(bundleIdentifier));
+    }
+
+private:
+    CallLog& log_;
+};
+
+class InMemoryLaunchServices final : public LaunchServices {
+public:
+    std::map<std::string, RegisteredApplications, std::less<>> registered;
+    RegisteredApplications applications(std::string_view bundleIdentifier) const override;
+};
+
+/// Logs "add login item" and "remove login item".
+class InMemoryLoginItems final : public LoginItems {
+public:
+    explicit InMemoryLoginItems(CallLog& log) : log_(log) {}
+    bool present = false;
+    bool isLoginItem() const override { return present; }
+    void add() override;
+    void remove() override;
+
+private:
+    CallLog& log_;
+};
+
+/// Logs "ask whether the extension is enabled" and "show extension management".
+class InMemoryFinderSync final : public FinderSync {
+public:
+    explicit InMemoryFinderSync(CallLog& log) : log_(log) {}
+    bool enabled = true;
+    bool isExtensionEnabled() const override;
+    void showExtensionManagementInterface() override { log_.add("show extension management"); }
+
+private:
+    CallLog& log_;
+};
+
+/// Makes tasks for the paths in `installed`. Logs "execute HANDLER" and keeps each event.
+class InMemoryUserScripts final : public UserScripts {
+public:
+    explicit InMemoryUserScripts(CallLog& log) : log_(log) {}
+    std::set<std::string> installed;
+    std::string error = "no such file";
+    std::vector<HandlerCallEvent> events;
+    UserScriptTaskResult makeTask(const std::string& path) override;
+
+private:
+    class Task;
+    CallLog& log_;
+};
+
+/// Logs "post NAME OPTIONS" and "observe notification NAME".
+class InMemoryNotifications final : public DistributedNotifications {
+public:
+    explicit InMemoryNotifications(CallLog& log) : log_(log) {}
+    std::map<std::string, std::function<void()>, std::less<>> handlers;
+    void post(std::string_view name, std::uint32_t options) override;
+    void observe(std::string_view name, std::function<void()> handler) override;
+
+private:
+    CallLog& log_;
+};
+
+/// Keeps deferred work until the test runs it. Logs "schedule", "queue on main" and
+/// "queue in background".
+class InMemoryRunLoop final : public RunLoop {
+public:
+    explicit InMemoryRunLoop(CallLog& log) : log_(log) {}
+    std::vector<double> delays;
+    void performAfterDelay(double seconds, std::function<void()> work) override;
+    void performOnMainQueue(std::function<void()> work) override;
+    void performInBackground(std::function<void()> work) override;
+    /// Runs what is waiting, in order, and what that queues in turn.
+    void runMain();
+    void runBackground();
+
+private:
+    CallLog& log_;
+    std::deque<std::function<void()>> main_;
+    std::deque<std::function<void()>> background_;
+};
+
+class InMemorySystemVersion final : public SystemVersion {
+public:
+    int major = 10;
+    int minor = 15;
+    int patch = 0;
+    bool isAtLeast(int otherMajor, int otherMinor, int otherPatch) const override;
+};
+
+/// Logs "log LINE" and keeps the lines.
+class InMemorySystemLog final : public SystemLog {
+public:
+    explicit InMemorySystemLog(CallLog& log) : log_(log) {}
+    std::vector<std::string> lines;
+    void write(std::string_view line) override;
+
+private:
+    CallLog& log_;
+};
+
+/// Answers each run with the bytes of `answer` and keeps what was run.
+class InMemoryShell final : public ShellTask {
+public:
+    std::vector<std::pair<std::string, std::vector<std::string>>> runs;
+    std::string answer;
+    PlistData output(const std::string& launchPath, const std::vector<std::string>& arguments) override;
+};
+
+/// Logs "parse PATH".
+class InMemoryPropertyLists final : public PropertyLists {
+public:
+    explicit InMemoryPropertyLists(CallLog& log) : log_(log) {}
+    std::map<std::string, PlistValue> files;
+    std::optional<PlistValue> read(const std::string& path) const override;
+
+private:
+    CallLog& log_;
+};
+
+/// Does not end anything; logs "exit STATUS".
+class InMemoryProcess final : public ProcessControl {
+public:
+    explicit InMemoryProcess(CallLog& log) : log_(log) {}
+    std::vector<int> exits;
+    void exit(int status) override;
+
+private:
+    CallLog& log_;
+};
+
+} // namespace tarnwick::testing
