@@ -1,0 +1,25 @@
+#pragma once
+
+#include <memory>
+
+namespace tarnwick {
+
+class DistributedNotifications;
+class FinderSync;
+class LaunchServices;
+class LoginItems;
+class RunLoop;
+class SystemVersion;
+class UserScripts;
+
+/// The ports whose implementation differs from platform to platform: `platform/macos/` or
+/// `platform/gnustep/adapters/`; the build picks one.
+[[nodiscard]] std::unique_ptr<LaunchServices> makeLaunchServices();
+[[nodiscard]] std::unique_ptr<LoginItems> makeLoginItems();
+[[nodiscard]] std::unique_ptr<FinderSync> makeFinderSync();
+[[nodiscard]] std::unique_ptr<UserScripts> makeUserScripts();
+[[nodiscard]] std::unique_ptr<DistributedNotifications> makeDistributedNotifications();
+[[nodiscard]] std::unique_ptr<RunLoop> makeRunLoop();
+[[nodiscard]] std::unique_ptr<SystemVersion> makeSystemVersion();
+
+} // namespace tarnwick
