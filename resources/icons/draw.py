@@ -291,8 +291,8 @@ def openBook():
 
 def calendar():
     dots = ''.join(box(x - 2.4, y - 2.4, 4.8, 4.8, 1.2, CUT) for y in (3, 11) for x in (-10, 0, 10) if (x, y) != (10, 11))
-    return (box(-18, -15, 36, 33, 6, FILL) + path('M-18-5.5H18', CARVE + ' stroke-width="3"')
-            + path('M-9-19V-12M9-19V-12', CARVE + ' stroke-width="8" stroke-linecap="butt"')
+    return (box(-18, -15, 36, 33, 6, FILL) + path('M-18-5.5H18', CARVE + ' stroke-width="3" stroke-linecap="butt"')
+            + path('M-9-15.5V-9.5M9-15.5V-9.5', CARVE + ' stroke-width="8" stroke-linecap="butt"')
             + path('M-9-18V-12M9-18V-12', 'stroke-width="4"') + dots)
 
 
@@ -307,7 +307,7 @@ def globeLens():
 
 
 def window():
-    return (box(-19, -16, 38, 32, 6, FILL) + path('M-19-6H19', CARVE + ' stroke-width="2.6"')
+    return (box(-19, -16, 38, 32, 6, FILL) + path('M-19-6H19', CARVE + ' stroke-width="2.6" stroke-linecap="butt"')
             + circle(-13, -11, 2.4, CUT) + circle(-6, -11, 2.4, CUT) + circle(1, -11, 2.4, CUT)
             + box(-13, 0, 9, 10, 2, CUT + ' fill-opacity=".55"'))
 
@@ -331,7 +331,7 @@ def notes():
 
 def bird():
     return (path('M-20-3L-9-1C-4-2-3-5-2.5-9A9 9 0 0 1 14.5-11L20-8L15-5C15 6 9 13-1 13C-10 13-13 8-20-3Z', FILL)
-            + path('M-6 3C-3 8 3 8 7 3', CARVE + ' stroke-width="3"') + circle(7.5, -9, 2.2, CUT)
+            + path('M-8 1C-3-1 3-2 8-4C8 5 3 9-2 8.5C-6 8-8 5-8 1Z', CUT) + circle(7.5, -9, 2.2, CUT)
             + path('M0 14V19M5.5 13V19', 'stroke-width="3"'))
 
 
