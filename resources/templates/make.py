@@ -21,13 +21,13 @@ SLIDE = 'http://schemas.openxmlformats.org/presentationml/2006/main'
 FORMAT = 'application/vnd.openxmlformats-officedocument.'
 
 
-def zipped(parts, compression=zipfile.ZIP_DEFLATED):
-    """A ZIP archive of (name, text or bytes) pairs, with a fixed date and fixed attributes."""
+def zipped(parts):
+    """A ZIP archive of (name, text) pairs: a fixed date, and stored, because compressors differ in their bytes."""
     target = io.BytesIO()
     with zipfile.ZipFile(target, 'w') as archive:
         for name, content in parts:
             entry = zipfile.ZipInfo(name, (1980, 1, 1, 0, 0, 0))
-            entry.compress_type = compression
+            entry.compress_type = zipfile.ZIP_STORED
             entry.create_system = 0
             entry.external_attr = 0
             archive.writestr(entry, content)
