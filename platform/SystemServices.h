@@ -14,6 +14,10 @@ class UserScripts;
 
 /// The ports whose implementation differs from platform to platform: `platform/macos/` or
 /// `platform/gnustep/adapters/`; the build picks one.
+
+/// What must happen before anything else of the toolkit is touched, first of all in `main`.
+void prepareProcess(int argc, char *argv[]);
+
 [[nodiscard]] std::unique_ptr<LaunchServices> makeLaunchServices();
 [[nodiscard]] std::unique_ptr<LoginItems> makeLoginItems();
 [[nodiscard]] std::unique_ptr<FinderSync> makeFinderSync();

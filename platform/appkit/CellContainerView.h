@@ -1,0 +1,8 @@
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+/// Holds a cell's one control. When the table gives the cell its place, a text field is made to end where the
+/// column ends, so that a long text is truncated instead of cut off.
+@interface CellContainerView : NSView
+@end

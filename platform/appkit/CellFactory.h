@@ -1,0 +1,13 @@
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+namespace tarnwick {
+
+struct CellView;
+
+/// Builds exactly the control that the core decided on; autoreleased. `controller` becomes the target of check
+/// boxes and the delegate of editable fields.
+[[nodiscard]] NSView *makeCell(const CellView &cell, id controller);
+
+} // namespace tarnwick

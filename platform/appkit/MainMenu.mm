@@ -1,0 +1,110 @@
+#import "platform/appkit/MainMenu.h"
+
+#import "platform/appkit/ControlMaking.h"
+#import "platform/appkit/SettingsViewController.h"
+#import "platform/appkit/StringConversion.h"
+
+#include "ui/WindowLayout.h"
+
+#include <string>
+
+namespace tarnwick {
+namespace {
+
+NSMenu *makeMenu(std::string_view title) {
+    return [[[NSMenu alloc] initWithTitle:localizedText(title)] autorelease];
+}
+
+void addSubmenu(NSMenu *bar, NSMenu *menu) {
+    NSMenuItem *item = [[[NSMenuItem alloc] initWithTitle:[menu title] action:nullptr keyEquivalent:@""] autorelease];
+    [item setSubmenu:menu];
+    [bar addItem:item];
+}
+
+/// Without a target the item goes to the first responder that answers.
+NSMenuItem *addItem(NSMenu *menu, std::string_view title, SEL action, NSString *key = @"", id target = nil) {
+    NSMenuItem *item = [[[NSMenuItem alloc] initWithTitle:localizedText(title) action:action
+                                            keyEquivalent:key] autorelease];
+    [item setTarget:target];
+    [menu addItem:item];
+    return item;
+}
+
+void addSeparator(NSMenu *menu) { [menu addItem:[NSMenuItem separatorItem]]; }
+
+NSMenu *makeApplicationMenu() {
+    NSMenu *menu = makeMenu("Tarnwick");
+    addItem(menu, "About Tarnwick", @selector(orderFrontStandardAboutPanel:));
+    addSeparator(menu);
+    addItem(menu, "Hide Tarnwick", @selector(hide:), @"h");
+    [addItem(menu, "Hide Others", @selector(hideOtherApplications:), @"h")
+        setKeyEquivalentModifierMask:NSEventModifierFlagCommand | NSEventModifierFlagOption];
+    addItem(menu, "Show All", @selector(unhideAllApplications:));
+    addSeparator(menu);
+    addItem(menu, "Quit Tarnwick", @selector(terminate:), @"q");
+    return menu;
+}
+
+NSMenu *makeFileMenu() {
+    NSMenu *menu = makeMenu("File");
+    addItem(menu, "Close Window", @selector(performClose:), @"w");
+    return menu;
+}
+
+NSMenu *makeEditMenu() {
+    NSMenu *menu = makeMenu("Edit");
+    addItem(menu, "Undo", @selector(undo:), @"z");
+    [addItem(menu, "Redo", @selector(redo:), @"z")
+        setKeyEquivalentModifierMask:NSEventModifierFlagCommand | NSEventModifierFlagShift];
+    addSeparator(menu);
+    addItem(menu, "Cut Text", @selector(cut:), @"x");
+    addItem(menu, "Copy Text", @selector(copy:), @"c");
+    addItem(menu, "Paste Text", @selector(paste:), @"v");
+    addItem(menu, "Select All", @selector(selectAll:), @"a");
+    return menu;
+}
+
+NSMenu *makeViewMenu(SettingsViewController *controller) {
+    NSMenu *menu = makeMenu("View");
+    const SEL actions[] = {@selector(createNewFilePressed:), @selector(copyFilesToPressed:),
+        @selector(commonPathPressed:), @selector(customIconFolder:), @selector(otherOptionPressed:),
+        @selector(moreAppPressed:)};
+    for (const auto &layout : pageLayouts()) {
+        const auto index = static_cast<std::size_t>(layout.page);
+        addItem(menu, layout.title, actions[index], toNSString(std::to_string(index + 1)), controller);
+    }
+    return menu;
+}
+
+NSMenu *makeWindowMenu() {
+    NSMenu *menu = makeMenu("Window");
+    addItem(menu, "Minimize", @selector(performMiniaturize:), @"m");
+    addItem(menu, "Zoom", @selector(performZoom:));
+    addSeparator(menu);
+    addItem(menu, "Bring All to Front", @selector(arrangeInFront:));
+    return menu;
+}
+
+NSMenu *makeHelpMenu(SettingsViewController *controller) {
+    NSMenu *menu = makeMenu("Help");
+    addItem(menu, "Restarting the Finder", @selector(initializeClick:), @"", controller);
+    addItem(menu, "Turning on the Services", @selector(helpServicesOfSystemPreferences:), @"", controller);
+    return menu;
+}
+
+} // namespace
+
+void installMainMenu(SettingsViewController *controller) {
+    NSMenu *bar = makeMenu("Tarnwick");
+    NSMenu *windows = makeWindowMenu();
+    addSubmenu(bar, makeApplicationMenu());
+    addSubmenu(bar, makeFileMenu());
+    addSubmenu(bar, makeEditMenu());
+    addSubmenu(bar, makeViewMenu(controller));
+    addSubmenu(bar, windows);
+    addSubmenu(bar, makeHelpMenu(controller));
+    [NSApp setMainMenu:bar];
+    [NSApp setWindowsMenu:windows];
+}
+
+} // namespace tarnwick

@@ -1,0 +1,19 @@
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+/// A check box tied to one boolean of the standard preference domain: it shows the stored value, also when that
+/// changes behind its back, and a click stores the new one before the follow-up action is sent.
+@interface PreferenceSwitch : NSButton {
+@private
+    NSString *_key;
+    id _followUpTarget;
+    SEL _followUpAction;
+}
+
+- (instancetype)initWithTitle:(NSString *)title key:(NSString *)key;
+
+/// What is told after a click has been stored; the target is not retained.
+- (void)setFollowUpTarget:(id)target action:(SEL)action;
+
+@end

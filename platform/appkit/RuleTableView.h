@@ -1,0 +1,19 @@
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+/// A table of rules with its keyboard: Delete presses the remove button, Return edits the selected row's name,
+/// Space clicks its switch. Each does only what the control itself would do just then.
+@interface RuleTableView : NSTableView {
+@private
+    NSButton *_removeButton;
+    NSString *_nameColumn;
+    NSString *_switchColumn;
+}
+
+/// Not retained: the button stands beside the table in the same window.
+- (void)setRemoveButton:(NSButton *)button;
+/// The identifiers of the columns that Return and Space act on; nil where there is none.
+- (void)setNameColumn:(NSString *)nameColumn switchColumn:(NSString *)switchColumn;
+
+@end

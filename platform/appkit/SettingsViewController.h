@@ -1,0 +1,106 @@
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+namespace tarnwick {
+class SettingsViewController;
+struct Platform;
+} // namespace tarnwick
+
+@class SettingsOutlets;
+
+/// The controller of the settings window as AppKit sees it: carries the exact selectors that controls, tables
+/// and text fields send, and forwards each to the C++ controller in one line.
+@interface SettingsViewController : NSViewController {
+@private
+    tarnwick::SettingsViewController *_controller;
+    SettingsOutlets *_outlets;
+}
+
+/// Refuses to run, and ends the process, when the application was started as a login item.
+- (instancetype)initWithPlatform:(const tarnwick::Platform &)platform;
+
+/// The window's controls; retained. Set before `awakeFromNib`.
+- (void)setOutlets:(SettingsOutlets *)outlets;
+- (SettingsOutlets *)outlets;
+
+/// Valid for the life of the receiver.
+- (tarnwick::SettingsViewController *)controller;
+
+@end
+
+@interface SettingsViewController (Actions)
+
+- (void)createNewFilePressed:(id)sender;
+- (void)copyFilesToPressed:(id)sender;
+- (void)commonPathPressed:(id)sender;
+- (void)customIconFolder:(id)sender;
+- (void)otherOptionPressed:(id)sender;
+- (void)moreAppPressed:(id)sender;
+
+- (void)createNewFileViewClick:(id)sender;
+- (void)copyFilesToViewClick:(id)sender;
+- (void)commonPathViewClick:(id)sender;
+- (void)customIconViewClick:(id)sender;
+- (void)othersViewClick:(id)sender;
+
+- (void)addCreateNewFileRule:(id)sender;
+- (void)addSendFilesToRule:(id)sender;
+- (void)addCommonPathRule:(id)sender;
+- (void)addCustomIconRule:(id)sender;
+- (void)addOthersRule:(id)sender;
+
+- (void)removeCreateNewFileRule:(id)sender;
+- (void)removeCopyFilesToRule:(id)sender;
+- (void)removeCommondPathRule:(id)sender;
+- (void)removeCustomIconRule:(id)sender;
+- (void)removeOthersRule:(id)sender;
+
+- (void)resetCreateNewFileRule:(id)sender;
+- (void)resetCopyFilesToRule:(id)sender;
+- (void)resetCustomIconRule:(id)sender;
+- (void)resetOthersRule:(id)sender;
+
+- (void)OnOffcheckedStateChangedOfCreateNewFile:(id)sender;
+- (void)OnOffEnableMainMenuStateChangedOfCreateNewFile:(id)sender;
+- (void)OnOffcheckedStateChangedOfCopyTo:(id)sender;
+- (void)OnOffcheckedStateChangedOfCustomIcon:(id)sender;
+- (void)OnOffcheckedStateChangedOfOthers:(id)sender;
+
+- (void)enableAllOfCreateNewFilesClick:(id)sender;
+- (void)enableAllOfCustomIconClick:(id)sender;
+- (void)enableAllOfOthersClick:(id)sender;
+
+/// The sender's tag is the row whose folder is chosen.
+- (void)selectPath:(id)sender;
+
+@end
+
+@interface SettingsViewController (Integration)
+
+- (void)start;
+- (void)appChanged:(NSNotification *)notification;
+
+- (BOOL)isExtensionEnabled;
+- (void)promptToEnableExtension;
+- (void)openSystemPreferences;
+- (void)restartFinderClick:(id)sender;
+- (void)restartFinder;
+- (void)initializeClick:(id)sender;
+- (void)helpServicesOfSystemPreferences:(id)sender;
+- (void)openServiceOfSystemPreferences:(id)sender;
+
+- (BOOL)checkScriptInstalled;
+- (void)doInstallScript;
+- (void)openServicesOfSystemPreferences;
+- (void)initialize;
+
+/// Nil when the output is not text.
+- (NSString *)runCommand:(NSString *)command;
+- (BOOL)_appWithBundleIdentifierInstalled:(NSString *)bundleIdentifier;
+- (void)getSystemShortcuts:(id)sender;
+
+@end
+
+@interface SettingsViewController (Tables) <NSTableViewDataSource, NSTableViewDelegate, NSTextFieldDelegate>
+@end

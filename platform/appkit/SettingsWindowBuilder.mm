@@ -1,0 +1,71 @@
+#import "platform/appkit/SettingsWindowBuilder.h"
+
+#import "platform/appkit/ControlMaking.h"
+#import "platform/appkit/MoreAppsPage.h"
+#import "platform/appkit/PageViewBuilder.h"
+#import "platform/appkit/SettingsOutlets.h"
+#import "platform/appkit/SettingsViewController.h"
+#import "platform/appkit/SidebarBuilder.h"
+#import "platform/appkit/StringConversion.h"
+
+#include "ui/WindowLayout.h"
+
+namespace tarnwick {
+namespace {
+
+NSTabView *makePages(NSRect frame, SettingsViewController *controller, SettingsOutlets *outlets) {
+    NSTabView *tabView = [[[NSTabView alloc] initWithFrame:frame] autorelease];
+    [tabView setTabViewType:NSNoTabsNoBorder];
+    [tabView setAutoresizingMask:NSViewWidthSizable | NSViewHeightSizable];
+    for (const auto &layout : pageLayouts()) {
+        NSTabViewItem *item =
+            [[[NSTabViewItem alloc] initWithIdentifier:toNSString(layout.title)] autorelease];
+        [item setView:layout.category ? makeRulePage(layout, frame.size, controller, outlets)
+                                      : makeMoreAppsPage(layout, frame.size, controller)];
+        [tabView addTabViewItem:item];
+    }
+    return tabView;
+}
+
+/// The line between the sidebar and the pages.
+NSView *makeSeparator(CGFloat height) {
+    NSBox *line = [[[NSBox alloc] initWithFrame:NSMakeRect(sidebarWidth, 0, 1, height)] autorelease];
+    [line setBoxType:NSBoxSeparator];
+    [line setAutoresizingMask:NSViewHeightSizable];
+    return line;
+}
+
+} // namespace
+
+NSWindow *newSettingsWindow(SettingsViewController *controller) {
+    const NSRect frame = NSMakeRect(0, 0, windowWidth, windowHeight);
+    NSWindow *window = [[NSWindow alloc]
+        initWithContentRect:frame
+                  styleMask:NSWindowStyleMaskTitled | NSWindowStyleMaskClosable | NSWindowStyleMaskMiniaturizable |
+                  NSWindowStyleMaskResizable
+                    backing:NSBackingStoreBuffered
+                      defer:YES];
+    [window setReleasedWhenClosed:NO];
+    [window setTitle:localizedText("Tarnwick")];
+    [window setContentMinSize:NSMakeSize(windowMinimumWidth, windowMinimumHeight)];
+
+    SettingsOutlets *outlets = [[[SettingsOutlets alloc] init] autorelease];
+    NSView *content = [[[NSView alloc] initWithFrame:frame] autorelease];
+    [content setWantsLayer:YES];
+    [content addSubview:makeSidebar(windowHeight, controller, outlets)];
+    [content addSubview:makeSeparator(windowHeight)];
+    const CGFloat pagesLeft = sidebarWidth + 1;
+    NSTabView *pages =
+        makePages(NSMakeRect(pagesLeft, 0, windowWidth - pagesLeft, windowHeight), controller, outlets);
+    [content addSubview:pages];
+    [outlets setTabView:pages];
+
+    [window setContentView:content];
+    [controller setView:content];
+    [controller setOutlets:outlets];
+    [window center];
+    [window setFrameAutosaveName:@"Settings"];
+    return window;
+}
+
+} // namespace tarnwick
