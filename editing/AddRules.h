@@ -35,6 +35,8 @@ private:
     void appendRecords(RuleCategory category, const std::vector<std::string>& paths);
     void commit(RuleCategory category);
     [[nodiscard]] std::optional<RuleRecord> makeRecord(RuleCategory category, const std::string& path);
+    /// Whether the file now lies among the templates, under its own name.
+    [[nodiscard]] bool copyTemplate(const std::string& path);
 
     Platform platform_;
     LocalPreferences& local_;

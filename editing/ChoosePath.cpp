@@ -1,0 +1,31 @@
+#include "editing/ChoosePath.h"
+
+#include "editing/RulePages.h"
+#include "platform/OpenPanel.h"
+#include "prefs/HomeFolder.h"
+
+namespace tarnwick {
+
+void ChoosePath::selectPath(long row) {
+    OpenPanelRequest request;
+    request.canChooseFiles = false;
+    request.canChooseDirectories = true;
+    request.canCreateDirectories = true;
+    request.startFolder = homeSubfolder(platform_.folders, "Desktop");
+    platform_.openPanel.begin(request, [this, row](const OpenPanelAnswer& answer) {
+        constexpr auto category = RuleCategory::copyFilesTo;
+        auto& list = pages_.list(category);
+        if (!answer.confirmed || answer.paths.empty() || !list.holds(row)) {
+            return;
+        }
+        const auto index = static_cast<std::size_t>(row);
+        // The name typed for the old folder goes; the new one shows its own.
+        list.replace(index,
+            list[index].with(field::realPath, answer.paths.front()).with(field::displayName, ""));
+        pages_.storeAndSynchronize(category);
+        pages_.reload(category);
+        pages_.publish(category);
+    });
+}
+
+} // namespace tarnwick

@@ -1,0 +1,39 @@
+#include "editing/ReorderRules.h"
+
+#include "editing/RulePages.h"
+
+namespace tarnwick {
+
+void ReorderRules::acceptDrop(
+    std::optional<RuleCategory> target, std::optional<RuleCategory> source, long from, long to) {
+    if (!target || source != target) {
+        return;
+    }
+    const auto category = *target;
+    auto& list = pages_.list(category);
+    if (!list.holds(from) || to < 0) {
+        return;
+    }
+    const auto fromIndex = static_cast<std::size_t>(from);
+    if (category == RuleCategory::others && list[fromIndex].hasFixedAction()) {
+        return;
+    }
+    // For the Others list the records counted are, on purpose, those of the custom icons.
+    const auto counted =
+        pages_.list(category == RuleCategory::others ? RuleCategory::customIcon : category).size();
+    const auto gap = static_cast<std::size_t>(to);
+    const auto index = gap == counted && gap > 0 ? gap - 1 : gap;
+    if (index >= list.size()) {
+        // Past the end of the list without the record: it stays where it was.
+        return;
+    }
+    auto record = list[fromIndex];
+    list.remove(fromIndex);
+    list.insert(index, std::move(record));
+    pages_.store(category);
+    pages_.publish(category);
+    pages_.reload(category);
+    pages_.deselectAll(category);
+}
+
+} // namespace tarnwick
