@@ -13,7 +13,7 @@ namespace tarnwick {
 /// each counted path followed by two line breaks, in the platform's order.
 [[nodiscard]] std::optional<std::string> findInstallConflict(const Platform& platform);
 
-/// Shows the conflict, if there is one, and ends the process with status 0.
-void runInstallGuard(const Platform& platform);
+/// Whether the running copy is accepted. Otherwise shows the conflict and ends the process with status 0.
+[[nodiscard]] bool runInstallGuard(const Platform& platform);
 
 } // namespace tarnwick

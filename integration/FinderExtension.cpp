@@ -1,0 +1,53 @@
+#include "integration/FinderExtension.h"
+
+#include "integration/Links.h"
+#include "platform/Alerts.h"
+#include "platform/FinderSync.h"
+#include "platform/RunLoop.h"
+#include "platform/SystemVersion.h"
+#include "platform/Workspace.h"
+#include "prefs/LocalPreferences.h"
+#include "prefs/PreferenceKeys.h"
+
+namespace tarnwick {
+namespace {
+
+/// The first system that lets an application ask about its extension and show where to enable it.
+bool hasManagementInterface(const SystemVersion& version) { return version.isAtLeast(10, 14, 0); }
+
+} // namespace
+
+bool FinderExtension::isExtensionEnabled() const {
+    return !hasManagementInterface(platform_.systemVersion) || platform_.finderSync.isExtensionEnabled();
+}
+
+void FinderExtension::promptToEnableExtension() {
+    // These texts are not localised.
+    const AlertRequest request{.messageText = "Enable Extension",
+        .informativeText = "The Tarnwick Finder extension must be enabled in System Preferences",
+        .buttons = {"Open System Preferences"}};
+    if (platform_.alerts.runModal(request) == alertFirstButton) {
+        openSystemPreferences();
+    }
+}
+
+void FinderExtension::openSystemPreferences() {
+    if (hasManagementInterface(platform_.systemVersion)) {
+        platform_.finderSync.showExtensionManagementInterface();
+    } else {
+        platform_.workspace.openURL(link::systemPreferences);
+    }
+}
+
+void FinderExtension::checkAtStart() {
+    if (isExtensionEnabled() && local_.flag(key::shownEnableExtensionAlert)) {
+        return;
+    }
+    // Deferred, so that the window is on screen before the alert blocks it.
+    platform_.runLoop.performOnMainQueue([this] {
+        promptToEnableExtension();
+        local_.set(key::shownEnableExtensionAlert, true);
+    });
+}
+
+} // namespace tarnwick
