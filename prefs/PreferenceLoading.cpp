@@ -29,9 +29,10 @@ constexpr std::array<std::string_view, 14> othersIconNames{"Hidden Selected File
 } // namespace
 
 void PreferenceLoading::prepareStoresAndFolders() {
+    SharedPreferences shared(platform_.preferences);
     local_.open(platform_.preferences);
     keepUnreadableOriginals(local_, platform_.log);
-    seedSwitches();
+    seedSwitches(shared);
     if (!local_.containsArray(factsOf(RuleCategory::copyFilesTo).listKey)) {
         buildFeatureArray();
     }
@@ -45,8 +46,7 @@ void PreferenceLoading::prepareStoresAndFolders() {
     }
 }
 
-void PreferenceLoading::seedSwitches() {
-    SharedPreferences shared(platform_.preferences);
+void PreferenceLoading::seedSwitches(SharedPreferences& shared) {
     for (const auto& group : seedGroups) {
         if (local_.contains(group.trigger())) {
             continue;

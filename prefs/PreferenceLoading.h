@@ -14,6 +14,7 @@ class FactoryLists;
 class LocalPreferences;
 class RuleLists;
 class RulePublisher;
+class SharedPreferences;
 
 /// Brings the preferences into a usable state each time the window is loaded, before any page is shown. No
 /// step reports an error to the user.
@@ -37,7 +38,7 @@ public:
     void observeMirroredKeys();
 
 private:
-    void seedSwitches();
+    void seedSwitches(SharedPreferences& shared);
     void buildFeatureArray();
     void ensureTemplates(const std::optional<std::string>& folder);
     void rebuildIconFolder(const std::string& folder, std::span<const std::string_view> names);

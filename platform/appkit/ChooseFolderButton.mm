@@ -9,7 +9,6 @@
 
 - (void)followTable:(NSTableView *)table {
     _table = table;
-    [table setDoubleAction:@selector(pathDoubleClicked:)];
     // The window updates after every event, whatever changed the selection.
     [[NSNotificationCenter defaultCenter] addObserver:self
                                              selector:@selector(showSelection:)
@@ -25,18 +24,6 @@
     }
     if ([self isEnabled] != (row >= 0)) {
         [self setEnabled:row >= 0];
-    }
-}
-
-- (void)pressForRow:(NSInteger)row column:(NSInteger)column {
-    NSArray *columns = [_table tableColumns];
-    if (row < 0 || column < 0 || column >= static_cast<NSInteger>([columns count])) {
-        return;
-    }
-    NSString *identifier = [[columns objectAtIndex:static_cast<NSUInteger>(column)] identifier];
-    if ([identifier isEqualToString:@"realPath"]) {
-        [self showSelection:nil];
-        [self performClick:self];
     }
 }
 

@@ -32,9 +32,13 @@ NSMenuItem *addItem(NSMenu *menu, std::string_view title, SEL action, NSString *
 
 void addSeparator(NSMenu *menu) { [menu addItem:[NSMenuItem separatorItem]]; }
 
-NSMenu *makeApplicationMenu() {
+NSMenu *makeApplicationMenu(SettingsViewController *controller) {
     NSMenu *menu = makeMenu("Tarnwick");
     addItem(menu, "About Tarnwick", @selector(orderFrontStandardAboutPanel:));
+    addSeparator(menu);
+    addItem(menu, "Enable Extension\u2026", @selector(openSystemPreferences), @"", controller);
+    addItem(menu, "Install Script Helper\u2026", @selector(doInstallScript), @"", controller);
+    addItem(menu, "Initialize All Settings\u2026", @selector(initialize), @"", controller);
     addSeparator(menu);
     addItem(menu, "Hide Tarnwick", @selector(hide:), @"h");
     [addItem(menu, "Hide Others", @selector(hideOtherApplications:), @"h")
@@ -45,8 +49,10 @@ NSMenu *makeApplicationMenu() {
     return menu;
 }
 
-NSMenu *makeFileMenu() {
+NSMenu *makeFileMenu(SettingsViewController *controller) {
     NSMenu *menu = makeMenu("File");
+    addItem(menu, "Add\u2026", @selector(addRuleOfCurrentPage:), @"n", controller);
+    addSeparator(menu);
     addItem(menu, "Close Window", @selector(performClose:), @"w");
     return menu;
 }
@@ -89,6 +95,8 @@ NSMenu *makeHelpMenu(SettingsViewController *controller) {
     NSMenu *menu = makeMenu("Help");
     addItem(menu, "Restarting the Finder", @selector(initializeClick:), @"", controller);
     addItem(menu, "Turning on the Services", @selector(helpServicesOfSystemPreferences:), @"", controller);
+    addSeparator(menu);
+    addItem(menu, "Open Services Settings", @selector(openServicesOfSystemPreferences), @"", controller);
     return menu;
 }
 
@@ -97,8 +105,8 @@ NSMenu *makeHelpMenu(SettingsViewController *controller) {
 void installMainMenu(SettingsViewController *controller) {
     NSMenu *bar = makeMenu("Tarnwick");
     NSMenu *windows = makeWindowMenu();
-    addSubmenu(bar, makeApplicationMenu());
-    addSubmenu(bar, makeFileMenu());
+    addSubmenu(bar, makeApplicationMenu(controller));
+    addSubmenu(bar, makeFileMenu(controller));
     addSubmenu(bar, makeEditMenu());
     addSubmenu(bar, makeViewMenu(controller));
     addSubmenu(bar, windows);

@@ -109,6 +109,7 @@ ChooseFolderButton *makeChooseFolderButton(SettingsViewController *controller, N
     ChooseFolderButton *button = [[[ChooseFolderButton alloc] init] autorelease];
     preparePushButton(button, localizedText("Choose Folder\u2026"), controller, @selector(selectPath:));
     [button followTable:table];
+    [table setDoubleAction:@selector(copyFilesToViewDoubleClick:)];
     return button;
 }
 

@@ -148,4 +148,11 @@ bool isOn(id sender) { return [sender state] == NSControlStateValueOn; }
     [self controller]->selectPath(rowOf(sender));
 }
 
+- (void)copyFilesToViewDoubleClick:(NSTableView *)sender {
+    const NSInteger pathColumn = [sender columnWithIdentifier:@"realPath"];
+    if ([sender clickedRow] >= 0 && [sender clickedColumn] == pathColumn) {
+        [self controller]->selectPath([sender clickedRow]);
+    }
+}
+
 @end

@@ -1,6 +1,7 @@
 #import "platform/appkit/SettingsViewController.h"
 
 #import "platform/appkit/CellFactory.h"
+#import "platform/appkit/RulePageActions.h"
 #import "platform/appkit/SettingsOutlets.h"
 #import "platform/appkit/StringConversion.h"
 
@@ -56,6 +57,14 @@ long firstDraggedRow(NSPasteboard *pasteboard) {
     const auto identifier = tarnwick::toString([column identifier]);
     const auto category = categoryOf(tableView, [self outlets]);
     return tarnwick::makeCell([self controller]->viewForTableColumn(category, identifier, row), self);
+}
+
+/// Also after a selection by keyboard, for which a table sends no action.
+- (void)tableViewSelectionDidChange:(NSNotification *)notification {
+    auto category = RuleCategory::others;
+    if ([[self outlets] getCategory:&category ofTable:[notification object]]) {
+        [NSApp sendAction:tarnwick::actionsOf(category).click to:self from:[notification object]];
+    }
 }
 
 - (BOOL)tableView:(NSTableView *)tableView

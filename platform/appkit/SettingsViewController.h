@@ -73,6 +73,8 @@ struct Platform;
 
 /// The sender's tag is the row whose folder is chosen.
 - (void)selectPath:(id)sender;
+/// A double click on a row's path chooses its folder.
+- (void)copyFilesToViewDoubleClick:(NSTableView *)sender;
 
 @end
 
@@ -99,6 +101,16 @@ struct Platform;
 - (NSString *)runCommand:(NSString *)command;
 - (BOOL)_appWithBundleIdentifierInstalled:(NSString *)bundleIdentifier;
 - (void)getSystemShortcuts:(id)sender;
+
+@end
+
+/// What the menus need beyond the actions of the window.
+@interface SettingsViewController (Menus)
+
+/// Presses the add button of the page that is shown; the page of further apps has none.
+- (void)addRuleOfCurrentPage:(id)sender;
+/// Marks the script helper's item while the script is installed.
+- (BOOL)validateMenuItem:(NSMenuItem *)item;
 
 @end
 
