@@ -1,0 +1,74 @@
+// Missing: recovery. NSUserDefaults of GNUstep Base 1.28 waits 20 seconds for the lock of a killed program, and
+// overwrites a domain's file that it cannot read.
+
+#import "DefaultsFiles.h"
+
+#import <Foundation/Foundation.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <ctime>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+/// Longer than any program holds it.
+constexpr time_t lockLifetime = 3;
+
+NSString *freeDamagedName(NSString *path) {
+    for (int number = 1;; ++number) {
+        NSString *candidate = [NSString stringWithFormat:@"%@.damaged-%d", path, number];
+        struct stat status;
+        if (lstat([candidate fileSystemRepresentation], &status) != 0) {
+            return candidate;
+        }
+    }
+}
+
+bool holdsDictionary(NSData *content) {
+    id propertyList = nil;
+    @try {
+        propertyList = [NSPropertyListSerialization propertyListWithData:content
+                                                                 options:NSPropertyListImmutable
+                                                                  format:nullptr
+                                                                   error:nullptr];
+    } @catch (NSException *) {
+        // The parser raises for some of the contents that it refuses.
+        propertyList = nil;
+    }
+    return [propertyList isKindOfClass:[NSDictionary class]];
+}
+
+} // namespace
+
+NSString *TNDefaultsFolder() { return GSDefaultsRootForUser(NSUserName()); }
+
+void TNRemoveStaleDefaultsLock() {
+    NSString *lock = [TNDefaultsFolder() stringByAppendingPathComponent:@".lck/.GNUstepDefaults.lck"];
+    const char *path = [lock fileSystemRepresentation];
+    struct stat status;
+    if (stat(path, &status) == 0 && std::time(nullptr) - status.st_mtime > lockLifetime) {
+        rmdir(path);
+    }
+}
+
+void TNMoveDamagedFileAside(NSString *path) {
+    struct stat status;
+    if (stat([path fileSystemRepresentation], &status) != 0) {
+        return;
+    }
+    NSData *content = [NSData dataWithContentsOfFile:path];
+    if (content && holdsDictionary(content)) {
+        return;
+    }
+    NSString *aside = freeDamagedName(path);
+    if (std::rename([path fileSystemRepresentation], [aside fileSystemRepresentation]) == 0) {
+        std::fprintf(stderr, "Settings file %s cannot be read; moved to %s\n", [path fileSystemRepresentation],
+            [aside fileSystemRepresentation]);
+    } else {
+        std::fprintf(stderr, "Settings file %s cannot be read, and not moved either: %s\n",
+            [path fileSystemRepresentation], std::strerror(errno));
+    }
+}

@@ -1,0 +1,58 @@
+// Missing: observation of single keys of NSUserDefaults, as of GNUstep Base 1.28: setting and removing objects tells
+// no observer. All typed setters go through these two.
+
+#import <Foundation/Foundation.h>
+#import <objc/runtime.h>
+
+namespace {
+
+using SetObject = void (*)(id self, SEL command, id value, NSString *key);
+using RemoveObject = void (*)(id self, SEL command, NSString *key);
+
+SetObject nativeSetObject = nullptr;
+RemoveObject nativeRemoveObject = nullptr;
+
+bool changes(id defaults, id value, NSString *key) {
+    id before = [defaults objectForKey:key];
+    return before != value && ![before isEqual:value];
+}
+
+void setObject(id self, SEL command, id value, NSString *key) {
+    if (!changes(self, value, key)) {
+        nativeSetObject(self, command, value, key);
+        return;
+    }
+    [self willChangeValueForKey:key];
+    nativeSetObject(self, command, value, key);
+    [self didChangeValueForKey:key];
+}
+
+void removeObject(id self, SEL command, NSString *key) {
+    if (![self objectForKey:key]) {
+        nativeRemoveObject(self, command, key);
+        return;
+    }
+    [self willChangeValueForKey:key];
+    nativeRemoveObject(self, command, key);
+    [self didChangeValueForKey:key];
+}
+
+template <typename Function>
+Function replace(Class type, SEL selector, Function function) {
+    Method method = class_getInstanceMethod(type, selector);
+    return reinterpret_cast<Function>(method_setImplementation(method, reinterpret_cast<IMP>(function)));
+}
+
+} // namespace
+
+@interface NSUserDefaults (TNObservation)
+@end
+
+@implementation NSUserDefaults (TNObservation)
+
++ (void)load {
+    nativeSetObject = replace(self, @selector(setObject:forKey:), setObject);
+    nativeRemoveObject = replace(self, @selector(removeObjectForKey:), removeObject);
+}
+
+@end

@@ -1,0 +1,68 @@
+// Missing: what a program on macOS finds prepared. GNUstep names the defaults file after the executable, knows no
+// fonts for Chinese text, and creates a plain application object.
+
+#import "TNStartUp.h"
+
+#import "DefaultsFiles.h"
+#import "EventPump.h"
+#import "Exceptions.h"
+#import "SuiteDefaults.h"
+#import "TNApplication.h"
+
+#include <cstdlib>
+
+namespace {
+
+NSString *const processName = @"org.halvane.Tarnwick";
+
+void prepareDefaultsFile() {
+    TNRemoveStaleDefaultsLock();
+    NSString *name = [processName stringByAppendingPathExtension:@"plist"];
+    TNMoveDamagedFileAside([TNDefaultsFolder() stringByAppendingPathComponent:name]);
+}
+
+void registerInitialDefaults() {
+    NSString *regular = @"Inter-Regular";
+    NSString *bold = @"Inter-Bold";
+    NSMutableDictionary *values = [NSMutableDictionary dictionary];
+    for (NSString *key in [NSArray arrayWithObjects:@"NSFont", @"NSLabelFont", @"NSMessageFont", @"NSMenuFont",
+                                   @"NSControlContentFont", @"NSUserFont", @"NSToolTipsFont", nil]) {
+        [values setObject:regular forKey:key];
+    }
+    [values setObject:bold forKey:@"NSBoldFont"];
+    [values setObject:bold forKey:@"NSTitleBarFont"];
+    [values setObject:@"13" forKey:@"NSFontSize"];
+    [values setObject:@"YES" forKey:@"GSScrollViewNoInnerBorder"];
+    [values setObject:@"YES" forKey:@"GSSuppressAppIcon"];
+    [values setObject:@"NSMacintoshInterfaceStyle" forKey:@"NSInterfaceStyleDefault"];
+    // The menu bar stands in the window.
+    [values setObject:@"NSWindows95InterfaceStyle" forKey:@"NSMenuInterfaceStyle"];
+    // Report, instead of dropping, what event handlers raise.
+    [values setObject:@"1" forKey:@"NSExceptionHandlerMask"];
+    [[NSUserDefaults standardUserDefaults] registerDefaults:values];
+}
+
+/// What is still only in memory when the program ends goes to its files.
+void writeDefaultsAtExit() {
+    @autoreleasepool {
+        [[NSUserDefaults standardUserDefaults] synchronize];
+        TNWriteAllSuites();
+    }
+}
+
+} // namespace
+
+void TNPrepareProcess(int, char **) {
+    @autoreleasepool {
+        [[NSProcessInfo processInfo] setProcessName:processName];
+        prepareDefaultsFile();
+        registerInitialDefaults();
+        std::atexit(writeDefaultsAtExit);
+        [TNApplication sharedApplication];
+        TNInstallEventPump();
+        TNInstallExceptionReporting();
+        // Before any text is drawn: a failed substitution of a Chinese character is remembered for the whole run.
+        [NSFont setPreferredFontNames:[NSArray arrayWithObject:@"NotoSansCJKsc-Regular"]];
+        TNInstallTheme();
+    }
+}

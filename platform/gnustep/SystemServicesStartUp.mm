@@ -1,0 +1,9 @@
+#include "platform/SystemServices.h"
+
+#import "TNStartUp.h"
+
+namespace tarnwick {
+
+void prepareProcess(int argc, char *argv[]) { TNPrepareProcess(argc, argv); }
+
+} // namespace tarnwick

@@ -1,0 +1,57 @@
+#pragma once
+
+// The methods that AppKit and Foundation have on macOS and the support layer adds here. The file that defines each
+// says what is missing and since when.
+
+#import <AppKit/AppKit.h>
+
+@class CALayer;
+
+// Layers.mm
+@interface NSView (TNLayers)
+- (void)setWantsLayer:(BOOL)wantsLayer;
+- (BOOL)wantsLayer;
+/// Nil until `setWantsLayer:YES`.
+- (CALayer *)layer;
+@end
+
+// Identifiers.mm
+@interface NSView (TNIdentifiers)
+- (void)setIdentifier:(NSString *)identifier;
+- (NSString *)identifier;
+@end
+
+// ViewControllers.mm
+@interface NSViewController (TNViewDidLoad)
+- (void)viewDidLoad;
+@end
+
+// FolderLocations.mm
+@interface NSFileManager (TNGroupContainers)
+/// Created when missing; nil for an identifier that is no file name.
+- (NSURL *)containerURLForSecurityApplicationGroupIdentifier:(NSString *)identifier;
+@end
+
+// SuiteDefaults.mm
+@interface NSUserDefaults (TNSuites)
+/// Nil without a name. All handles of a name share their state.
+- (instancetype)initWithSuiteName:(NSString *)name;
+@end
+
+// ProcessInformation.mm
+typedef struct {
+    NSInteger majorVersion;
+    NSInteger minorVersion;
+    NSInteger patchVersion;
+} NSOperatingSystemVersion;
+
+@interface NSProcessInfo (TNOperatingSystemVersion)
+/// The kernel's version.
+- (NSOperatingSystemVersion)operatingSystemVersion;
+@end
+
+// RunningApplications.mm
+@interface NSRunningApplication (TNRunningApplications)
+- (BOOL)terminate;
+- (BOOL)forceTerminate;
+@end
