@@ -1,0 +1,147 @@
+#include "tests/support/SettingsFixture.h"
+
+namespace tarnwick::testing {
+namespace {
+
+class ReorderRulesTest : public SettingsFixture {
+protected:
+    /// A list of as many enabled records as the text has letters, each named by its letter.
+    void storeLetters(RuleCategory category, const std::string& letters) {
+        std::vector<RuleRecord> records;
+        for (const auto letter : letters) {
+            const std::string name(1, letter);
+            records.push_back(makeRecord({{"enable", 1}, {"displayName", name}, {"Action", name}}));
+        }
+        storeList(category, records);
+    }
+    /// The letters of the list as the table shows it.
+    [[nodiscard]] std::string letters(RuleCategory category, const std::string& column) const {
+        std::string found;
+        for (long row = 0; row < controller_.numberOfRows(category); ++row) {
+            const auto cell = controller_.viewForTableColumn(category, column, row);
+            found += std::get_if<TextFieldCell>(&cell.control)->text;
+        }
+        return found;
+    }
+    [[nodiscard]] std::string paths() const { return letters(RuleCategory::commonPath, "commonPathDisplayName"); }
+    bool drop(RuleCategory category, long from, long to) { return controller_.acceptDrop(category, category, from, to); }
+
+    /// The editors that the load adds to an Others list without them are taken out again.
+    void launchWithOthers(const std::string& names, std::size_t icons) {
+        storeLetters(RuleCategory::customIcon, std::string(icons, 'i'));
+        storeLetters(RuleCategory::others, names);
+        launch();
+        for (int editor = 0; editor < 3; ++editor) {
+            window_.table(RuleCategory::others).selected = 6;
+            controller_.removeOthersRule();
+        }
+        platform_.log.clear();
+    }
+    [[nodiscard]] std::string others() const { return letters(RuleCategory::others, "OthersDisplayName"); }
+};
+
+TEST_F(ReorderRulesTest, MovingUpLandsExactlyInTheGap) {
+    storeLetters(RuleCategory::commonPath, "01234");
+    launch();
+    EXPECT_TRUE(drop(RuleCategory::commonPath, 3, 1));
+    EXPECT_EQ(paths(), "03124");
+}
+
+TEST_F(ReorderRulesTest, DroppingBelowTheLastRowMovesToTheEnd) {
+    storeLetters(RuleCategory::commonPath, "012");
+    launch();
+    EXPECT_TRUE(drop(RuleCategory::commonPath, 0, 3));
+    EXPECT_EQ(paths(), "120");
+}
+
+TEST_F(ReorderRulesTest, MovingDownLandsOnePlaceFurtherThanTheGap) {
+    storeLetters(RuleCategory::commonPath, "0123");
+    launch();
+    EXPECT_TRUE(drop(RuleCategory::commonPath, 0, 2));
+    EXPECT_EQ(paths(), "1203");
+}
+
+TEST_F(ReorderRulesTest, ADropStoresWithoutSynchronisingThenPublishesReloadsAndDeselects) {
+    storeLetters(RuleCategory::commonPath, "012");
+    launch();
+    window_.table(RuleCategory::commonPath).selected = 0;
+    drop(RuleCategory::commonPath, 2, 0);
+    EXPECT_EQ(platform_.log.lines(),
+        (std::vector<std::string>{"local set arrOfCommonPath", "shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
+            "shared set arrOfCommonPath", "shared synchronise", "reload commonPath", "deselect commonPath"}));
+    EXPECT_EQ(window_.table(RuleCategory::commonPath).selected, -1);
+}
+
+class ReorderInTest : public ReorderRulesTest, public ::testing::WithParamInterface<RuleCategory> {};
+
+TEST_P(ReorderInTest, StoresAndPublishesTheMovedOrder) {
+    launch();
+    controller_.resetCopyFilesToRule();
+    if (GetParam() == RuleCategory::commonPath) {
+        for (const auto* folder : {"/a/A", "/a/B", "/a/C"}) {
+            controller_.addCommonPathRule();
+            platform_.openPanel.choose({folder});
+        }
+    }
+    const auto before = localList(GetParam());
+    drop(GetParam(), 2, 0);
+    const auto& after = localList(GetParam());
+    ASSERT_EQ(after.size(), before.size());
+    EXPECT_EQ(after[0], before[2]);
+    EXPECT_EQ(after[1], before[0]);
+    EXPECT_EQ(after[2], before[1]);
+    EXPECT_EQ(sharedList(GetParam())[0], before[2]);
+}
+
+INSTANTIATE_TEST_SUITE_P(Every, ReorderInTest, ::testing::ValuesIn(allRuleCategories));
+
+TEST_F(ReorderRulesTest, ADragFromAnotherTableOrFromOutsideChangesNothingAndReportsSuccess) {
+    launch();
+    EXPECT_TRUE(controller_.acceptDrop(RuleCategory::others, RuleCategory::customIcon, 0, 3));
+    EXPECT_TRUE(controller_.acceptDrop(RuleCategory::others, std::nullopt, 0, 3));
+    EXPECT_TRUE(controller_.acceptDrop(std::nullopt, std::nullopt, 0, 3));
+    EXPECT_TRUE(platform_.log.lines().empty());
+}
+
+TEST_F(ReorderRulesTest, AFixedActionCannotBeMovedNotEvenReloaded) {
+    launch();
+    for (const long row : {15L, 16L, 17L}) {
+        EXPECT_TRUE(drop(RuleCategory::others, row, 0));
+    }
+    EXPECT_TRUE(platform_.log.lines().empty());
+}
+
+TEST_F(ReorderRulesTest, ARowThatTheListDoesNotHaveIsNotMoved) {
+    launch();
+    EXPECT_TRUE(drop(RuleCategory::customIcon, -1, 0));
+    EXPECT_TRUE(drop(RuleCategory::customIcon, 20, 0));
+    EXPECT_TRUE(drop(RuleCategory::customIcon, 0, -1));
+    EXPECT_TRUE(platform_.log.lines().empty());
+}
+
+TEST_F(ReorderRulesTest, OthersAsLongAsCustomIconMovesToTheEndBelowTheLastRow) {
+    launchWithOthers("abcdefgh", 8);
+    drop(RuleCategory::others, 0, 8);
+    EXPECT_EQ(others(), "bcdefgha");
+}
+
+TEST_F(ReorderRulesTest, OthersCountsTheCustomIconsSoTheGapOfThatNumberLandsOneHigher) {
+    launchWithOthers("01234567", 5);
+    drop(RuleCategory::others, 7, 5);
+    EXPECT_EQ(others(), "01237456");
+}
+
+TEST_F(ReorderRulesTest, AnInsertionPastTheEndPutsTheRecordBackAndSavesNothing) {
+    launchWithOthers("01234567", 5);
+    EXPECT_TRUE(drop(RuleCategory::others, 2, 8));
+    EXPECT_EQ(others(), "01234567");
+    EXPECT_TRUE(platform_.log.lines().empty());
+}
+
+TEST_F(ReorderRulesTest, ADropBetweenRowsMayDoAnythingAndOnARowNothing) {
+    EXPECT_EQ(controller_.validateDrop(DropPlace::above), 0xFFFFFFFFU);
+    EXPECT_EQ(controller_.validateDrop(DropPlace::on), 0U);
+}
+
+} // namespace
+} // namespace tarnwick::testing

@@ -1,0 +1,79 @@
+#include "tests/support/SettingsFixture.h"
+
+namespace tarnwick::testing {
+namespace {
+
+class ResetRulesTest : public SettingsFixture {
+protected:
+    void SetUp() override { launch(); }
+};
+
+TEST_F(ResetRulesTest, ResettingOthersRebuildsReloadsDisablesTheRemoveButtonAndPublishes) {
+    window_.table(RuleCategory::others).selected = 3;
+    window_.removeButton(RuleCategory::others).enabled = true;
+    controller_.resetOthersRule();
+    EXPECT_EQ(platform_.log.lines(),
+        (std::vector<std::string>{"local set arrOfOthers", "local synchronise", "reload others",
+            "disable remove others", "local set enableAllOfOthers", "shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
+            "shared set arrOfOthers", "shared synchronise"}));
+    EXPECT_FALSE(window_.removeButton(RuleCategory::others).enabled);
+}
+
+TEST_F(ResetRulesTest, ResettingOthersDiscardsAddedItemsAndEditsAndRestoresRemovedOnes) {
+    window_.table(RuleCategory::others).selected = 0;
+    controller_.removeOthersRule();
+    controller_.addOthersRule();
+    platform_.openPanel.choose({"/x/Safari.png"});
+    EXPECT_TRUE(controller_.controlTextShouldEndEditing("OthersDisplayName", 0, "Mine"));
+    platform_.preferences.userSets("enableAllOfOthers", false);
+    controller_.enableAllOfOthersClick();
+    controller_.resetOthersRule();
+    EXPECT_EQ(controller_.numberOfRows(RuleCategory::others), 18);
+    EXPECT_EQ(texts(localList(RuleCategory::others), "Action").front(), "Cut");
+    EXPECT_EQ(sharedList(RuleCategory::others).size(), 18U);
+}
+
+TEST_F(ResetRulesTest, ResettingTheTemplatesDeletesAddedFilesAndPublishesTheNineEnabledOnes) {
+    platform_.files.files["/container/Templates/CreateNewFile/Mine.txt"] = "mine";
+    controller_.resetCreateNewFileRule();
+    EXPECT_FALSE(platform_.files.exists("/container/Templates/CreateNewFile/Mine.txt"));
+    EXPECT_EQ(platform_.files.namesIn("/container/Templates/CreateNewFile").size(), 30U);
+    EXPECT_EQ(localList(RuleCategory::createNewFile).size(), 15U);
+    EXPECT_EQ(sharedList(RuleCategory::createNewFile).size(), 9U);
+}
+
+TEST_F(ResetRulesTest, ResettingTheTargetsGivesTheFourFoldersOfTheHome) {
+    controller_.resetCopyFilesToRule();
+    EXPECT_EQ(texts(localList(RuleCategory::copyFilesTo), "realPath"),
+        (std::vector<std::string>{
+            "/Users/anna/Downloads", "/Users/anna/Pictures", "/Users/anna/Music", "/Users/anna/Movies"}));
+    EXPECT_EQ(sharedList(RuleCategory::copyFilesTo).size(), 4U);
+}
+
+TEST_F(ResetRulesTest, ResettingTheIconsGivesTheTwentyAgain) {
+    window_.table(RuleCategory::customIcon).selected = 0;
+    controller_.removeCustomIconRule();
+    controller_.resetCustomIconRule();
+    EXPECT_EQ(localList(RuleCategory::customIcon).size(), 20U);
+    EXPECT_EQ(sharedList(RuleCategory::customIcon).size(), 20U);
+}
+
+TEST_F(ResetRulesTest, TheOtherListsAndSwitchesAreUntouched) {
+    auto before = platform_.preferences.local;
+    controller_.resetCopyFilesToRule();
+    auto after = platform_.preferences.local;
+    before.erase("arrOfCopyFilesTo");
+    after.erase("arrOfCopyFilesTo");
+    EXPECT_EQ(after, before);
+}
+
+TEST_F(ResetRulesTest, AResetWhoseImageIsMissingKeepsTheListAsItWas) {
+    const auto before = localList(RuleCategory::customIcon);
+    platform_.images.missingNames.insert("Word");
+    controller_.resetCustomIconRule();
+    EXPECT_EQ(localList(RuleCategory::customIcon), before);
+    EXPECT_EQ(platform_.systemLog.lines.size(), 1U);
+}
+
+} // namespace
+} // namespace tarnwick::testing

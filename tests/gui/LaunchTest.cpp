@@ -1,0 +1,37 @@
+#include "tests/gui/Driver.h"
+#include "tests/gui/Foreign.h"
+
+#include <gtest/gtest.h>
+
+namespace tarnwick::gui {
+namespace {
+
+bool isPublished() { return shared("len(d.get('arrOfOthers', []))") == "18"; }
+
+TEST(Pages, TheWindowOpensOnTheFirstPageWithEveryTableFilled) {
+    ASSERT_TRUE(waitUntil(isPublished));
+    EXPECT_EQ(shownPage(), 0);
+    EXPECT_EQ(rowCount(RuleCategory::createNewFile), 15);
+    EXPECT_EQ(rowCount(RuleCategory::copyFilesTo), 0);
+    EXPECT_EQ(rowCount(RuleCategory::commonPath), 0);
+    EXPECT_EQ(rowCount(RuleCategory::customIcon), 20);
+    EXPECT_EQ(rowCount(RuleCategory::others), 18);
+}
+
+TEST(Pages, EveryPageButtonShowsItsPage) {
+    for (const auto page : {Page::copyFilesTo, Page::commonPath, Page::customIcon, Page::others, Page::moreApps,
+             Page::createNewFile}) {
+        clickPageButton(page);
+        EXPECT_EQ(shownPage(), static_cast<int>(page));
+    }
+}
+
+TEST(Pages, CommandWithADigitShowsThePage) {
+    for (int page = 5; page >= 0; --page) {
+        pressCommand(static_cast<char>('1' + page));
+        EXPECT_EQ(shownPage(), page);
+    }
+}
+
+} // namespace
+} // namespace tarnwick::gui
