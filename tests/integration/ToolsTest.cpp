@@ -1,0 +1,86 @@
+#include "integration/TerminalService.h"
+#include "integration/Utf8.h"
+#include "tests/support/SettingsFixture.h"
+
+namespace tarnwick::testing {
+namespace {
+
+class ToolsTest : public SettingsFixture {};
+
+TEST_F(ToolsTest, ACommandRunsInTheShellAndGivesItsOutputAsText) {
+    platform_.shell.answer = "hello\n";
+    EXPECT_EQ(controller_.runCommand("echo hello"), "hello\n");
+    ASSERT_EQ(platform_.shell.runs.size(), 1U);
+    EXPECT_EQ(platform_.shell.runs[0].first, "/bin/sh");
+    EXPECT_EQ(platform_.shell.runs[0].second, (std::vector<std::string>{"-c", "echo hello"}));
+}
+
+TEST_F(ToolsTest, ACommandWithoutOutputGivesEmptyText) {
+    EXPECT_EQ(controller_.runCommand("true"), "");
+}
+
+TEST_F(ToolsTest, OutputThatIsNoTextGivesNone) {
+    platform_.shell.answer = "\xFF\xFE";
+    EXPECT_EQ(controller_.runCommand("cat picture"), std::nullopt);
+}
+
+TEST_F(ToolsTest, AnApplicationIsInstalledWhenACopyIsRegistered) {
+    EXPECT_FALSE(controller_.appWithBundleIdentifierInstalled("org.example.Nobody"));
+    platform_.launchServices.registered["org.example.Somebody"] = {{"/Applications/Somebody.app"}, false};
+    EXPECT_TRUE(controller_.appWithBundleIdentifierInstalled("org.example.Somebody"));
+    platform_.launchServices.registered["org.example.Somebody"].failed = true;
+    EXPECT_FALSE(controller_.appWithBundleIdentifierInstalled("org.example.Somebody"));
+}
+
+TEST_F(ToolsTest, TheShortcutChooserOpensAtTheSystemsFileByItsURLText) {
+    controller_.getSystemShortcuts();
+    OpenPanelRequest expected;
+    expected.startFolder = "/Users/anna/Library/Preferences/com.apple.symbolichotkeys.plist";
+    expected.startFolderIsURLText = true;
+    expected.allowedFileTypes = {"plist"};
+    EXPECT_EQ(platform_.openPanel.requests.back(), expected);
+}
+
+TEST_F(ToolsTest, ChoosingAShortcutFileLogsItsPathAndParsesIt) {
+    controller_.getSystemShortcuts();
+    platform_.log.clear();
+    platform_.openPanel.choose({"/x/keys.plist"});
+    EXPECT_EQ(platform_.log.lines(), (std::vector<std::string>{"log /x/keys.plist", "parse /x/keys.plist"}));
+}
+
+TEST_F(ToolsTest, CancellingTheShortcutChooserDoesNothing) {
+    controller_.getSystemShortcuts();
+    platform_.log.clear();
+    platform_.openPanel.cancel();
+    EXPECT_TRUE(platform_.log.lines().empty());
+}
+
+TEST(TerminalServiceTest, DescribesItsFourValues) {
+    const TerminalService service{"Terminal", "Opens a shell", "New Shell", "org.example.shell"};
+    EXPECT_EQ(service.description(),
+        "<TerminalService: self.applicationName=Terminal, self.serviceDescription=Opens a shell, "
+        "self.serviceName=New Shell, self.identifier=org.example.shell>");
+}
+
+TEST(TerminalServiceTest, DescribesMissingValuesAsThePlatformDoes) {
+    EXPECT_EQ(TerminalService{}.description(),
+        "<TerminalService: self.applicationName=(null), self.serviceDescription=(null), self.serviceName=(null), "
+        "self.identifier=(null)>");
+}
+
+TEST(Utf8Test, AcceptsWellFormedTextOfEveryLength) {
+    for (const auto* text : {"", "plain", "\u00FC", "\u3001", "\U0001F600", "\u007F\u0080\u07FF\u0800\uFFFF\U0010FFFF"}) {
+        EXPECT_TRUE(isValidUtf8(text)) << text;
+    }
+    EXPECT_TRUE(isValidUtf8(std::string_view("a\0b", 3)));
+}
+
+TEST(Utf8Test, RefusesMalformedBytes) {
+    for (const auto* text : {"\x80", "\xC0\x80", "\xC1\xBF", "\xC3", "\xE0\x80\x80", "\xED\xA0\x80", "\xF0\x80\x80\x80",
+             "\xF4\x90\x80\x80", "\xF5\x80\x80\x80", "\xE3\x80", "\xE3\x80\x28", "ok\xFF"}) {
+        EXPECT_FALSE(isValidUtf8(text)) << text;
+    }
+}
+
+} // namespace
+} // namespace tarnwick::testing
