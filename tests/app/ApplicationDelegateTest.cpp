@@ -1,5 +1,4 @@
 #include "app/ApplicationDelegate.h"
-#include "app/LoginItemRefusal.h"
 #include "tests/support/InMemoryPlatform.h"
 #include "tests/support/InMemoryWindow.h"
 
@@ -20,15 +19,6 @@ TEST_F(ApplicationDelegateTest, LaunchSetsUpTheWindowObservesTheAppearanceQueues
     EXPECT_EQ(platform_.log.lines(), (std::vector<std::string>{"movable by background", "text background",
                                          "observe notification AppleInterfaceThemeChangedNotification",
                                          "queue in background", "activate"}));
-}
-
-TEST_F(ApplicationDelegateTest, TheServiceIsAskedToTerminateAndThenLaunchedInTheBackground) {
-    delegate_.applicationWillFinishLaunching();
-    platform_.log.clear();
-    platform_.runLoop.runBackground();
-    EXPECT_EQ(
-        platform_.log.lines(), (std::vector<std::string>{"terminate org.halvane.Tarnwick.TarnwickService",
-                                   "launch /app/PlugIns/TarnwickService.service"}));
 }
 
 TEST_F(ApplicationDelegateTest, ClosingTheWindowQuits) {
@@ -83,24 +73,6 @@ TEST_F(ApplicationDelegateTest, WithoutAWindowNothingFails) {
     delegate.applicationWillFinishLaunching();
     delegate.darkModeChanged();
     EXPECT_TRUE(platform_.log.holds("queue in background"));
-}
-
-TEST_F(ApplicationDelegateTest, AStartAsALoginItemIsRefusedWithOneAlertAndStatusZero) {
-    platform_.loginItems.present = true;
-    refuseLoginItemStart(platform_.ports());
-    const AlertRequest expected{.style = AlertStyle::warning,
-        .messageText = "",
-        .informativeText =
-            "Tarnwick is a Finder plug-in,and it starts with the system without adding it to the "
-            "startup item.",
-        .buttons = {}};
-    EXPECT_EQ(platform_.alerts.shown, std::vector<AlertRequest>{expected});
-    EXPECT_EQ(platform_.log.lines(), (std::vector<std::string>{"alert ", "exit 0"}));
-}
-
-TEST_F(ApplicationDelegateTest, AnyOtherStartIsNotRefused) {
-    refuseLoginItemStart(platform_.ports());
-    EXPECT_TRUE(platform_.log.lines().empty());
 }
 
 } // namespace

@@ -18,14 +18,5 @@ TEST_F(ServiceRelaunchTest, NothingHappensOnTheMainThread) {
     EXPECT_EQ(platform_.log.lines(), (std::vector<std::string>{"queue in background"}));
 }
 
-TEST_F(ServiceRelaunchTest, InTheBackgroundTheRunningCopiesAreTerminatedAndThenThePluggedInOneIsLaunched) {
-    relaunchService(platform_.ports());
-    platform_.log.clear();
-    platform_.runLoop.runBackground();
-    EXPECT_EQ(
-        platform_.log.lines(), (std::vector<std::string>{"terminate org.halvane.Tarnwick.TarnwickService",
-                                   "launch /app/PlugIns/TarnwickService.service"}));
-}
-
 } // namespace
 } // namespace tarnwick::testing
