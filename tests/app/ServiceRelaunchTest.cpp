@@ -18,5 +18,14 @@ TEST_F(ServiceRelaunchTest, NothingHappensOnTheMainThread) {
     EXPECT_EQ(platform_.log.lines(), (std::vector<std::string>{"queue in background"}));
 }
 
+TEST_F(ServiceRelaunchTest, InTheBackgroundTheRunningCopiesAreTerminatedAndThenThePluggedInOneIsLaunched) {
+    relaunchService(platform_.ports());
+    platform_.log.clear();
+    platform_.runLoop.runBackground();
+    const std::vector<std::string> expected{
+        "terminate org.halvane.Tarnwick.TarnwickService", "launch /app/PlugIns/TarnwickService.service"};
+    EXPECT_EQ(platform_.log.lines(), expected);
+}
+
 } // namespace
 } // namespace tarnwick::testing
