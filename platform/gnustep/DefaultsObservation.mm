@@ -2,7 +2,8 @@
 // no observer. All typed setters go through these two.
 
 #import <Foundation/Foundation.h>
-#import <objc/runtime.h>
+
+#import "MethodReplacement.h"
 
 namespace {
 
@@ -37,12 +38,6 @@ void removeObject(id self, SEL command, NSString *key) {
     [self didChangeValueForKey:key];
 }
 
-template <typename Function>
-Function replace(Class type, SEL selector, Function function) {
-    Method method = class_getInstanceMethod(type, selector);
-    return reinterpret_cast<Function>(method_setImplementation(method, reinterpret_cast<IMP>(function)));
-}
-
 } // namespace
 
 @interface NSUserDefaults (TNObservation)
@@ -51,8 +46,8 @@ Function replace(Class type, SEL selector, Function function) {
 @implementation NSUserDefaults (TNObservation)
 
 + (void)load {
-    nativeSetObject = replace(self, @selector(setObject:forKey:), setObject);
-    nativeRemoveObject = replace(self, @selector(removeObjectForKey:), removeObject);
+    nativeSetObject = TNReplaceMethod(self, @selector(setObject:forKey:), setObject);
+    nativeRemoveObject = TNReplaceMethod(self, @selector(removeObjectForKey:), removeObject);
 }
 
 @end

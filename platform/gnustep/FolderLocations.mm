@@ -1,8 +1,8 @@
 // Missing: group containers and the folder of application scripts, as of GNUstep Base 1.28.
 
 #import <Foundation/Foundation.h>
-#import <objc/runtime.h>
 
+#import "MethodReplacement.h"
 #import "TNConstants.h"
 
 namespace {
@@ -42,10 +42,8 @@ NSURL *urlForDirectory(id self, SEL command, NSSearchPathDirectory directory, NS
 @implementation NSFileManager (TNFolderLocations)
 
 + (void)load {
-    Method method = class_getInstanceMethod(self,
-        @selector(URLForDirectory:inDomain:appropriateForURL:create:error:));
-    nativeURLForDirectory = reinterpret_cast<URLForDirectory>(
-        method_setImplementation(method, reinterpret_cast<IMP>(urlForDirectory)));
+    nativeURLForDirectory = TNReplaceMethod(self,
+        @selector(URLForDirectory:inDomain:appropriateForURL:create:error:), urlForDirectory);
 }
 
 - (NSURL *)containerURLForSecurityApplicationGroupIdentifier:(NSString *)identifier {

@@ -4,7 +4,8 @@
 #import "TNMainQueue.h"
 
 #import <AppKit/AppKit.h>
-#import <objc/runtime.h>
+
+#import "MethodReplacement.h"
 
 /// Performs a block once.
 @interface TNBlockPerformer : NSObject {
@@ -67,9 +68,7 @@ void addOperation(id self, SEL command, void (^block)(void)) {
 @implementation NSOperationQueue (TNMainQueue)
 
 + (void)load {
-    Method method = class_getInstanceMethod(self, @selector(addOperationWithBlock:));
-    nativeAddOperation = reinterpret_cast<AddOperationWithBlock>(
-        method_setImplementation(method, reinterpret_cast<IMP>(addOperation)));
+    nativeAddOperation = TNReplaceMethod(self, @selector(addOperationWithBlock:), addOperation);
 }
 
 @end

@@ -49,9 +49,3 @@ typedef struct {
 /// The kernel's version.
 - (NSOperatingSystemVersion)operatingSystemVersion;
 @end
-
-// RunningApplications.mm
-@interface NSRunningApplication (TNRunningApplications)
-- (BOOL)terminate;
-- (BOOL)forceTerminate;
-@end

@@ -1,0 +1,22 @@
+// Missing: the operating system's version as numbers, as of GNUstep Base 1.28.
+
+#import "TNAdditions.h"
+
+#include <cstdio>
+#include <sys/utsname.h>
+
+@implementation NSProcessInfo (TNOperatingSystemVersion)
+
+- (NSOperatingSystemVersion)operatingSystemVersion {
+    int major = 0;
+    int minor = 0;
+    int patch = 0;
+    struct utsname system;
+    if (uname(&system) == 0) {
+        // Parts that are not there stay zero.
+        (void)std::sscanf(system.release, "%d.%d.%d", &major, &minor, &patch);
+    }
+    return {major, minor, patch};
+}
+
+@end
