@@ -1,0 +1,44 @@
+#include "Probe.h"
+
+#import "TNStartUp.h"
+
+namespace tarnwick::probe {
+
+void startUp(int argc, char **argv) { TNPrepareProcess(argc, argv); }
+
+std::string standardString(const std::string &key) {
+    @autoreleasepool {
+        NSString *name = [NSString stringWithUTF8String:key.c_str()];
+        NSString *value = [[NSUserDefaults standardUserDefaults] stringForKey:name];
+        return value ? [value UTF8String] : "(none)";
+    }
+}
+
+void setStandardString(const std::string &key, const std::string &value) {
+    @autoreleasepool {
+        [[NSUserDefaults standardUserDefaults] setObject:[NSString stringWithUTF8String:value.c_str()]
+                                                  forKey:[NSString stringWithUTF8String:key.c_str()]];
+    }
+}
+
+bool mainQueueRunsOnMainThread() {
+    @autoreleasepool {
+        __block bool hasRun = false;
+        __block bool wasMain = false;
+        NSOperationQueue *worker = [[[NSOperationQueue alloc] init] autorelease];
+        [worker addOperationWithBlock:^{
+            [[NSOperationQueue mainQueue] addOperationWithBlock:^{
+                wasMain = [NSThread isMainThread];
+                hasRun = true;
+            }];
+        }];
+        NSDate *end = [NSDate dateWithTimeIntervalSinceNow:10];
+        while (!hasRun && [end timeIntervalSinceNow] > 0) {
+            [[NSRunLoop currentRunLoop] runMode:NSDefaultRunLoopMode
+                                     beforeDate:[NSDate dateWithTimeIntervalSinceNow:0.05]];
+        }
+        return hasRun && wasMain;
+    }
+}
+
+} // namespace tarnwick::probe

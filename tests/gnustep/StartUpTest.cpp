@@ -1,0 +1,69 @@
+#include "Files.h"
+#include "Probe.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <ctime>
+#include <sys/stat.h>
+#include <utime.h>
+
+using namespace tarnwick::probe;
+
+namespace {
+
+std::string standardFile() { return defaultsFolder() + "/org.halvane.Tarnwick.plist"; }
+
+void startUp() {
+    char name[] = "test";
+    char *arguments[] = {name, nullptr};
+    tarnwick::probe::startUp(1, arguments);
+}
+
+} // namespace
+
+TEST(StartUp, NamesTheSettingsFileAfterTheApplication) {
+    EXPECT_EXIT(
+        {
+            startUp();
+            setStandardString("key", "written at exit");
+            std::exit(0);
+        },
+        testing::ExitedWithCode(0), "");
+    EXPECT_NE(contentOf(standardFile()).find("written at exit"), std::string::npos);
+}
+
+TEST(StartUp, MovesADamagedSettingsFileAside) {
+    writeContent(standardFile(), "<?xml version=\"1.0\"?><plist><dict><key>cut");
+    startUp();
+    EXPECT_EQ(contentOf(standardFile() + ".damaged-1"), "<?xml version=\"1.0\"?><plist><dict><key>cut");
+    EXPECT_EQ(standardString("cut"), "(none)");
+}
+
+TEST(StartUp, LeavesAReadableSettingsFileInPlace) {
+    writeContent(standardFile(), "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict>"
+                                 "<key>key</key><string>value</string></dict></plist>");
+    startUp();
+    EXPECT_EQ(standardString("key"), "value");
+    EXPECT_FALSE(exists(standardFile() + ".damaged-1"));
+}
+
+TEST(StartUp, DoesNotWaitForTheLockOfAKilledProgram) {
+    const auto lock = defaultsFolder() + "/.lck/.GNUstepDefaults.lck";
+    ASSERT_EQ(mkdir((defaultsFolder() + "/.lck").c_str(), 0700), 0);
+    ASSERT_EQ(mkdir(lock.c_str(), 0700), 0);
+    // Old enough to be left over, and young enough that GNUstep itself would wait.
+    const auto fiveSecondsAgo = std::time(nullptr) - 5;
+    const utimbuf times = {fiveSecondsAgo, fiveSecondsAgo};
+    ASSERT_EQ(utime(lock.c_str(), &times), 0);
+    const auto begin = std::chrono::steady_clock::now();
+    startUp();
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(8));
+    EXPECT_FALSE(exists(lock));
+}
+
+TEST(StartUp, MakesTheMainQueueRunOnTheMainThread) {
+    startUp();
+    EXPECT_TRUE(mainQueueRunsOnMainThread());
+}
