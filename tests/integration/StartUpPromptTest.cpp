@@ -1,0 +1,88 @@
+#include "integration/FinderExtension.h"
+#include "prefs/LocalPreferences.h"
+#include "tests/support/InMemoryPlatform.h"
+
+#include <gtest/gtest.h>
+
+namespace tarnwick::testing {
+namespace {
+
+/// The check at start over a domain that holds only the flag.
+class StartUpPromptTest : public ::testing::Test {
+protected:
+    StartUpPromptTest() {
+        local_.open(platform_.preferences);
+        platform_.log.clear();
+    }
+    void setFlag(const PlistValue& value) {
+        platform_.preferences.local.insert_or_assign("ShownEnableExtensionAlert", value);
+    }
+    [[nodiscard]] bool flag() const { return local_.flag("ShownEnableExtensionAlert"); }
+    /// How many prompts one check shows.
+    std::size_t prompts() {
+        platform_.alerts.shown.clear();
+        extension_.checkAtStart();
+        platform_.runLoop.runMain();
+        return platform_.alerts.shown.size();
+    }
+
+    InMemoryPlatform platform_;
+    LocalPreferences local_;
+    FinderExtension extension_{platform_.ports(), local_};
+};
+
+TEST_F(StartUpPromptTest, EnabledWithTheFlagSetShowsNoPrompt) {
+    setFlag(true);
+    EXPECT_EQ(prompts(), 0U);
+    EXPECT_EQ(platform_.log.lines(), (std::vector<std::string>{"ask whether the extension is enabled"}));
+}
+
+TEST_F(StartUpPromptTest, EnabledWithTheFlagNoOrMissingPromptsAndSetsTheFlag) {
+    EXPECT_EQ(prompts(), 1U);
+    EXPECT_TRUE(flag());
+    setFlag(false);
+    EXPECT_EQ(prompts(), 1U);
+    EXPECT_TRUE(flag());
+}
+
+TEST_F(StartUpPromptTest, DisabledPromptsWhateverTheFlagAndSetsIt) {
+    platform_.finderSync.enabled = false;
+    for (const auto value : {true, false}) {
+        setFlag(value);
+        EXPECT_EQ(prompts(), 1U) << value;
+        EXPECT_TRUE(flag()) << value;
+    }
+}
+
+TEST_F(StartUpPromptTest, TheCheckItselfOnlyQueuesThePrompt) {
+    extension_.checkAtStart();
+    EXPECT_EQ(platform_.log.lines(),
+        (std::vector<std::string>{"ask whether the extension is enabled", "queue on main"}));
+    EXPECT_FALSE(flag());
+}
+
+TEST_F(StartUpPromptTest, BeforeMacOS1014ThePromptLeadsToTheSystemSettingsAndTheExtensionIsNeverAsked) {
+    platform_.systemVersion.minor = 13;
+    platform_.systemVersion.patch = 6;
+    EXPECT_EQ(prompts(), 1U);
+    EXPECT_EQ(platform_.log.lines(),
+        (std::vector<std::string>{"queue on main", "alert Enable Extension",
+            "open URL x-apple.systempreferences://", "local set ShownEnableExtensionAlert"}));
+    EXPECT_EQ(prompts(), 0U);
+}
+
+TEST_F(StartUpPromptTest, AnyOtherAnswerThanTheFirstButtonSetsTheFlagAndOpensNothing) {
+    for (const auto answer : {0L, 1L, 999L, 1001L, -1000L}) {
+        setFlag(false);
+        platform_.log.clear();
+        platform_.alerts.answers = {answer};
+        EXPECT_EQ(prompts(), 1U);
+        EXPECT_EQ(platform_.log.lines(),
+            (std::vector<std::string>{"ask whether the extension is enabled", "queue on main",
+                "alert Enable Extension", "local set ShownEnableExtensionAlert"}))
+            << answer;
+    }
+}
+
+} // namespace
+} // namespace tarnwick::testing
