@@ -26,14 +26,16 @@ struct ChooserFacts {
 };
 
 constexpr std::array<ChooserFacts, 5> choosers{{
-    {Chooses::files, "", false},   // CreateNewFile
-    {Chooses::folders, "", false}, // CopyFilesTo
-    {Chooses::folders, "", false}, // CommonPath
+    {Chooses::files, "", false},    // CreateNewFile
+    {Chooses::folders, "", false},  // CopyFilesTo
+    {Chooses::folders, "", false},  // CommonPath
     {Chooses::files, "png", false}, // CustomIcon
-    {Chooses::files, "png", true}, // Others
+    {Chooses::files, "png", true},  // Others
 }};
 
-PlistData tiffOf(const ImagePointer& image) { return image ? image->tiff() : PlistData(); }
+PlistData tiffOf(const ImagePointer& image) {
+    return image ? image->tiff() : PlistData();
+}
 
 } // namespace
 
@@ -126,7 +128,8 @@ std::optional<RuleRecord> AddRules::makeRecord(RuleCategory category, const std:
 
 bool AddRules::copyTemplate(const std::string& path) {
     const auto folder = GroupContainer(platform_.folders).templateFolder();
-    return folder && platform_.files.copy(path, std::string(*folder).append("/").append(lastPathComponent(path)));
+    return folder &&
+           platform_.files.copy(path, std::string(*folder).append("/").append(lastPathComponent(path)));
 }
 
 } // namespace tarnwick

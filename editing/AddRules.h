@@ -18,8 +18,8 @@ class RuleRecord;
 /// without a message.
 class AddRules {
 public:
-    AddRules(const Platform& platform, LocalPreferences& local, RulePages& pages) :
-        platform_(platform), local_(local), pages_(pages) {}
+    AddRules(const Platform& platform, LocalPreferences& local, RulePages& pages)
+        : platform_(platform), local_(local), pages_(pages) {}
 
     /// Opens the category's chooser and returns; once it is confirmed, adds what was chosen. Order: the
     /// records, the remembered folder (not for Others), store, synchronise, reload, publish.

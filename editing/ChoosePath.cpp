@@ -20,8 +20,8 @@ void ChoosePath::selectPath(long row) {
         }
         const auto index = static_cast<std::size_t>(row);
         // The name typed for the old folder goes; the new one shows its own.
-        list.replace(index,
-            list[index].with(field::realPath, answer.paths.front()).with(field::displayName, ""));
+        list.replace(
+            index, list[index].with(field::realPath, answer.paths.front()).with(field::displayName, ""));
         pages_.storeAndSynchronize(category);
         pages_.reload(category);
         pages_.publish(category);

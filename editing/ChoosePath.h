@@ -11,8 +11,8 @@ class ChoosePath {
 public:
     ChoosePath(const Platform& platform, RulePages& pages) : platform_(platform), pages_(pages) {}
 
-    /// Opens a folder chooser at the Desktop and returns. Once it is confirmed, the record that then stands at
-    /// `row` gets the first chosen folder and an empty name; if there is none any more, nothing changes.
+    /// Opens a folder chooser at the Desktop and returns. Once it is confirmed, the record that then stands
+    /// at `row` gets the first chosen folder and an empty name; if there is none any more, nothing changes.
     /// Order: list, store, synchronise, reload, publish.
     void selectPath(long row);
 

@@ -21,15 +21,14 @@ void ReorderRules::acceptDrop(
     // For the Others list the records counted are, on purpose, those of the custom icons.
     const auto counted =
         pages_.list(category == RuleCategory::others ? RuleCategory::customIcon : category).size();
-    const auto gap = static_cast<std::size_t>(to);
-    const auto index = gap == counted && gap > 0 ? gap - 1 : gap;
-    if (index >= list.size()) {
-        // Past the end of the list without the record: it stays where it was.
+    const auto index = to == static_cast<long>(counted) ? to - 1 : to;
+    if (!list.holds(index)) {
+        // No place in the list without the record: it stays where it was.
         return;
     }
     auto record = list[fromIndex];
     list.remove(fromIndex);
-    list.insert(index, std::move(record));
+    list.insert(static_cast<std::size_t>(index), std::move(record));
     pages_.store(category);
     pages_.publish(category);
     pages_.reload(category);

@@ -28,10 +28,11 @@ public:
 
     /// Drops the record at index `from` into the gap above row `to`; the number of rows means below the last.
     /// Nothing happens unless target and source are the same table, nor for a fixed Others action. A record
-    /// moved down lands one place further than the gap, except below the last row. An insertion index past
-    /// the end puts the record back and saves nothing. Order: list, store without synchronising, publish,
-    /// reload, deselect.
-    void acceptDrop(std::optional<RuleCategory> target, std::optional<RuleCategory> source, long from, long to);
+    /// moved down lands one place further than the gap, except below the last row. An insertion index
+    /// outside the list leaves the record where it is and saves nothing. Order: list, store without
+    /// synchronising, publish, reload, deselect.
+    void acceptDrop(
+        std::optional<RuleCategory> target, std::optional<RuleCategory> source, long from, long to);
 
 private:
     RulePages& pages_;

@@ -5,11 +5,17 @@
 
 namespace tarnwick {
 
-void RulePages::store(RuleCategory category) { local_.store(lists_[category]); }
+void RulePages::store(RuleCategory category) {
+    local_.store(lists_[category]);
+}
 
-void RulePages::storeAndSynchronize(RuleCategory category) { local_.storeAndSynchronize(lists_[category]); }
+void RulePages::storeAndSynchronize(RuleCategory category) {
+    local_.storeAndSynchronize(lists_[category]);
+}
 
-void RulePages::publish(RuleCategory category) { publisher_.publish(category); }
+void RulePages::publish(RuleCategory category) {
+    publisher_.publish(category);
+}
 
 void RulePages::reload(RuleCategory category) {
     if (auto* table = this->table(category)) {

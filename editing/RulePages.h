@@ -16,10 +16,11 @@ class RulePublisher;
 /// follow a change. A missing table or button makes the step that needs it do nothing.
 class RulePages {
 public:
-    RulePages(RuleLists& lists, LocalPreferences& local, RulePublisher& publisher) :
-        lists_(lists), local_(local), publisher_(publisher) {}
+    RulePages(RuleLists& lists, LocalPreferences& local, RulePublisher& publisher)
+        : lists_(lists), local_(local), publisher_(publisher) {}
 
-    void connect(const std::array<TableControl*, 5>& tables, const std::array<ButtonControl*, 5>& removeButtons) {
+    void connect(
+        const std::array<TableControl*, 5>& tables, const std::array<ButtonControl*, 5>& removeButtons) {
         tables_ = tables;
         removeButtons_ = removeButtons;
     }

@@ -9,14 +9,17 @@
 namespace tarnwick {
 namespace {
 
-constexpr int asInteger(bool on) { return on ? 1 : 0; }
+constexpr int asInteger(bool on) {
+    return on ? 1 : 0;
+}
 
 RuleRecord switched(const RuleRecord& record, RuleCategory category, std::string_view key, bool on) {
     if (category == RuleCategory::others && record.hasFixedAction()) {
         return record;
     }
     // A target without a folder cannot be switched on.
-    const auto allowed = category != RuleCategory::copyFilesTo || record.text(field::realPath) != undefinedPath;
+    const auto allowed =
+        category != RuleCategory::copyFilesTo || record.text(field::realPath) != undefinedPath;
     return record.with(key, asInteger(on && allowed));
 }
 
@@ -43,7 +46,11 @@ void ToggleRules::setFlag(RuleCategory category, long row, std::string_view key,
 }
 
 void ToggleRules::enableAll(RuleCategory category) {
-    const auto enable = local_.flag(factsOf(category).enableAllKey);
+    const auto key = factsOf(category).enableAllKey;
+    if (key.empty()) {
+        return;
+    }
+    const auto enable = local_.flag(key);
     auto& list = pages_.list(category);
     std::vector<RuleRecord> records;
     records.reserve(list.size());

@@ -10,10 +10,15 @@
 namespace tarnwick {
 namespace {
 
+/// The texts of a record are the user's: a slash leads elsewhere, and the two dot names are folders.
+bool namesAFileInTheFolder(const std::string& name) {
+    return name.find('/') == std::string::npos && name != "." && name != "..";
+}
+
 std::optional<std::string> templatePath(const Platform& platform, const RuleRecord& record) {
     auto path = GroupContainer(platform.folders).templateFolder();
     const auto name = templateFileName(record);
-    if (!path || name.find('/') != std::string::npos) {
+    if (!path || !namesAFileInTheFolder(name)) {
         return std::nullopt;
     }
     path->append("/").append(name);

@@ -70,17 +70,20 @@ TEST_F(EditTextTest, RenamingATemplateMovesItsFileLastOfAll) {
     EXPECT_EQ(platform_.log.lines(),
         (std::vector<std::string>{"local set arrOfCreateNewFile", "local synchronise", "reload createNewFile",
             "local set enableAllOfCreateNewFiles", "local set enableAllOfCreateNewFiles",
-            "shared open H7Q2ZK5RX9.org.halvane.Tarnwick", "shared set arrOfCreateNewFile", "shared synchronise",
-            "move /container/Templates/CreateNewFile/TXT.txt -> /container/Templates/CreateNewFile/Memo.txt"}));
+            "shared open H7Q2ZK5RX9.org.halvane.Tarnwick", "shared set arrOfCreateNewFile",
+            "shared synchronise",
+            "move /container/Templates/CreateNewFile/TXT.txt -> "
+            "/container/Templates/CreateNewFile/Memo.txt"}));
     EXPECT_TRUE(hasTemplate("Memo.txt"));
     EXPECT_FALSE(hasTemplate("TXT.txt"));
 }
 
 TEST_F(EditTextTest, OtherCategoriesMoveNoFile) {
     edit("Note", 0, "New");
-    EXPECT_EQ(platform_.log.lines(),
-        (std::vector<std::string>{"local set arrOfCopyFilesTo", "local synchronise", "reload copyFilesTo",
-            "shared open H7Q2ZK5RX9.org.halvane.Tarnwick", "shared set arrOfCopyFilesTo", "shared synchronise"}));
+    EXPECT_EQ(
+        platform_.log.lines(), (std::vector<std::string>{"local set arrOfCopyFilesTo", "local synchronise",
+                                   "reload copyFilesTo", "shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
+                                   "shared set arrOfCopyFilesTo", "shared synchronise"}));
 }
 
 TEST_F(EditTextTest, ARenameWhoseFileNameIsTakenKeepsTheNewNameAndOverwritesNothing) {
@@ -110,6 +113,34 @@ TEST_F(EditTextTest, ATextWithASlashIsStoredAsItIsButMovesNoFileOutOfTheFolder) 
     EXPECT_EQ(record(RuleCategory::createNewFile, 0).at("displayName"), PlistValue("../../escaped"));
     EXPECT_TRUE(hasTemplate("TXT.txt"));
     EXPECT_TRUE(platform_.log.linesWith("move ").empty());
+}
+
+TEST_F(EditTextTest, ARecordWhoseOldNameHasASlashMovesNoFileOfAnotherFolder) {
+    platform_.files.files["/container/Templates/precious.txt"] = "keep";
+    edit("NewFileDisplayName", 0, "../precious");
+    edit("NewFileDisplayName", 0, "Taken");
+    EXPECT_EQ(record(RuleCategory::createNewFile, 0).at("displayName"), PlistValue("Taken"));
+    EXPECT_TRUE(platform_.files.exists("/container/Templates/precious.txt"));
+    EXPECT_FALSE(hasTemplate("Taken.txt"));
+}
+
+TEST_F(EditTextTest, ANameThatMakesADotNameWithAnEmptyExtensionMovesNoFolder) {
+    platform_.files.files["/home/Makefile"] = "all:";
+    controller_.addCreateNewFileRule();
+    platform_.openPanel.choose({"/home/Makefile"});
+    for (const auto* text : {".", "", "Plain"}) {
+        edit("NewFileDisplayName", 15, text);
+        EXPECT_EQ(record(RuleCategory::createNewFile, 15).at("displayName"), PlistValue(text));
+    }
+    EXPECT_TRUE(platform_.log.linesWith("move ").empty());
+    EXPECT_TRUE(hasTemplate("Makefile"));
+}
+
+TEST_F(EditTextTest, ATemplateWhoseFileIsMissingKeepsItsNewName) {
+    platform_.files.files.erase("/container/Templates/CreateNewFile/TXT.txt");
+    edit("NewFileDisplayName", 0, "Memo");
+    EXPECT_EQ(record(RuleCategory::createNewFile, 0).at("displayName"), PlistValue("Memo"));
+    EXPECT_FALSE(hasTemplate("Memo.txt"));
 }
 
 TEST_F(EditTextTest, EditingANoteLeavesTheNamesMarkAlone) {

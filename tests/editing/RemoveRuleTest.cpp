@@ -75,7 +75,8 @@ TEST_F(RemoveRuleTest, ATemplateIsStoredAwayReloadedItsFileDeletedTheNeighbourSe
         (std::vector<std::string>{"local set arrOfCreateNewFile", "local synchronise", "reload createNewFile",
             "remove /container/Templates/CreateNewFile/Word.docx", "select createNewFile 2",
             "local set enableAllOfCreateNewFiles", "local set enableAllOfCreateNewFiles",
-            "shared open H7Q2ZK5RX9.org.halvane.Tarnwick", "shared set arrOfCreateNewFile", "shared synchronise"}));
+            "shared open H7Q2ZK5RX9.org.halvane.Tarnwick", "shared set arrOfCreateNewFile",
+            "shared synchronise"}));
     EXPECT_FALSE(platform_.files.exists("/container/Templates/CreateNewFile/Word.docx"));
 }
 
@@ -99,13 +100,43 @@ TEST_F(RemoveRuleTest, ATemplateWithoutExtensionIsLookedForWithABareDotSoItsFile
 
 TEST_F(RemoveRuleTest, ANameThatLeadsOutOfTheTemplateFolderDeletesNothing) {
     platform_.files.files["/container/Templates/precious.txt"] = "keep";
-    storeList(RuleCategory::createNewFile,
-        {makeRecord({{"enable", "1"}, {"displayName", "../precious"}, {"extension", "txt"}, {"modified", "1"}})});
+    storeList(RuleCategory::createNewFile, {makeRecord({{"enable", "1"}, {"displayName", "../precious"},
+                                               {"extension", "txt"}, {"modified", "1"}})});
     launch();
     select(RuleCategory::createNewFile, 0);
     controller_.removeCreateNewFileRule();
     EXPECT_TRUE(platform_.files.exists("/container/Templates/precious.txt"));
     EXPECT_EQ(controller_.numberOfRows(RuleCategory::createNewFile), 0);
+}
+
+TEST_F(RemoveRuleTest, ANameThatMakesADotNameWithAnEmptyExtensionDeletesNoFolder) {
+    storeList(RuleCategory::createNewFile,
+        {makeRecord({{"enable", "1"}, {"displayName", ""}, {"extension", ""}}),
+            makeRecord({{"enable", "1"}, {"displayName", "."}, {"extension", ""}})});
+    launch();
+    for (int row = 0; row < 2; ++row) {
+        select(RuleCategory::createNewFile, 0);
+        controller_.removeCreateNewFileRule();
+    }
+    EXPECT_TRUE(platform_.log.linesWith("remove ").empty());
+    EXPECT_EQ(controller_.numberOfRows(RuleCategory::createNewFile), 0);
+}
+
+TEST_F(RemoveRuleTest, WithoutAGroupContainerTheRecordStillGoesAndNoFileIsDeleted) {
+    platform_.folders.container.reset();
+    select(RuleCategory::createNewFile, 0);
+    controller_.removeCreateNewFileRule();
+    EXPECT_EQ(names(RuleCategory::createNewFile).size(), 14U);
+    EXPECT_TRUE(platform_.log.linesWith("remove ").empty());
+}
+
+TEST_F(RemoveRuleTest, ARenameThatCouldNotMoveItsFileLeavesTheOldFileBehindOnRemoval) {
+    platform_.files.failing.insert("/container/Templates/CreateNewFile/Memo.txt");
+    EXPECT_TRUE(controller_.controlTextShouldEndEditing("NewFileDisplayName", 0, "Memo"));
+    select(RuleCategory::createNewFile, 0);
+    controller_.removeCreateNewFileRule();
+    EXPECT_TRUE(platform_.log.holds("remove /container/Templates/CreateNewFile/Memo.txt"));
+    EXPECT_TRUE(platform_.files.exists("/container/Templates/CreateNewFile/TXT.txt"));
 }
 
 TEST_F(RemoveRuleTest, OtherCategoriesTouchNoFile) {
@@ -131,12 +162,23 @@ TEST_F(RemoveRuleTest, RemovingTheRowBelowAProtectedOneSelectsThatAndDisablesThe
 }
 
 TEST_F(RemoveRuleTest, RemovingTheFirstRowAboveATranslationSelectsItAndDisablesTheButton) {
-    launchWithOthers({"Cut", "Translate by Google", "Open in VSCode", "Open in Sublime Text", "Open in Emacs"});
+    launchWithOthers(
+        {"Cut", "Translate by Google", "Open in VSCode", "Open in Sublime Text", "Open in Emacs"});
     select(RuleCategory::others, 0);
     window_.removeButton(RuleCategory::others).enabled = true;
     controller_.removeOthersRule();
     EXPECT_EQ(window_.table(RuleCategory::others).selected, 0);
     EXPECT_FALSE(window_.removeButton(RuleCategory::others).enabled);
+}
+
+TEST_F(RemoveRuleTest, ANeighbourSpelledWithAnAsciiCommaIsNotProtected) {
+    launchWithOthers(
+        {"Pin,Annotation by Snapfin", "Cut", "Open in VSCode", "Open in Sublime Text", "Open in Emacs"});
+    select(RuleCategory::others, 1);
+    window_.removeButton(RuleCategory::others).enabled = true;
+    controller_.removeOthersRule();
+    EXPECT_EQ(window_.table(RuleCategory::others).selected, 0);
+    EXPECT_TRUE(window_.removeButton(RuleCategory::others).enabled);
 }
 
 TEST_F(RemoveRuleTest, RemovingNextToAnOrdinaryRowKeepsTheButtonEnabled) {

@@ -23,8 +23,12 @@ protected:
         }
         return found;
     }
-    [[nodiscard]] std::string paths() const { return letters(RuleCategory::commonPath, "commonPathDisplayName"); }
-    bool drop(RuleCategory category, long from, long to) { return controller_.acceptDrop(category, category, from, to); }
+    [[nodiscard]] std::string paths() const {
+        return letters(RuleCategory::commonPath, "commonPathDisplayName");
+    }
+    bool drop(RuleCategory category, long from, long to) {
+        return controller_.acceptDrop(category, category, from, to);
+    }
 
     /// The editors that the load adds to an Others list without them are taken out again.
     void launchWithOthers(const std::string& names, std::size_t icons) {
@@ -136,6 +140,35 @@ TEST_F(ReorderRulesTest, AnInsertionPastTheEndPutsTheRecordBackAndSavesNothing) 
     EXPECT_TRUE(drop(RuleCategory::others, 2, 8));
     EXPECT_EQ(others(), "01234567");
     EXPECT_TRUE(platform_.log.lines().empty());
+}
+
+TEST_F(ReorderRulesTest, WithoutCustomIconsTheGapAboveTheFirstOthersRowHasNoPlace) {
+    launch();
+    while (controller_.numberOfRows(RuleCategory::customIcon) > 0) {
+        window_.table(RuleCategory::customIcon).selected = 0;
+        controller_.removeCustomIconRule();
+    }
+    const auto before = others();
+    platform_.log.clear();
+    EXPECT_TRUE(drop(RuleCategory::others, 4, 0));
+    EXPECT_EQ(others(), before);
+    EXPECT_TRUE(platform_.log.lines().empty());
+}
+
+TEST_F(ReorderRulesTest, ARenamedFixedActionStaysImmovable) {
+    launch();
+    EXPECT_TRUE(controller_.controlTextShouldEndEditing("OthersDisplayName", 16, "Mine"));
+    platform_.log.clear();
+    EXPECT_TRUE(drop(RuleCategory::others, 16, 0));
+    EXPECT_TRUE(platform_.log.lines().empty());
+}
+
+TEST_F(ReorderRulesTest, ARowDroppedInItsOwnGapStaysAndIsSavedAllTheSame) {
+    storeLetters(RuleCategory::commonPath, "012");
+    launch();
+    EXPECT_TRUE(drop(RuleCategory::commonPath, 1, 1));
+    EXPECT_EQ(paths(), "012");
+    EXPECT_TRUE(platform_.log.holds("shared set arrOfCommonPath"));
 }
 
 TEST_F(ReorderRulesTest, ADropBetweenRowsMayDoAnythingAndOnARowNothing) {

@@ -14,9 +14,28 @@ TEST_F(ResetRulesTest, ResettingOthersRebuildsReloadsDisablesTheRemoveButtonAndP
     controller_.resetOthersRule();
     EXPECT_EQ(platform_.log.lines(),
         (std::vector<std::string>{"local set arrOfOthers", "local synchronise", "reload others",
-            "disable remove others", "local set enableAllOfOthers", "shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
-            "shared set arrOfOthers", "shared synchronise"}));
+            "disable remove others", "local set enableAllOfOthers",
+            "shared open H7Q2ZK5RX9.org.halvane.Tarnwick", "shared set arrOfOthers", "shared synchronise"}));
     EXPECT_FALSE(window_.removeButton(RuleCategory::others).enabled);
+}
+
+TEST_F(ResetRulesTest, ResettingTheTemplatesPublishesThemWholeLaysOutTheirFolderAndPublishesTheEnabledOnes) {
+    controller_.resetCreateNewFileRule();
+    std::vector<std::string> others;
+    for (const auto& line : platform_.log.lines()) {
+        if (line.rfind("copy ", 0) != 0) {
+            others.push_back(line);
+        }
+    }
+    EXPECT_EQ(
+        others, (std::vector<std::string>{"local set arrOfCreateNewFile", "local synchronise",
+                    "shared open H7Q2ZK5RX9.org.halvane.Tarnwick", "shared set arrOfCreateNewFile",
+                    "shared synchronise", "remove /container/Templates/CreateNewFile",
+                    "create folder /container/Templates/CreateNewFile", "reload createNewFile",
+                    "disable remove createNewFile", "local set enableAllOfCreateNewFiles",
+                    "local set enableAllOfCreateNewFiles", "shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
+                    "shared set arrOfCreateNewFile", "shared synchronise"}));
+    EXPECT_EQ(platform_.log.linesWith("copy ").size(), 30U);
 }
 
 TEST_F(ResetRulesTest, ResettingOthersDiscardsAddedItemsAndEditsAndRestoresRemovedOnes) {

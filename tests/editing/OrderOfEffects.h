@@ -1,0 +1,57 @@
+#pragma once
+
+#include "tests/support/SettingsFixture.h"
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+namespace tarnwick::testing {
+
+using Lines = std::vector<std::string>;
+
+class OrderOfEffectsTest;
+
+/// An edit and all that the platform is asked to do for it, in order.
+struct Effects {
+    const char* name;
+    void (*edit)(OrderOfEffectsTest& window);
+    Lines expected;
+};
+
+void PrintTo(const Effects& effects, std::ostream* stream);
+[[nodiscard]] std::string nameOf(const ::testing::TestParamInfo<Effects>& info);
+
+/// Three folders in each of the two folder lists, the factory rows in the other three.
+class OrderOfEffectsTest : public SettingsFixture, public ::testing::WithParamInterface<Effects> {
+public:
+    using Controller = SettingsViewController;
+
+    OrderOfEffectsTest();
+
+    void add(void (Controller::*action)(), std::vector<std::string> paths);
+    /// Removes the given row of a table through its action.
+    void remove(void (Controller::*action)(), RuleCategory category, long row);
+    /// Drops the third row above the first.
+    void drop(RuleCategory category);
+    /// Ends the editing of a field in the first row with the text "New".
+    void edit(std::string_view identifier);
+    [[nodiscard]] Controller& controller() { return controller_; }
+};
+
+inline const std::string templates = "/container/Templates/CreateNewFile/";
+
+[[nodiscard]] Lines operator+(Lines first, const Lines& second);
+
+/// The list written into the application's own preferences, then synchronised.
+[[nodiscard]] Lines stored(const std::string& list);
+
+/// What publishing each list asks for. An enable-all flag is written true, and false once more when a record
+/// is off, as some factory templates are.
+[[nodiscard]] Lines publishedTemplates();
+[[nodiscard]] Lines publishedTargets();
+[[nodiscard]] Lines publishedPaths();
+[[nodiscard]] Lines publishedIcons(bool allEnabled = true);
+[[nodiscard]] Lines publishedOthers(bool allEnabled = true);
+
+} // namespace tarnwick::testing
