@@ -11,13 +11,13 @@
     _table = table;
     // The window updates after every event, whatever changed the selection.
     [[NSNotificationCenter defaultCenter] addObserver:self
-                                             selector:@selector(showSelection:)
+                                             selector:@selector(followSelection:)
                                                  name:NSWindowDidUpdateNotification
                                                object:nil];
-    [self showSelection:nil];
+    [self followSelection:nil];
 }
 
-- (void)showSelection:(NSNotification *)notification {
+- (void)followSelection:(NSNotification *)notification {
     const NSInteger row = [_table selectedRow];
     if ([self tag] != row) {
         [self setTag:row];

@@ -2,6 +2,7 @@
 
 #import "platform/appkit/AppDelegate.h"
 #import "platform/appkit/MainMenu.h"
+#import "platform/appkit/SettingsOutlets.h"
 #import "platform/appkit/SettingsViewController.h"
 #import "platform/appkit/SettingsWindowBuilder.h"
 #import "platform/appkit/StringConversion.h"
@@ -32,14 +33,14 @@
 namespace tarnwick {
 namespace {
 
-void observeKey(std::string_view key, SettingsViewController *controller) {
+void observeKey(std::string_view key, ::SettingsViewController *controller) {
     [[NSUserDefaults standardUserDefaults] addObserver:controller
                                             forKeyPath:toNSString(key)
                                                options:NSKeyValueObservingOptionNew
                                                context:nullptr];
 }
 
-void observeApplications(SettingsViewController *controller) {
+void observeApplications(::SettingsViewController *controller) {
     NSNotificationCenter *center = [[NSWorkspace sharedWorkspace] notificationCenter];
     [center addObserver:controller
                selector:@selector(appChanged:)
@@ -88,12 +89,16 @@ struct MainInterface::Ports {
 
 MainInterface::MainInterface() : ports_(std::make_unique<Ports>(*this)) {
     const auto platform = ports_->platform();
-    controller_ = [[SettingsViewController alloc] initWithPlatform:platform];
+    controller_ = [[::SettingsViewController alloc] initWithPlatform:platform];
     window_ = newSettingsWindow(controller_);
     delegate_ = [[AppDelegate alloc] initWithPlatform:platform window:window_];
     installMainMenu(controller_);
     [NSApp setDelegate:delegate_];
     [controller_ awakeFromNib];
+    // The tables were built before there were lists to show.
+    for (const auto category : allRuleCategories) {
+        [[[controller_ outlets] tableOf:category] reloadData];
+    }
 }
 
 MainInterface::~MainInterface() {

@@ -32,7 +32,7 @@ NSMenuItem *addItem(NSMenu *menu, std::string_view title, SEL action, NSString *
 
 void addSeparator(NSMenu *menu) { [menu addItem:[NSMenuItem separatorItem]]; }
 
-NSMenu *makeApplicationMenu(SettingsViewController *controller) {
+NSMenu *makeApplicationMenu(::SettingsViewController *controller) {
     NSMenu *menu = makeMenu("Tarnwick");
     addItem(menu, "About Tarnwick", @selector(orderFrontStandardAboutPanel:));
     addSeparator(menu);
@@ -49,7 +49,7 @@ NSMenu *makeApplicationMenu(SettingsViewController *controller) {
     return menu;
 }
 
-NSMenu *makeFileMenu(SettingsViewController *controller) {
+NSMenu *makeFileMenu(::SettingsViewController *controller) {
     NSMenu *menu = makeMenu("File");
     addItem(menu, "Add\u2026", @selector(addRuleOfCurrentPage:), @"n", controller);
     addSeparator(menu);
@@ -70,7 +70,7 @@ NSMenu *makeEditMenu() {
     return menu;
 }
 
-NSMenu *makeViewMenu(SettingsViewController *controller) {
+NSMenu *makeViewMenu(::SettingsViewController *controller) {
     NSMenu *menu = makeMenu("View");
     const SEL actions[] = {@selector(createNewFilePressed:), @selector(copyFilesToPressed:),
         @selector(commonPathPressed:), @selector(customIconFolder:), @selector(otherOptionPressed:),
@@ -91,7 +91,7 @@ NSMenu *makeWindowMenu() {
     return menu;
 }
 
-NSMenu *makeHelpMenu(SettingsViewController *controller) {
+NSMenu *makeHelpMenu(::SettingsViewController *controller) {
     NSMenu *menu = makeMenu("Help");
     addItem(menu, "Restarting the Finder", @selector(initializeClick:), @"", controller);
     addItem(menu, "Turning on the Services", @selector(helpServicesOfSystemPreferences:), @"", controller);
@@ -102,7 +102,7 @@ NSMenu *makeHelpMenu(SettingsViewController *controller) {
 
 } // namespace
 
-void installMainMenu(SettingsViewController *controller) {
+void installMainMenu(::SettingsViewController *controller) {
     NSMenu *bar = makeMenu("Tarnwick");
     NSMenu *windows = makeWindowMenu();
     addSubmenu(bar, makeApplicationMenu(controller));

@@ -9,6 +9,6 @@ namespace tarnwick {
 struct PageLayout;
 
 /// Builds the page of further applications: a tile each, with a button that opens its store page. Autoreleased.
-[[nodiscard]] NSView *makeMoreAppsPage(const PageLayout &layout, NSSize size, SettingsViewController *controller);
+[[nodiscard]] NSView *makeMoreAppsPage(const PageLayout &layout, NSSize size, ::SettingsViewController *controller);
 
 } // namespace tarnwick

@@ -32,7 +32,7 @@ constexpr CGFloat tilePadding = 16;
 constexpr CGFloat imageSize = 52;
 constexpr CGFloat textLeft = tilePadding + imageSize + tilePadding;
 
-NSView *makeTile(const Tile &facts, CGFloat width, SettingsViewController *controller) {
+NSView *makeTile(const Tile &facts, CGFloat width, ::SettingsViewController *controller) {
     NSBox *tile = [[[NSBox alloc] initWithFrame:NSMakeRect(0, 0, width, tileHeight)] autorelease];
     [tile setTitlePosition:NSNoTitle];
     [tile setContentViewMargins:NSMakeSize(0, 0)];
@@ -67,7 +67,7 @@ NSView *makeTile(const Tile &facts, CGFloat width, SettingsViewController *contr
 
 } // namespace
 
-NSView *makeMoreAppsPage(const PageLayout &layout, NSSize size, SettingsViewController *controller) {
+NSView *makeMoreAppsPage(const PageLayout &layout, NSSize size, ::SettingsViewController *controller) {
     NSView *page = makeEmptyPage(size);
     PageFrame column(page, size);
     column.addHeading(layout);

@@ -12,6 +12,6 @@ struct PageLayout;
 /// Builds a page with a table: heading, option switches, enable-all switch, table and buttons. The table and
 /// its remove button go into `outlets`; every control is bound to `controller`. Autoreleased.
 [[nodiscard]] NSView *makeRulePage(
-    const PageLayout &layout, NSSize size, SettingsViewController *controller, SettingsOutlets *outlets);
+    const PageLayout &layout, NSSize size, ::SettingsViewController *controller, SettingsOutlets *outlets);
 
 } // namespace tarnwick

@@ -41,7 +41,7 @@ void addSwitches(PageFrame &column, const PageLayout &layout) {
 }
 
 void addEnableAllSwitch(
-    PageFrame &column, const PageLayout &layout, const RulePageActions &actions, SettingsViewController *controller) {
+    PageFrame &column, const PageLayout &layout, const RulePageActions &actions, ::SettingsViewController *controller) {
     if (!actions.enableAll) {
         return;
     }
@@ -76,7 +76,7 @@ NSTableColumn *makeColumn(const ColumnLayout &facts) {
 }
 
 RuleTableView *makeTable(
-    const PageLayout &layout, const RulePageActions &actions, SettingsViewController *controller, NSRect frame) {
+    const PageLayout &layout, const RulePageActions &actions, ::SettingsViewController *controller, NSRect frame) {
     RuleTableView *table = [[[RuleTableView alloc] initWithFrame:frame] autorelease];
     for (const auto &facts : layout.columns) {
         [table addTableColumn:makeColumn(facts)];
@@ -105,7 +105,7 @@ NSScrollView *makeScrollView(NSTableView *table, NSRect frame) {
     return scroll;
 }
 
-ChooseFolderButton *makeChooseFolderButton(SettingsViewController *controller, NSTableView *table) {
+ChooseFolderButton *makeChooseFolderButton(::SettingsViewController *controller, NSTableView *table) {
     ChooseFolderButton *button = [[[ChooseFolderButton alloc] init] autorelease];
     preparePushButton(button, localizedText("Choose Folder\u2026"), controller, @selector(selectPath:));
     [button followTable:table];
@@ -115,7 +115,7 @@ ChooseFolderButton *makeChooseFolderButton(SettingsViewController *controller, N
 
 /// Add, remove and the page's extra button from the left; reset at the right. Gives the remove button.
 NSButton *addButtonBar(PageFrame &column, const PageLayout &layout, const RulePageActions &actions,
-    SettingsViewController *controller, NSButton *extra) {
+    ::SettingsViewController *controller, NSButton *extra) {
     CGFloat left = margin;
     const auto placeLeft = [&](NSButton *button) {
         column.place(button, NSMakeRect(left, margin, NSWidth([button frame]), buttonBarHeight),
@@ -141,7 +141,7 @@ NSButton *addButtonBar(PageFrame &column, const PageLayout &layout, const RulePa
 } // namespace
 
 NSView *makeRulePage(
-    const PageLayout &layout, NSSize size, SettingsViewController *controller, SettingsOutlets *outlets) {
+    const PageLayout &layout, NSSize size, ::SettingsViewController *controller, SettingsOutlets *outlets) {
     const auto actions = actionsOf(*layout.category);
     NSView *page = makeEmptyPage(size);
     PageFrame column(page, size);

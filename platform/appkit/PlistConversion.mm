@@ -23,6 +23,11 @@
     return self;
 }
 
+/// Where the platform's `init` leads: the bytes are given afterwards.
+- (id)initWithBytesNoCopy:(void *)bytes length:(NSUInteger)length freeWhenDone:(BOOL)freeWhenDone {
+    return self;
+}
+
 - (NSUInteger)length {
     return _data.size();
 }

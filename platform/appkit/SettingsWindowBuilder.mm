@@ -13,7 +13,7 @@
 namespace tarnwick {
 namespace {
 
-NSTabView *makePages(NSRect frame, SettingsViewController *controller, SettingsOutlets *outlets) {
+NSTabView *makePages(NSRect frame, ::SettingsViewController *controller, SettingsOutlets *outlets) {
     NSTabView *tabView = [[[NSTabView alloc] initWithFrame:frame] autorelease];
     [tabView setTabViewType:NSNoTabsNoBorder];
     [tabView setAutoresizingMask:NSViewWidthSizable | NSViewHeightSizable];
@@ -37,7 +37,7 @@ NSView *makeSeparator(CGFloat height) {
 
 } // namespace
 
-NSWindow *newSettingsWindow(SettingsViewController *controller) {
+NSWindow *newSettingsWindow(::SettingsViewController *controller) {
     const NSRect frame = NSMakeRect(0, 0, windowWidth, windowHeight);
     NSWindow *window = [[NSWindow alloc]
         initWithContentRect:frame

@@ -34,7 +34,7 @@ SEL selectorOf(Page page) {
     return @selector(moreAppPressed:);
 }
 
-NSButton *makePageButton(const PageLayout &layout, SettingsViewController *controller) {
+NSButton *makePageButton(const PageLayout &layout, ::SettingsViewController *controller) {
     NSButton *button = [[[NSButton alloc] init] autorelease];
     [button setBordered:NO];
     [button setWantsLayer:YES];
@@ -61,7 +61,7 @@ CGFloat addAtFoot(NSView *sidebar, NSView *view, CGFloat bottom, CGFloat height)
 
 } // namespace
 
-NSView *makeSidebar(CGFloat height, SettingsViewController *controller, SettingsOutlets *outlets) {
+NSView *makeSidebar(CGFloat height, ::SettingsViewController *controller, SettingsOutlets *outlets) {
     NSView *sidebar = [[[NSView alloc] initWithFrame:NSMakeRect(0, 0, sidebarWidth, height)] autorelease];
     [sidebar setAutoresizingMask:NSViewHeightSizable];
 

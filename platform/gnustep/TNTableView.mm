@@ -1,0 +1,325 @@
+// View-based tables. GNUstep GUI 0.29 draws cells alone: no view for a cell, no height from the delegate, stripes
+// that are never drawn, and columns that do not share the width. Views exist for the rows on screen alone.
+
+#import "TNTableView.h"
+
+#import "TNTheme.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr CGFloat minimumColumnWidth = 40;
+
+NSArray *deferringModes() {
+    return [NSArray arrayWithObjects:NSDefaultRunLoopMode, NSModalPanelRunLoopMode, NSEventTrackingRunLoopMode, nil];
+}
+
+} // namespace
+
+@implementation TNTableView
+
+- (id)initWithFrame:(NSRect)frame {
+    self = [super initWithFrame:frame];
+    if (self) {
+        _dropRow = -1;
+        [self setVerticalMotionCanBeginDrag:YES];
+    }
+    return self;
+}
+
+- (void)dealloc {
+    [[NSNotificationCenter defaultCenter] removeObserver:self];
+    [NSObject cancelPreviousPerformRequestsWithTarget:self];
+    [self dropRowViews];
+    [_dropLine release];
+    [super dealloc];
+}
+
+#pragma mark Views
+
+- (NSView *)makeCellAtColumn:(NSInteger)column row:(NSInteger)row {
+    NSTableColumn *tableColumn = [[self tableColumns] objectAtIndex:static_cast<NSUInteger>(column)];
+    NSView *cell = [(id)[self delegate] tableView:self viewForTableColumn:tableColumn row:row];
+    [cell setFrame:[self frameOfCellAtColumn:column row:row]];
+    return cell;
+}
+
+- (void)makeRow:(NSInteger)row {
+    std::vector<NSView *> cells;
+    for (NSInteger column = 0; column < [self numberOfColumns]; ++column) {
+        NSView *cell = [self makeCellAtColumn:column row:row];
+        cells.push_back([cell retain]);
+        if (cell) {
+            [self addSubview:cell];
+        }
+    }
+    _rowViews[row] = std::move(cells);
+}
+
+- (void)dropCells:(const std::vector<NSView *> &)cells {
+    for (NSView *cell : cells) {
+        [cell removeFromSuperview];
+        [cell release];
+    }
+}
+
+- (void)dropRowViews {
+    // The map is emptied first: removing a view can end an edit, which comes back here.
+    std::map<NSInteger, std::vector<NSView *>> rows;
+    rows.swap(_rowViews);
+    for (const auto &[row, cells] : rows) {
+        [self dropCells:cells];
+    }
+}
+
+- (NSTextField *)editedField {
+    id responder = [[self window] firstResponder];
+    if (![responder isKindOfClass:[NSText class]] || ![responder isFieldEditor]) {
+        return nil;
+    }
+    id field = [responder delegate];
+    return [field isKindOfClass:[NSTextField class]] && [field isDescendantOf:self] ? field : nil;
+}
+
+- (void)syncRowViews {
+    if (![self window] || ![[self delegate] respondsToSelector:@selector(tableView:viewForTableColumn:row:)]) {
+        return;
+    }
+    const NSRange visible = [self isHiddenOrHasHiddenAncestor] ? NSMakeRange(0, 0) : [self rowsInRect:[self visibleRect]];
+    const NSInteger editedRow = [self rowForView:[self editedField]];
+    for (auto entry = _rowViews.begin(); entry != _rowViews.end();) {
+        const auto row = static_cast<NSUInteger>(entry->first);
+        if (NSLocationInRange(row, visible) || entry->first == editedRow) {
+            for (std::size_t column = 0; column < entry->second.size(); ++column) {
+                [entry->second[column] setFrame:[self frameOfCellAtColumn:static_cast<NSInteger>(column)
+                                                                      row:entry->first]];
+            }
+            ++entry;
+        } else {
+            const auto cells = entry->second;
+            entry = _rowViews.erase(entry);
+            [self dropCells:cells];
+        }
+    }
+    for (NSUInteger row = visible.location; row < NSMaxRange(visible); ++row) {
+        if (_rowViews.count(static_cast<NSInteger>(row)) == 0) {
+            [self makeRow:static_cast<NSInteger>(row)];
+        }
+    }
+}
+
+- (NSView *)cellAtColumn:(NSInteger)column row:(NSInteger)row {
+    const auto found = _rowViews.find(row);
+    if (found == _rowViews.end() || column < 0 || column >= static_cast<NSInteger>(found->second.size())) {
+        return nil;
+    }
+    return found->second[static_cast<std::size_t>(column)];
+}
+
+- (NSView *)viewAtColumn:(NSInteger)column row:(NSInteger)row makeIfNecessary:(BOOL)makeIfNecessary {
+    if (row < 0 || row >= [self numberOfRows] || column < 0 || column >= [self numberOfColumns]) {
+        return nil;
+    }
+    if (makeIfNecessary) {
+        [self syncRowViews];
+    }
+    NSView *cell = [self cellAtColumn:column row:row];
+    return cell || !makeIfNecessary ? cell : [self makeCellAtColumn:column row:row];
+}
+
+- (NSInteger)rowForView:(NSView *)view {
+    for (const auto &[row, cells] : _rowViews) {
+        for (NSView *cell : cells) {
+            if (view && [view isDescendantOf:cell]) {
+                return row;
+            }
+        }
+    }
+    return -1;
+}
+
+- (NSInteger)columnForView:(NSView *)view {
+    for (const auto &[row, cells] : _rowViews) {
+        for (std::size_t column = 0; column < cells.size(); ++column) {
+            if (view && [view isDescendantOf:cells[column]]) {
+                return static_cast<NSInteger>(column);
+            }
+        }
+    }
+    return -1;
+}
+
+#pragma mark Loading and layout
+
+- (void)reloadData {
+    NSIndexSet *selection = [[[self selectedRowIndexes] copy] autorelease];
+    [super reloadData];
+    [self restoreSelection:selection];
+    if ([self editedField]) {
+        // The field is still needed by the edit that ends just now.
+        if (!_reloadIsPending) {
+            _reloadIsPending = YES;
+            [self performSelector:@selector(exchangeRowViews) withObject:nil afterDelay:0 inModes:deferringModes()];
+        }
+        return;
+    }
+    [self exchangeRowViews];
+}
+
+- (void)restoreSelection:(NSIndexSet *)selection {
+    if ([selection count] == 0 || [selection isEqual:[self selectedRowIndexes]]) {
+        return;
+    }
+    if (static_cast<NSInteger>([selection lastIndex]) < [self numberOfRows]) {
+        [self selectRowIndexes:selection byExtendingSelection:NO];
+    }
+}
+
+- (void)exchangeRowViews {
+    _reloadIsPending = NO;
+    [self dropRowViews];
+    [self syncRowViews];
+    [self setNeedsDisplay:YES];
+}
+
+- (void)setDataSource:(id)dataSource {
+    [super setDataSource:dataSource];
+    [self takeRowHeight];
+}
+
+- (void)setDelegate:(id)delegate {
+    [super setDelegate:delegate];
+    [self takeRowHeight];
+}
+
+- (void)takeRowHeight {
+    if ([[self delegate] respondsToSelector:@selector(tableView:heightOfRow:)]) {
+        [self setRowHeight:[(id)[self delegate] tableView:self heightOfRow:0] + [self intercellSpacing].height];
+    }
+}
+
+- (void)tile {
+    [super tile];
+    [self syncRowViews];
+}
+
+- (void)setFrameSize:(NSSize)size {
+    [super setFrameSize:size];
+    [self syncRowViews];
+}
+
+- (void)viewDidMoveToWindow {
+    [super viewDidMoveToWindow];
+    [self syncRowViews];
+}
+
+- (void)viewDidMoveToSuperview {
+    [super viewDidMoveToSuperview];
+    NSNotificationCenter *center = [NSNotificationCenter defaultCenter];
+    [center removeObserver:self name:NSViewBoundsDidChangeNotification object:nil];
+    [center removeObserver:self name:NSViewFrameDidChangeNotification object:nil];
+    NSView *clip = [self superview];
+    if (clip) {
+        [clip setPostsBoundsChangedNotifications:YES];
+        [clip setPostsFrameChangedNotifications:YES];
+        [center addObserver:self
+                   selector:@selector(clipViewChanged:)
+                       name:NSViewBoundsDidChangeNotification
+                     object:clip];
+        [center addObserver:self
+                   selector:@selector(clipViewResized:)
+                       name:NSViewFrameDidChangeNotification
+                     object:clip];
+    }
+    [self fillWidth];
+}
+
+- (void)clipViewChanged:(NSNotification *)notification {
+    [self syncRowViews];
+}
+
+- (void)clipViewResized:(NSNotification *)notification {
+    [self fillWidth];
+    [self syncRowViews];
+}
+
+- (void)sizeToFit {
+    [self fillWidth];
+}
+
+/// Gives the columns that resize with the table equal shares of what is gained or lost.
+- (void)fillWidth {
+    NSView *clip = [self superview];
+    if (!clip || _isFillingWidth || [self numberOfColumns] == 0) {
+        return;
+    }
+    CGFloat used = 0;
+    NSMutableArray *flexible = [NSMutableArray array];
+    for (NSTableColumn *column in [self tableColumns]) {
+        used += [column width];
+        if (([column resizingMask] & NSTableColumnAutoresizingMask) != 0) {
+            [flexible addObject:column];
+        }
+    }
+    const CGFloat available = NSWidth([clip bounds]);
+    if ([flexible count] == 0 || available <= 0 || used == available) {
+        return;
+    }
+    _isFillingWidth = YES;
+    CGFloat rest = available - used;
+    NSUInteger left = [flexible count];
+    for (NSTableColumn *column in flexible) {
+        const CGFloat share = std::floor(rest / static_cast<CGFloat>(left));
+        const CGFloat width = std::max({minimumColumnWidth, [column minWidth], [column width] + share});
+        rest -= width - [column width];
+        --left;
+        [column setWidth:width];
+    }
+    _isFillingWidth = NO;
+    [self tile];
+    [[self headerView] setNeedsDisplay:YES];
+}
+
+#pragma mark Drawing
+
+- (void)setUsesAlternatingRowBackgroundColors:(BOOL)flag {
+    _alternatesRows = flag;
+    [self setNeedsDisplay:YES];
+}
+
+- (BOOL)usesAlternatingRowBackgroundColors {
+    return _alternatesRows;
+}
+
+- (void)drawBackgroundInClipRect:(NSRect)clip {
+    [[self backgroundColor] set];
+    NSRectFill(clip);
+    if (!_alternatesRows) {
+        return;
+    }
+    const CGFloat height = [self rowHeight];
+    [TNThemeCurrentColors()->alternateRow set];
+    for (auto stripe = static_cast<NSInteger>(NSMinY(clip) / height); static_cast<CGFloat>(stripe) * height < NSMaxY(clip);
+         ++stripe) {
+        if (stripe % 2 == 1) {
+            NSRectFill(NSIntersectionRect(
+                clip, NSMakeRect(NSMinX(clip), static_cast<CGFloat>(stripe) * height, NSWidth(clip), height)));
+        }
+    }
+}
+
+- (void)highlightSelectionInClipRect:(NSRect)clip {
+    const auto *colors = TNThemeCurrentColors();
+    [([[self window] isKeyWindow] ? colors->selectedRow : colors->selectedRowInactive) set];
+    NSIndexSet *selection = [self selectedRowIndexes];
+    for (NSUInteger row = [selection firstIndex]; row != NSNotFound; row = [selection indexGreaterThanIndex:row]) {
+        NSRectFill(NSIntersectionRect(clip, [self rectOfRow:static_cast<NSInteger>(row)]));
+    }
+}
+
+/// Views draw the cells.
+- (void)drawRow:(NSInteger)row clipRect:(NSRect)clip {
+}
+
+@end
