@@ -10,10 +10,8 @@
 
 - (void)beginWithCompletionHandler:(GSSavePanelCompletionHandler)handler {
     id block = [[(id)handler copy] autorelease];
-    [self performSelector:@selector(tnRunWithHandler:)
-               withObject:block
-               afterDelay:0
-                  inModes:[NSArray arrayWithObjects:NSDefaultRunLoopMode, NSModalPanelRunLoopMode, nil]];
+    // In the default mode alone: one that the panel's own loop runs in would begin a second panel inside it.
+    [self performSelector:@selector(tnRunWithHandler:) withObject:block afterDelay:0];
 }
 
 - (void)tnRunWithHandler:(id)block {
