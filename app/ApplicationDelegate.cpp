@@ -48,7 +48,7 @@ void ApplicationDelegate::observeValue(std::string_view keyPath, std::string_vie
 
 void ApplicationDelegate::darkModeChanged() {
     const auto isDark = platform_.systemVersion.isAtLeast(10, 15, 0) &&
-        platform_.preferences.systemWideString("AppleInterfaceStyle").has_value();
+                        platform_.preferences.systemWideString("AppleInterfaceStyle").has_value();
     if (window_) {
         window_->setBackground(isDark ? darkBackground : lightBackground);
     }

@@ -11,10 +11,11 @@ namespace tarnwick {
 class ApplicationDelegate {
 public:
     /// A null window makes the steps that need it do nothing.
-    ApplicationDelegate(const Platform& platform, WindowControl* window) : platform_(platform), window_(window) {}
+    ApplicationDelegate(const Platform& platform, WindowControl* window)
+        : platform_(platform), window_(window) {}
 
-    /// The install guard, then: window movable by its background, text background colour, appearance observer,
-    /// service relaunch in the background, activation; in this order.
+    /// The install guard, then: window movable by its background, text background colour, appearance
+    /// observer, service relaunch in the background, activation; in this order.
     void applicationWillFinishLaunching();
     /// Closing the settings window quits the application.
     [[nodiscard]] bool applicationShouldTerminateAfterLastWindowClosed() const { return true; }

@@ -43,8 +43,9 @@ bool runInstallGuard(const Platform& platform) {
     const auto& bundle = platform.bundle;
     const AlertRequest request{.messageText = bundle.localized("Warning"),
         .informativeText =
-            bundle.localized("In order to ensure the stability of Tarnwick, only one Tarnwick can be installed on "
-                             "your computer, and it can only be installed in the application of the system!") +
+            bundle.localized(
+                "In order to ensure the stability of Tarnwick, only one Tarnwick can be installed on "
+                "your computer, and it can only be installed in the application of the system!") +
             "\n" + bundle.localized("The current installation paths are:") + "\n" + *listing,
         .buttons = {bundle.localized("OK")}};
     platform.alerts.runModal(request);

@@ -13,8 +13,9 @@ void refuseLoginItemStart(const Platform& platform) {
     }
     AlertRequest request;
     request.style = AlertStyle::warning;
-    request.informativeText = platform.bundle.localized("Tarnwick is a Finder plug-in,and it starts with the system "
-                                                        "without adding it to the startup item.");
+    request.informativeText =
+        platform.bundle.localized("Tarnwick is a Finder plug-in,and it starts with the system "
+                                  "without adding it to the startup item.");
     platform.alerts.runModal(request);
     platform.process.exit(0);
 }

@@ -13,7 +13,9 @@ namespace tarnwick {
 namespace {
 
 /// The first system that lets an application ask about its extension and show where to enable it.
-bool hasManagementInterface(const SystemVersion& version) { return version.isAtLeast(10, 14, 0); }
+bool hasManagementInterface(const SystemVersion& version) {
+    return version.isAtLeast(10, 14, 0);
+}
 
 } // namespace
 

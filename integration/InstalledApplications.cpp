@@ -4,7 +4,8 @@
 
 namespace tarnwick {
 
-bool appWithBundleIdentifierInstalled(const LaunchServices& launchServices, std::string_view bundleIdentifier) {
+bool appWithBundleIdentifierInstalled(
+    const LaunchServices& launchServices, std::string_view bundleIdentifier) {
     const auto applications = launchServices.applications(bundleIdentifier);
     return !applications.failed && !applications.paths.empty();
 }

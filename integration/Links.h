@@ -6,7 +6,8 @@ namespace tarnwick {
 
 /// The fixed addresses that the window opens in the default browser.
 namespace link {
-inline constexpr std::string_view helpRestartFinder = "https://tarnwick.halvane.example/help/restart-finder.html";
+inline constexpr std::string_view helpRestartFinder =
+    "https://tarnwick.halvane.example/help/restart-finder.html";
 inline constexpr std::string_view helpServices = "https://tarnwick.halvane.example/help/services.html";
 inline constexpr std::string_view systemPreferences = "x-apple.systempreferences://";
 inline constexpr std::string_view allbright = "https://halvane.example/store/allbright";

@@ -31,7 +31,9 @@ struct ProcessSerialNumber {
     std::uint32_t low = 2;
 };
 
-std::string scriptIn(const std::string& folder) { return std::string(folder).append(scriptFile); }
+std::string scriptIn(const std::string& folder) {
+    return std::string(folder).append(scriptFile);
+}
 
 void logFailure(SystemLog& log, std::string_view what, const std::string& error) {
     log.write(std::string(taskLabel).append(" ").append(what).append(" error = ").append(error));
@@ -100,9 +102,10 @@ void ScriptHelper::openServicesOfSystemPreferences() {
 void ScriptHelper::initialize() {
     const auto& bundle = platform_.bundle;
     const AlertRequest request{.messageText = bundle.localized("Warning"),
-        .informativeText = bundle.localized("All setting parameters will be deleted !\n\nIf it is still abnormal "
-                                            "after initialization, delete all Tarnwick on the computer, restart "
-                                            "the computer, go to the App Store to download, install."),
+        .informativeText =
+            bundle.localized("All setting parameters will be deleted !\n\nIf it is still abnormal "
+                             "after initialization, delete all Tarnwick on the computer, restart "
+                             "the computer, go to the App Store to download, install."),
         .buttons = {bundle.localized("OK"), bundle.localized("Cancel")}};
     if (platform_.alerts.runModal(request) == alertFirstButton) {
         call(handler::initialize);

@@ -43,9 +43,8 @@ TEST_F(FinderExtensionTest, ThePromptComesAfterPublishingAndItsFlagIsSetOnceItIs
     platform_.runLoop.runMain();
     const auto& lines = platform_.log.lines();
     const auto tail = std::vector<std::string>(lines.end() - 4, lines.end());
-    EXPECT_EQ(tail,
-        (std::vector<std::string>{"observe applications", "alert Enable Extension", "show extension management",
-            "local set ShownEnableExtensionAlert"}));
+    EXPECT_EQ(tail, (std::vector<std::string>{"observe applications", "alert Enable Extension",
+                        "show extension management", "local set ShownEnableExtensionAlert"}));
 }
 
 TEST_F(FinderExtensionTest, ThePromptsTextsAreNotLocalised) {
@@ -91,9 +90,9 @@ TEST_F(FinderExtensionTest, NewerSystemsShowTheManagementScreen) {
 TEST_F(FinderExtensionTest, ARestartRequestIsStoredWithoutSynchronisingAndThenPosted) {
     controller_.restartFinderClick();
     EXPECT_EQ(shared("askActionFromTarnwick"), PlistValue(PlistDictionary{{"ActionType", "restartFinder"}}));
-    EXPECT_EQ(platform_.log.lines(),
-        (std::vector<std::string>{"shared open H7Q2ZK5RX9.org.halvane.Tarnwick", "shared set askActionFromTarnwick",
-            "post askActionFromTarnwick 3"}));
+    EXPECT_EQ(
+        platform_.log.lines(), (std::vector<std::string>{"shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
+                                   "shared set askActionFromTarnwick", "post askActionFromTarnwick 3"}));
 }
 
 TEST_F(FinderExtensionTest, TwoRestartRequestsPostTwice) {

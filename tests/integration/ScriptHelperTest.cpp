@@ -3,7 +3,8 @@
 namespace tarnwick::testing {
 namespace {
 
-constexpr const char* noTaskLine = "log -[SettingsViewController repairScriptTask] no AppleScript task error = no such file";
+constexpr const char* noTaskLine =
+    "log -[SettingsViewController repairScriptTask] no AppleScript task error = no such file";
 
 class ScriptHelperTest : public SettingsFixture {
 protected:
@@ -30,9 +31,8 @@ TEST_F(ScriptHelperTest, TheInstallPanelOpensOnTheScriptFolderForFoldersAlone) {
 TEST_F(ScriptHelperTest, ConfirmingTheFolderLogsTheSourceAndCopiesTheScript) {
     EXPECT_FALSE(controller_.checkScriptInstalled());
     installThroughPanel("/scripts");
-    EXPECT_EQ(platform_.log.lines(),
-        (std::vector<std::string>{"log /resources/applescript.scpt",
-            "copy /resources/applescript.scpt -> /scripts/applescript.scpt"}));
+    EXPECT_EQ(platform_.log.lines(), (std::vector<std::string>{"log /resources/applescript.scpt",
+                                         "copy /resources/applescript.scpt -> /scripts/applescript.scpt"}));
     EXPECT_TRUE(controller_.checkScriptInstalled());
 }
 
@@ -130,9 +130,10 @@ TEST_F(ScriptHelperTest, InitializingAsksFirstWithItsExactText) {
     install();
     controller_.initialize();
     const AlertRequest expected{.messageText = "Warning",
-        .informativeText = "All setting parameters will be deleted !\n\nIf it is still abnormal after initialization, "
-                           "delete all Tarnwick on the computer, restart the computer, go to the App Store to "
-                           "download, install.",
+        .informativeText =
+            "All setting parameters will be deleted !\n\nIf it is still abnormal after initialization, "
+            "delete all Tarnwick on the computer, restart the computer, go to the App Store to "
+            "download, install.",
         .buttons = {"OK", "Cancel"}};
     EXPECT_EQ(platform_.alerts.shown.front(), expected);
     EXPECT_TRUE(platform_.userScripts.events.empty());
