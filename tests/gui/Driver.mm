@@ -43,7 +43,7 @@ void postMouse(NSEventType type, NSPoint place, NSInteger clicks) {
     [NSApp postEvent:[NSEvent mouseEventWithType:type
                                         location:place
                                    modifierFlags:0
-                                       timestamp:[[NSProcessInfo processInfo] systemUptime]
+                                       timestamp:static_cast<NSTimeInterval>([[NSProcessInfo processInfo] systemUptime])
                                     windowNumber:[window() windowNumber]
                                          context:nil
                                      eventNumber:0
@@ -72,7 +72,7 @@ void postKey(NSString *characters, NSUInteger modifiers) {
         [NSApp postEvent:[NSEvent keyEventWithType:type
                                           location:NSZeroPoint
                                      modifierFlags:modifiers
-                                         timestamp:[[NSProcessInfo processInfo] systemUptime]
+                                         timestamp:static_cast<NSTimeInterval>([[NSProcessInfo processInfo] systemUptime])
                                       windowNumber:[window() windowNumber]
                                            context:nil
                                         characters:characters

@@ -1,0 +1,57 @@
+#include "tests/gui/Driver.h"
+#include "tests/gui/Foreign.h"
+
+#include <gtest/gtest.h>
+
+namespace tarnwick::gui {
+namespace {
+
+std::string names(const std::string& key, int count) {
+    return shared("[r['displayName'] for r in d['" + key + "']][:" + std::to_string(count) + "]");
+}
+
+TEST(Reordering, DraggingUpLandsInTheGap) {
+    dragRowIntoGap(RuleCategory::createNewFile, 3, 1);
+    EXPECT_EQ(names("arrOfCreateNewFile", 4), "['TXT', 'Word', 'RTF', 'XML']");
+    EXPECT_EQ(cellText(RuleCategory::createNewFile, 1, "Extension"), "docx");
+    EXPECT_EQ(selectedRow(RuleCategory::createNewFile), -1);
+    EXPECT_FALSE(removeButtonIsEnabled(RuleCategory::createNewFile));
+}
+
+TEST(Reordering, DraggingDownLandsOnePlaceFurther) {
+    dragRowIntoGap(RuleCategory::createNewFile, 0, 2);
+    EXPECT_EQ(names("arrOfCreateNewFile", 4), "['Word', 'RTF', 'TXT', 'XML']");
+}
+
+TEST(Reordering, ADropOnARowIsRefused) {
+    const auto before = names("arrOfCreateNewFile", 9);
+    dragRowOntoRow(RuleCategory::createNewFile, 0, 3);
+    EXPECT_EQ(names("arrOfCreateNewFile", 9), before);
+    EXPECT_EQ(selectedRow(RuleCategory::createNewFile), 0);
+}
+
+TEST(Reordering, ATargetDroppedBelowTheLastRowMovesToTheEnd) {
+    clickPageButton(Page::copyFilesTo);
+    clickButton("Reset List");
+    dragRowIntoGap(RuleCategory::copyFilesTo, 0, 4);
+    EXPECT_EQ(shared("[r['realPath'].split('/')[-1] for r in d['arrOfCopyFilesTo']]"),
+        "['Pictures', 'Music', 'Movies', 'Downloads']");
+}
+
+TEST(Reordering, ACustomIconMoves) {
+    clickPageButton(Page::customIcon);
+    dragRowIntoGap(RuleCategory::customIcon, 4, 0);
+    EXPECT_EQ(names("arrOfCustomIcon", 3), "['Cloud', 'App', 'Apple']");
+}
+
+TEST(Reordering, AnOthersItemMovesAndAFixedOneDoesNot) {
+    clickPageButton(Page::others);
+    dragRowIntoGap(RuleCategory::others, 2, 0);
+    EXPECT_EQ(names("arrOfOthers", 2), "['Copy Path', 'Cut']");
+    scrollToRow(RuleCategory::others, 17);
+    dragRowIntoGap(RuleCategory::others, 16, 13);
+    EXPECT_EQ(shared("d['arrOfOthers'][16]['Action']"), "'Translate by Google'");
+}
+
+} // namespace
+} // namespace tarnwick::gui

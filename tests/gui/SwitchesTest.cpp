@@ -1,0 +1,70 @@
+#include "tests/gui/Driver.h"
+#include "tests/gui/Foreign.h"
+
+#include <gtest/gtest.h>
+
+namespace tarnwick::gui {
+namespace {
+
+TEST(Switches, ARowsCheckBoxStoresAnIntegerAndTheSuiteFollowsAtOnce) {
+    clickCheckBox(RuleCategory::createNewFile, 2, "Enable");
+    EXPECT_FALSE(cellIsOn(RuleCategory::createNewFile, 2, "Enable"));
+    EXPECT_EQ(local("d['arrOfCreateNewFile'][2]['enable']"), "0");
+    EXPECT_EQ(local("d['arrOfCreateNewFile'][0]['enable']"), "'1'");
+    EXPECT_EQ(shared("[r['displayName'] for r in d['arrOfCreateNewFile']][:3]"), "['TXT', 'RTF', 'Word']");
+    EXPECT_EQ(selectedRow(RuleCategory::createNewFile), -1);
+}
+
+TEST(Switches, TheMainMenuCheckBoxHasAFieldOfItsOwn) {
+    clickCheckBox(RuleCategory::createNewFile, 1, "EnableMainMenu");
+    EXPECT_TRUE(cellIsOn(RuleCategory::createNewFile, 1, "EnableMainMenu"));
+    EXPECT_EQ(shared("[r['enableMainMenu'] for r in d['arrOfCreateNewFile'] if 'enableMainMenu' in r]"), "[1]");
+}
+
+TEST(Switches, EnableAllTurnsEveryTemplateOnAndTheSwitchFollowsASingleRow) {
+    clickButton("Enable all templates");
+    EXPECT_EQ(shared("len(d['arrOfCreateNewFile'])"), "15");
+    EXPECT_EQ(shared("set(type(r['enable']).__name__ for r in d['arrOfCreateNewFile'])"), "{'bool'}");
+    EXPECT_TRUE(cellIsOn(RuleCategory::createNewFile, 14, "Enable"));
+    EXPECT_TRUE(buttonIsOn("Enable all templates"));
+    clickCheckBox(RuleCategory::createNewFile, 0, "Enable");
+    EXPECT_FALSE(buttonIsOn("Enable all templates"));
+    clickCheckBox(RuleCategory::createNewFile, 0, "Enable");
+    EXPECT_TRUE(buttonIsOn("Enable all templates"));
+}
+
+TEST(Switches, AnOptionSwitchIsMirroredIntoTheSuiteAsABoolean) {
+    clickButton("Open a new file right away");
+    EXPECT_EQ(shared("d['enableAutoOpenAfterCreateNewFile']"), "False");
+    clickButton("Open a new file right away");
+    EXPECT_EQ(shared("d['enableAutoOpenAfterCreateNewFile']"), "True");
+    clickButton("Do not name new files automatically");
+    EXPECT_EQ(shared("d['disableAutoNameOfCreateNewFile']"), "True");
+}
+
+TEST(Switches, ATerminalSwitchStaysWithTheApplication) {
+    clickPageButton(Page::others);
+    clickButton("Open Terminal in a new window");
+    EXPECT_FALSE(buttonIsOn("Open Terminal in a new window"));
+    EXPECT_EQ(shared("d['newWindowOfOpenInTerminal']"), "True");
+}
+
+TEST(Switches, EnableAllOffLeavesTheFixedActionsOn) {
+    clickPageButton(Page::others);
+    clickButton("Enable all items");
+    EXPECT_EQ(shared("[(r['Action'], r['enable']) for r in d['arrOfOthers']]"),
+        "[('Translate by Baidu', 1), ('Translate by Google', 1), ('Change to QR Code', 1)]");
+    EXPECT_FALSE(cellIsOn(RuleCategory::others, 0, "OthersEnable"));
+    EXPECT_TRUE(cellIsOn(RuleCategory::others, 16, "OthersEnable"));
+    EXPECT_FALSE(cellIsEnabled(RuleCategory::others, 16, "OthersEnable"));
+}
+
+TEST(Switches, AFixedActionsCheckBoxCannotBeClicked) {
+    clickPageButton(Page::others);
+    clickCheckBox(RuleCategory::others, 16, "OthersEnable");
+    EXPECT_TRUE(cellIsOn(RuleCategory::others, 16, "OthersEnable"));
+    EXPECT_EQ(shared("[r['enable'] for r in d['arrOfOthers'] if r['Action'] == 'Translate by Google']"), "[1]");
+}
+
+} // namespace
+} // namespace tarnwick::gui
