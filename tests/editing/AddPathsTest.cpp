@@ -6,9 +6,9 @@ namespace {
 /// Paths that do not come from the chooser, and answers of the chooser that lead to no record.
 class AddPathsTest : public SettingsFixture {
 protected:
-    AddPathsTest() :
-        ports_(platform_.ports()), publisher_(ports_.preferences, preferences_, lists_),
-        pages_(lists_, preferences_, publisher_), addRules_(ports_, preferences_, pages_) {
+    AddPathsTest()
+        : ports_(platform_.ports()), publisher_(ports_.preferences, preferences_, lists_),
+          pages_(lists_, preferences_, publisher_), addRules_(ports_, preferences_, pages_) {
         launch();
         preferences_.open(ports_.preferences);
         const auto outlets = window_.outlets();
@@ -28,10 +28,10 @@ TEST_F(AddPathsTest, AreAddedStoredReloadedAndPublishedButRememberNoFolder) {
     addRules_.addPaths(RuleCategory::commonPath, {"/a/Zoo", "/b/Attic"});
     EXPECT_EQ(texts(localList(RuleCategory::commonPath), "displayName"),
         (std::vector<std::string>{"Zoo", "Attic"}));
-    EXPECT_EQ(platform_.log.lines(),
-        (std::vector<std::string>{"local set arrOfCommonPath", "local synchronise", "reload commonPath",
-            "shared open H7Q2ZK5RX9.org.halvane.Tarnwick", "shared set arrOfCommonPath",
-            "shared synchronise"}));
+    EXPECT_EQ(
+        platform_.log.lines(), (std::vector<std::string>{"local set arrOfCommonPath", "local synchronise",
+                                   "reload commonPath", "shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
+                                   "shared set arrOfCommonPath", "shared synchronise"}));
 }
 
 TEST_F(AddPathsTest, NoPathsDoNothing) {

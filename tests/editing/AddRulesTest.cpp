@@ -81,8 +81,8 @@ TEST_F(AddRulesTest, APictureKeepsItsExtensionInTheNameAndItsBytesInTheRecord) {
     platform_.images.pictureFiles["/home/Blue.png"] = "tiff of blue";
     choose(&Controller::addCustomIconRule, {"/home/Blue.png"});
     EXPECT_EQ(localList(RuleCategory::customIcon).back(),
-        PlistValue(PlistDictionary{
-            {"enable", 1}, {"icon", tiffOf("tiff of blue")}, {"displayName", "Blue.png"}, {"modified", "1"}}));
+        PlistValue(PlistDictionary{{"enable", 1}, {"icon", tiffOf("tiff of blue")},
+            {"displayName", "Blue.png"}, {"modified", "1"}}));
     EXPECT_EQ(local("prePathOfCustomIcon"), PlistValue("/home"));
 }
 
@@ -96,8 +96,8 @@ TEST_F(AddRulesTest, AnOthersItemTakesNameAndIconFromTheBuiltInImageOfThatName) 
     choose(&Controller::addOthersRule, {"/container/Templates/OthersMenuItemIcon/Copy Path.png"});
     EXPECT_EQ(localList(RuleCategory::others).back(),
         PlistValue(PlistDictionary{{"enable", 1}, {"icon", tiffOf("tiff of Copy Path")},
-            {"displayName", "Copy Path"}, {"nameModified", "0"}, {"noteModified", "0"}, {"Action", "Copy Path"},
-            {"Note", ""}}));
+            {"displayName", "Copy Path"}, {"nameModified", "0"}, {"noteModified", "0"},
+            {"Action", "Copy Path"}, {"Note", ""}}));
 }
 
 TEST_F(AddRulesTest, AnOthersNameWithoutBuiltInImageIsSkippedSilently) {

@@ -28,9 +28,10 @@ TEST_F(ChoosePathTest, StoresSynchronisesReloadsAndPublishesAndRemembersNoFolder
     controller_.selectPath(0);
     platform_.log.clear();
     platform_.openPanel.choose({"/Volumes/Backup"});
-    EXPECT_EQ(platform_.log.lines(),
-        (std::vector<std::string>{"local set arrOfCopyFilesTo", "local synchronise", "reload copyFilesTo",
-            "shared open H7Q2ZK5RX9.org.halvane.Tarnwick", "shared set arrOfCopyFilesTo", "shared synchronise"}));
+    EXPECT_EQ(
+        platform_.log.lines(), (std::vector<std::string>{"local set arrOfCopyFilesTo", "local synchronise",
+                                   "reload copyFilesTo", "shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
+                                   "shared set arrOfCopyFilesTo", "shared synchronise"}));
 }
 
 TEST_F(ChoosePathTest, ATargetWithoutFolderKeepsItsFlagAndCanBeSwitchedOnAfterwards) {

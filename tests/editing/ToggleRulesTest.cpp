@@ -6,7 +6,8 @@ namespace {
 
 class ToggleRulesTest : public SettingsFixture {
 protected:
-    [[nodiscard]] PlistValue storedFlag(RuleCategory category, std::size_t row, const std::string& key = "enable") const {
+    [[nodiscard]] PlistValue storedFlag(
+        RuleCategory category, std::size_t row, const std::string& key = "enable") const {
         return localList(category)[row].dictionary()->at(key);
     }
 };
@@ -114,8 +115,9 @@ TEST_F(ToggleRulesTest, EnableAllReloadsThenStoresWithoutSynchronisingThenPublis
     launch();
     controller_.enableAllOfCustomIconClick();
     EXPECT_EQ(platform_.log.lines(),
-        (std::vector<std::string>{"reload customIcon", "local set arrOfCustomIcon", "local set enableAllOfCustomIcon",
-            "shared open H7Q2ZK5RX9.org.halvane.Tarnwick", "shared set arrOfCustomIcon", "shared synchronise"}));
+        (std::vector<std::string>{"reload customIcon", "local set arrOfCustomIcon",
+            "local set enableAllOfCustomIcon", "shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
+            "shared set arrOfCustomIcon", "shared synchronise"}));
 }
 
 TEST_F(ToggleRulesTest, EnableAllOnAnEmptyListPublishesAnEmptyList) {
@@ -138,10 +140,9 @@ TEST_P(MirroredKeyTest, IsCopiedIntoTheSuiteAsABooleanAndSynchronised) {
         platform_.log.clear();
         platform_.preferences.userSets(GetParam(), on);
         EXPECT_EQ(shared(GetParam()), PlistValue(on));
-        EXPECT_EQ(platform_.log.lines(),
-            (std::vector<std::string>{"local set " + std::string(GetParam()),
-                "shared open H7Q2ZK5RX9.org.halvane.Tarnwick", "shared set " + std::string(GetParam()),
-                "shared synchronise"}));
+        EXPECT_EQ(platform_.log.lines(), (std::vector<std::string>{"local set " + std::string(GetParam()),
+                                             "shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
+                                             "shared set " + std::string(GetParam()), "shared synchronise"}));
     }
 }
 

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "tests/editing/RuleModel.h"
+#include "tests/support/SettingsFixture.h"
+
+#include <array>
+#include <random>
+#include <string>
+#include <tuple>
+#include <vector>
+
+namespace tarnwick::testing {
+
+/// A first launch, or the launch of a program that has been used for long: a target without folder, common
+/// paths, an Others list from before the editors, and a template whose file cannot be made.
+enum class Start { fresh, used };
+
+/// Random edits through the controller, each also done to the model.
+class RandomWalkTest : public SettingsFixture,
+                       public ::testing::WithParamInterface<std::tuple<Start, unsigned>> {
+protected:
+    RandomWalkTest();
+
+    void step();
+    /// The lists on the screen, both stores and the template folder are what the model says.
+    void check() const;
+
+private:
+    void describeFactory();
+    void useForLong();
+
+    [[nodiscard]] std::vector<std::string> onScreen(RuleCategory category) const;
+    [[nodiscard]] std::vector<std::string> expectedOnScreen(RuleCategory category) const;
+
+    void add(RuleCategory category);
+    void remove(RuleCategory category);
+    void reset(RuleCategory category);
+    void toggle(RuleCategory category);
+    void enableAll(RuleCategory category);
+    void drop(RuleCategory category);
+    void rename(RuleCategory category);
+    void editNote();
+    void choosePath();
+
+    long pick(long below) { return std::uniform_int_distribution<long>(0, below - 1)(random_); }
+    bool flip() { return pick(2) == 1; }
+    std::string freshName() { return "N" + std::to_string(++names_); }
+    [[nodiscard]] long rows(RuleCategory category) const {
+        return static_cast<long>(model_.list(category).size());
+    }
+    /// A row, or the place before or behind them all.
+    long anyRow(RuleCategory category) { return pick(rows(category) + 2) - 1; }
+    void noteSaved(RuleCategory category, bool saved);
+
+    std::mt19937 random_;
+    RuleModel model_;
+    /// What was stored before the launch.
+    std::vector<PlistValue> originals_;
+    /// Whether the stored list is the one in memory, and whether the extension has been given it.
+    std::array<bool, 5> stored_{};
+    std::array<bool, 5> published_{};
+    int names_ = 0;
+};
+
+} // namespace tarnwick::testing

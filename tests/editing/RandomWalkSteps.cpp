@@ -1,0 +1,193 @@
+#include "tests/editing/RandomWalk.h"
+
+#include <algorithm>
+
+namespace tarnwick::testing {
+namespace {
+
+using Controller = SettingsViewController;
+using Action = void (Controller::*)();
+
+constexpr std::array<Action, 5> addActions{&Controller::addCreateNewFileRule, &Controller::addSendFilesToRule,
+    &Controller::addCommonPathRule, &Controller::addCustomIconRule, &Controller::addOthersRule};
+constexpr std::array<Action, 5> removeActions{&Controller::removeCreateNewFileRule,
+    &Controller::removeCopyFilesToRule, &Controller::removeCommondPathRule, &Controller::removeCustomIconRule,
+    &Controller::removeOthersRule};
+constexpr std::array<Action, 5> resetActions{&Controller::resetCreateNewFileRule,
+    &Controller::resetCopyFilesToRule, nullptr, &Controller::resetCustomIconRule,
+    &Controller::resetOthersRule};
+constexpr std::array<Action, 5> enableAllActions{&Controller::enableAllOfCreateNewFilesClick, nullptr,
+    nullptr, &Controller::enableAllOfCustomIconClick, &Controller::enableAllOfOthersClick};
+
+constexpr std::array<const char*, 5> nameFields{
+    "NewFileDisplayName", "Note", "commonPathDisplayName", "CustomIconName", "OthersDisplayName"};
+constexpr std::array<const char*, 5> nameMarks{"modified", "", "", "modified", "nameModified"};
+
+/// Names of factory templates, of nothing, and of places outside the template folder.
+constexpr std::array<const char*, 8> awkwardNames{
+    "TXT", "Word", "Memo", "Memo", "", ".", "../Outside", "a/b"};
+constexpr std::array<const char*, 4> fileNames{"TXT", "Memo", "Letter", "Archive.tar"};
+constexpr std::array<const char*, 4> extensions{"txt", "docx", "gz", ""};
+
+std::size_t at(RuleCategory category) {
+    return static_cast<std::size_t>(category);
+}
+
+} // namespace
+
+void RandomWalkTest::step() {
+    const auto category = allRuleCategories[static_cast<std::size_t>(pick(5))];
+    switch (pick(10)) {
+    case 0:
+        return add(category);
+    case 1:
+        return remove(category);
+    case 2:
+        return pick(12) == 0 ? reset(category) : enableAll(category);
+    case 3:
+    case 4:
+        return toggle(category);
+    case 5:
+    case 6:
+        return drop(category);
+    case 7:
+        return rename(category);
+    case 8:
+        return editNote();
+    default:
+        return choosePath();
+    }
+}
+
+void RandomWalkTest::noteSaved(RuleCategory category, bool saved) {
+    stored_[at(category)] = stored_[at(category)] || saved;
+    published_[at(category)] = published_[at(category)] || saved;
+}
+
+void RandomWalkTest::add(RuleCategory category) {
+    (controller_.*addActions[at(category)])();
+    if (pick(4) == 0) {
+        return platform_.openPanel.cancel();
+    }
+    const auto name = flip() ? freshName() : std::string(fileNames[static_cast<std::size_t>(pick(3))]);
+    const std::string extension = extensions[static_cast<std::size_t>(pick(extensions.size()))];
+    const auto readable = pick(4) != 0;
+    auto tiff = tiffOf(readable ? "tiff of " + name : "");
+    switch (category) {
+    case RuleCategory::createNewFile: {
+        const auto path = "/home/" + name + (extension.empty() ? "" : ".") + extension;
+        platform_.files.files[path] = "a template";
+        platform_.openPanel.choose({path});
+        return noteSaved(category, model_.addTemplate(name, extension));
+    }
+    case RuleCategory::copyFilesTo:
+    case RuleCategory::commonPath:
+        platform_.openPanel.choose({"/home/" + name});
+        return noteSaved(category, model_.addFolder(category, "/home", name));
+    case RuleCategory::customIcon:
+        platform_.images.pictureFiles["/home/" + name + ".png"] = readable ? "tiff of " + name : "";
+        platform_.openPanel.choose({"/home/" + name + ".png"});
+        return noteSaved(category, model_.addIcon(name + ".png", tiff));
+    case RuleCategory::others:
+        break;
+    }
+    platform_.images.missingNames.clear();
+    if (!readable) {
+        platform_.images.missingNames.insert(name);
+    }
+    platform_.openPanel.choose({"/home/" + name + ".png"});
+    noteSaved(category, model_.addAction(name, tiff));
+}
+
+void RandomWalkTest::remove(RuleCategory category) {
+    auto& table = window_.table(category);
+    const auto row = std::min(anyRow(category), rows(category) - 1);
+    table.selected = row;
+    (controller_.*removeActions[at(category)])();
+    noteSaved(category, model_.remove(category, row));
+    // An empty list is published whether or not there was anything to remove.
+    published_[at(category)] = published_[at(category)] || rows(category) == 0;
+    const auto newFirst = row == 0 && rows(category) > 0 ? 0 : -1;
+    EXPECT_EQ(table.selected, row > 0 ? row - 1 : newFirst);
+}
+
+void RandomWalkTest::reset(RuleCategory category) {
+    if (const auto action = resetActions[at(category)]) {
+        (controller_.*action)();
+        noteSaved(category, model_.reset(category));
+    }
+}
+
+void RandomWalkTest::toggle(RuleCategory category) {
+    const auto row = anyRow(category);
+    const auto on = flip();
+    switch (category) {
+    case RuleCategory::createNewFile:
+        if (pick(4) == 0) {
+            controller_.onOffEnableMainMenuStateChangedOfCreateNewFile(row, on);
+            return noteSaved(category, model_.set(category, row, "enableMainMenu", on));
+        }
+        controller_.onOffcheckedStateChangedOfCreateNewFile(row, on);
+        break;
+    case RuleCategory::copyFilesTo:
+        controller_.onOffcheckedStateChangedOfCopyTo(row, on);
+        break;
+    case RuleCategory::commonPath:
+        return;
+    case RuleCategory::customIcon:
+        controller_.onOffcheckedStateChangedOfCustomIcon(row, on);
+        break;
+    case RuleCategory::others:
+        controller_.onOffcheckedStateChangedOfOthers(row, on);
+        break;
+    }
+    noteSaved(category, model_.set(category, row, "enable", on));
+}
+
+void RandomWalkTest::enableAll(RuleCategory category) {
+    if (const auto action = enableAllActions[at(category)]) {
+        const auto on = flip();
+        platform_.preferences.userSets(factsOf(category).enableAllKey, on);
+        (controller_.*action)();
+        noteSaved(category, model_.enableAll(category, on));
+    }
+}
+
+void RandomWalkTest::drop(RuleCategory category) {
+    const auto from = anyRow(category);
+    const auto to = pick(rows(category) + 3) - 1;
+    EXPECT_TRUE(controller_.acceptDrop(category, category, from, to));
+    noteSaved(category, model_.drop(category, from, to));
+}
+
+void RandomWalkTest::rename(RuleCategory category) {
+    const auto row = anyRow(category);
+    const auto text =
+        flip() ? freshName() : std::string(awkwardNames[static_cast<std::size_t>(pick(awkwardNames.size()))]);
+    EXPECT_TRUE(controller_.controlTextShouldEndEditing(nameFields[at(category)], row, text));
+    noteSaved(category, model_.rename(category, row, nameMarks[at(category)], text));
+}
+
+void RandomWalkTest::editNote() {
+    const auto row = anyRow(RuleCategory::others);
+    const auto text = freshName();
+    EXPECT_TRUE(controller_.controlTextShouldEndEditing("OthersNote", row, text));
+    noteSaved(RuleCategory::others, model_.editNote(row, text));
+}
+
+void RandomWalkTest::choosePath() {
+    const auto row = anyRow(RuleCategory::copyFilesTo);
+    controller_.selectPath(row);
+    if (flip()) {
+        // The list may change while the chooser is open.
+        remove(RuleCategory::copyFilesTo);
+    }
+    if (pick(4) == 0) {
+        return platform_.openPanel.cancel();
+    }
+    const auto path = "/chosen/" + freshName();
+    platform_.openPanel.choose({path});
+    noteSaved(RuleCategory::copyFilesTo, model_.choosePath(row, path));
+}
+
+} // namespace tarnwick::testing
