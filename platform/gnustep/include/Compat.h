@@ -16,7 +16,6 @@
 #import "TNAdditions.h"
 #import "TNConstants.h"
 
-#if __has_include("TNTableView.h")
+// Missing: view-based tables, as of GNUstep GUI 0.29.
 #import "TNTableView.h"
 #define NSTableView TNTableView
-#endif
