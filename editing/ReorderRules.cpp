@@ -11,7 +11,7 @@ void ReorderRules::acceptDrop(
     }
     const auto category = *target;
     auto& list = pages_.list(category);
-    if (!list.holds(from) || to < 0) {
+    if (!list.holds(from)) {
         return;
     }
     const auto fromIndex = static_cast<std::size_t>(from);
@@ -23,7 +23,7 @@ void ReorderRules::acceptDrop(
         pages_.list(category == RuleCategory::others ? RuleCategory::customIcon : category).size();
     const auto index = to == static_cast<long>(counted) ? to - 1 : to;
     if (!list.holds(index)) {
-        // No place in the list without the record: it stays where it was.
+        // Above the list or past the end of it without the record: the record stays where it was.
         return;
     }
     auto record = list[fromIndex];

@@ -132,6 +132,20 @@ TEST_F(ToggleRulesTest, EnableAllOnAnEmptyListPublishesAnEmptyList) {
     EXPECT_EQ(local("enableAllOfCustomIcon"), PlistValue(true));
 }
 
+TEST_F(ToggleRulesTest, EnableAllLeavesAListWithoutSuchASwitchAlone) {
+    const auto ports = platform_.ports();
+    LocalPreferences preferences;
+    preferences.open(ports.preferences);
+    RuleLists lists;
+    RulePublisher publisher(ports.preferences, preferences, lists);
+    RulePages pages(lists, preferences, publisher);
+    lists[RuleCategory::commonPath].append(makeRecord({{"enable", 1}, {"realPath", "/a"}}));
+    platform_.log.clear();
+    ToggleRules(preferences, pages).enableAll(RuleCategory::commonPath);
+    EXPECT_TRUE(lists[RuleCategory::commonPath][0].isEnabled());
+    EXPECT_TRUE(platform_.log.lines().empty());
+}
+
 class MirroredKeyTest : public ToggleRulesTest, public ::testing::WithParamInterface<std::string_view> {};
 
 TEST_P(MirroredKeyTest, IsCopiedIntoTheSuiteAsABooleanAndSynchronised) {
