@@ -13,6 +13,18 @@ NSColor *colorOf(const Colour &colour) {
     return [NSColor colorWithDeviceRed:colour.red green:colour.green blue:colour.blue alpha:colour.alpha];
 }
 
+/// The first table below a view; nil when there is none.
+NSTableView *tableIn(NSView *view) {
+    for (NSView *inner in [view subviews]) {
+        NSTableView *found =
+            [inner isKindOfClass:[NSTableView class]] ? static_cast<NSTableView *>(inner) : tableIn(inner);
+        if (found) {
+            return found;
+        }
+    }
+    return nil;
+}
+
 class AppKitTable final : public TableControl {
 public:
     explicit AppKitTable(NSTableView *table) : table_(table) {}
@@ -75,7 +87,12 @@ private:
 class AppKitTabs final : public TabControl {
 public:
     explicit AppKitTabs(NSTabView *tabView) : tabView_(tabView) {}
-    void selectTab(int index) override { [tabView_ selectTabViewItem:[tabView_ tabViewItemAtIndex:index]]; }
+    /// The keyboard goes to the page's table.
+    void selectTab(int index) override {
+        NSTabViewItem *item = [tabView_ tabViewItemAtIndex:index];
+        [tabView_ selectTabViewItem:item];
+        [[tabView_ window] makeFirstResponder:tableIn([item view])];
+    }
 
 private:
     NSTabView *tabView_;

@@ -59,9 +59,7 @@ void addEnableAllSwitch(
 NSTableColumn *makeColumn(const ColumnLayout &facts) {
     NSTableColumn *column = [[[NSTableColumn alloc] initWithIdentifier:toNSString(facts.identifier)] autorelease];
     [[column headerCell] setStringValue:facts.title.empty() ? @"" : localizedText(facts.title)];
-    if (facts.identifier == "Size") {
-        [[column headerCell] setAlignment:NSTextAlignmentCenter];
-    }
+    [[column headerCell] setAlignment:facts.flexible ? NSTextAlignmentLeft : NSTextAlignmentCenter];
     [column setWidth:facts.width];
     [column setEditable:NO];
     if (facts.flexible) {
@@ -86,6 +84,7 @@ RuleTableView *makeTable(
     [table setAllowsMultipleSelection:NO];
     [table setAllowsEmptySelection:YES];
     [table setAllowsColumnReordering:NO];
+    [table setGridStyleMask:NSTableViewGridNone];
     [table setUsesAlternatingRowBackgroundColors:YES];
     [table setColumnAutoresizingStyle:NSTableViewUniformColumnAutoresizingStyle];
     [table setNameColumn:actions.nameColumn switchColumn:actions.switchColumn];

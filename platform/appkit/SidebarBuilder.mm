@@ -6,6 +6,19 @@
 
 #include "ui/WindowLayout.h"
 
+/// The sidebar's ground, a shade apart from that of the pages.
+@interface SidebarView : NSView
+@end
+
+@implementation SidebarView
+
+- (void)drawRect:(NSRect)rect {
+    [[NSColor windowBackgroundColor] set];
+    NSRectFill(rect);
+}
+
+@end
+
 namespace tarnwick {
 namespace {
 
@@ -15,6 +28,7 @@ constexpr CGFloat topMargin = 20;
 constexpr CGFloat pageButtonHeight = 36;
 constexpr CGFloat pageButtonPitch = 40;
 constexpr CGFloat iconSize = 20;
+constexpr CGFloat iconPadding = 8;
 
 SEL selectorOf(Page page) {
     switch (page) {
@@ -34,16 +48,26 @@ SEL selectorOf(Page page) {
     return @selector(moreAppPressed:);
 }
 
+/// The icon with room at its sides: a borderless button has none of its own.
+NSImage *paddedIcon(NSImage *icon) {
+    NSImage *padded = [[[NSImage alloc] initWithSize:NSMakeSize(iconSize + 2 * iconPadding, iconSize)] autorelease];
+    [padded lockFocus];
+    [icon drawInRect:NSMakeRect(iconPadding, 0, iconSize, iconSize)
+            fromRect:NSZeroRect
+           operation:NSCompositingOperationSourceOver
+            fraction:1];
+    [padded unlockFocus];
+    return padded;
+}
+
 NSButton *makePageButton(const PageLayout &layout, ::SettingsViewController *controller) {
     NSButton *button = [[[NSButton alloc] init] autorelease];
     [button setBordered:NO];
     [button setWantsLayer:YES];
     [[button layer] setCornerRadius:6];
     [button setAlignment:NSTextAlignmentLeft];
-    [button setTitle:[@"  " stringByAppendingString:localizedText(layout.title)]];
-    NSImage *image = [[resourceImage(layout.image) copy] autorelease];
-    [image setSize:NSMakeSize(iconSize, iconSize)];
-    [button setImage:image];
+    [button setTitle:localizedText(layout.title)];
+    [button setImage:paddedIcon(resourceImage(layout.image))];
     [button setImagePosition:NSImageLeft];
     [button setTarget:controller];
     [button setAction:selectorOf(layout.page)];
@@ -62,7 +86,7 @@ CGFloat addAtFoot(NSView *sidebar, NSView *view, CGFloat bottom, CGFloat height)
 } // namespace
 
 NSView *makeSidebar(CGFloat height, ::SettingsViewController *controller, SettingsOutlets *outlets) {
-    NSView *sidebar = [[[NSView alloc] initWithFrame:NSMakeRect(0, 0, sidebarWidth, height)] autorelease];
+    NSView *sidebar = [[[SidebarView alloc] initWithFrame:NSMakeRect(0, 0, sidebarWidth, height)] autorelease];
     [sidebar setAutoresizingMask:NSViewHeightSizable];
 
     CGFloat top = height - topMargin;

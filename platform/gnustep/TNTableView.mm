@@ -283,6 +283,11 @@ NSArray *deferringModes() {
 
 #pragma mark Drawing
 
+- (void)setGridStyleMask:(NSTableViewGridLineStyle)mask {
+    [super setGridStyleMask:mask];
+    [self setDrawsGrid:mask != NSTableViewGridNone];
+}
+
 - (void)setUsesAlternatingRowBackgroundColors:(BOOL)flag {
     _alternatesRows = flag;
     [self setNeedsDisplay:YES];

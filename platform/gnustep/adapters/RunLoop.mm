@@ -53,8 +53,7 @@ public:
     void performAfterDelay(double seconds, std::function<void()> work) override {
         [deferred(std::move(work)) performSelector:@selector(run:)
                                         withObject:nil
-                                        afterDelay:seconds
-                                           inModes:commonModes()];
+                                        afterDelay:seconds];
     }
     void performOnMainQueue(std::function<void()> work) override {
         [deferred(std::move(work)) performSelectorOnMainThread:@selector(run:)

@@ -1,8 +1,9 @@
 #pragma once
 
 #import <AppKit/AppKit.h>
+#import <GNUstepGUI/GSTheme.h>
 
-/// The colours of everything that the theme and the layer draw. Objects live for the whole run.
+/// The colours of everything that the theme and the layer draw. They live for the whole run.
 struct TNThemeColors {
     NSColor *window;
     NSColor *surface;
@@ -11,14 +12,31 @@ struct TNThemeColors {
     NSColor *selectedRowInactive;
     NSColor *text;
     NSColor *secondaryText;
-    NSColor *disabledText;
     NSColor *border;
     NSColor *control;
     NSColor *controlPressed;
     NSColor *header;
+    NSColor *knob;
     NSColor *accent;
     NSColor *accentText;
 };
 
+enum class TNThemeAppearance { light, dark };
+
 /// The table in use.
 const TNThemeColors *TNThemeCurrentColors();
+/// Takes effect for what is drawn from now on.
+void TNThemeUseAppearance(TNThemeAppearance appearance);
+
+/// A clean, flat theme in the manner of the Mac.
+@interface TNTheme : GSTheme
+@end
+
+/// Draws the pictures of check boxes, radio buttons and window buttons in the current colours, under the names by
+/// which GNUstep asks for them.
+void TNThemeInstallImages();
+/// The system's named colours in the current appearance; autoreleased.
+NSColorList *TNThemeMakeColorList();
+
+/// A path around a rectangle, on whole pixels, for a line of one point.
+NSBezierPath *TNThemeHairline(NSRect rect, CGFloat radius);
