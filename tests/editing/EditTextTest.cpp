@@ -66,14 +66,10 @@ TEST_F(EditTextTest, ARowThatTheListDoesNotHaveChangesNothing) {
 }
 
 TEST_F(EditTextTest, RenamingATemplateMovesItsFileLastOfAll) {
+    const std::string folder = "/container/Templates/CreateNewFile/";
     edit("NewFileDisplayName", 0, "Memo");
-    EXPECT_EQ(platform_.log.lines(),
-        (std::vector<std::string>{"local set arrOfCreateNewFile", "local synchronise", "reload createNewFile",
-            "local set enableAllOfCreateNewFiles", "local set enableAllOfCreateNewFiles",
-            "shared open H7Q2ZK5RX9.org.halvane.Tarnwick", "shared set arrOfCreateNewFile",
-            "shared synchronise",
-            "move /container/Templates/CreateNewFile/TXT.txt -> "
-            "/container/Templates/CreateNewFile/Memo.txt"}));
+    EXPECT_EQ(platform_.log.lines().back(), "move " + folder + "TXT.txt -> " + folder + "Memo.txt");
+    EXPECT_EQ(platform_.log.linesWith("move ").size(), 1U);
     EXPECT_TRUE(hasTemplate("Memo.txt"));
     EXPECT_FALSE(hasTemplate("TXT.txt"));
 }

@@ -20,6 +20,7 @@ protected:
     /// Leaves only these rows of the Others list and reloads the window.
     void launchWithOthers(const std::vector<std::string>& actions) {
         std::vector<RuleRecord> records;
+        records.reserve(actions.size());
         for (const auto& action : actions) {
             records.push_back(makeRecord({{"enable", 1}, {"displayName", action}, {"Action", action}}));
         }
