@@ -1,0 +1,109 @@
+#include "tests/support/SettingsFixture.h"
+
+#include <algorithm>
+
+namespace tarnwick::testing {
+namespace {
+
+class UnreadableValuesTest : public SettingsFixture {
+protected:
+    void store(const std::string& key, PlistValue value) {
+        platform_.preferences.local.insert_or_assign(key, std::move(value));
+    }
+    [[nodiscard]] bool has(const std::string& key) const { return platform_.preferences.local.count(key) != 0; }
+};
+
+class UnreadableListTest : public UnreadableValuesTest, public ::testing::WithParamInterface<RuleCategory> {};
+
+TEST_P(UnreadableListTest, ThatIsNoArrayReadsAsMissingAndIsKeptBeforeAnythingOverwritesIt) {
+    const std::string key(factsOf(GetParam()).listKey);
+    store(key, "damaged");
+    controller_.awakeFromNib();
+    platform_.runLoop.runMain();
+    EXPECT_EQ(local(key + ".unreadable"), PlistValue("damaged"));
+    const auto& lines = platform_.log.lines();
+    const auto kept = std::find(lines.begin(), lines.end(), "local set " + key + ".unreadable");
+    EXPECT_EQ(std::find(lines.begin(), kept, "local set " + key), kept);
+    ASSERT_EQ(platform_.systemLog.lines.size(), 1U);
+    EXPECT_EQ(platform_.systemLog.lines[0].rfind(key + ":", 0), 0U);
+}
+
+TEST_P(UnreadableListTest, WithElementsThatAreNoDictionariesKeepsTheOthers) {
+    const std::string key(factsOf(GetParam()).listKey);
+    platform_.files.folders.insert("/container/Templates/CreateNewFile");
+    const PlistArray stored{"text", PlistDictionary{{"enable", 1}, {"displayName", "good"}}, 7};
+    store(key, stored);
+    controller_.awakeFromNib();
+    EXPECT_EQ(controller_.numberOfRows(GetParam()), GetParam() == RuleCategory::others ? 4 : 1);
+    EXPECT_EQ(local(key + ".unreadable"), PlistValue(stored));
+}
+
+INSTANTIATE_TEST_SUITE_P(Every, UnreadableListTest, ::testing::ValuesIn(allRuleCategories));
+
+TEST_F(UnreadableValuesTest, ATargetListThatIsNoArrayCountsAsAFirstRun) {
+    store("arrOfCopyFilesTo", 7);
+    controller_.awakeFromNib();
+    EXPECT_EQ(shared("arrOfEnableOther").array()->size(), 11U);
+}
+
+TEST_F(UnreadableValuesTest, FieldsOfTheWrongTypeAreKeptAsideAndReadAsMissing) {
+    const PlistArray stored{
+        PlistDictionary{{"enable", 1}, {"displayName", 42}, {"icon", "no image"}, {"modified", PlistArray{}}}};
+    store("arrOfCustomIcon", stored);
+    controller_.awakeFromNib();
+    EXPECT_EQ(local("arrOfCustomIcon.unreadable"), PlistValue(stored));
+    const auto name = controller_.viewForTableColumn(RuleCategory::customIcon, "CustomIconName", 0);
+    EXPECT_EQ(std::get_if<TextFieldCell>(&name.control)->text, "");
+    const auto icon = controller_.viewForTableColumn(RuleCategory::customIcon, "Icon", 0);
+    EXPECT_EQ(std::get_if<ImageCell>(&icon.control)->image, nullptr);
+}
+
+TEST_F(UnreadableValuesTest, AnOriginalIsNeverReplacedByALaterOne) {
+    store("arrOfCommonPath", "first");
+    controller_.awakeFromNib();
+    store("arrOfCommonPath", "second");
+    controller_.awakeFromNib();
+    EXPECT_EQ(local("arrOfCommonPath.unreadable"), PlistValue("first"));
+    EXPECT_EQ(local("arrOfCommonPath.unreadable.2"), PlistValue("second"));
+}
+
+TEST_F(UnreadableValuesTest, TheSameOriginalIsKeptOnce) {
+    store("arrOfCommonPath", "damaged");
+    controller_.awakeFromNib();
+    controller_.awakeFromNib();
+    EXPECT_FALSE(has("arrOfCommonPath.unreadable.2"));
+}
+
+TEST_F(UnreadableValuesTest, ABadRecordAmongChangedOnesIsNotKeptAgain) {
+    const PlistValue bad(PlistDictionary{{"displayName", 1}});
+    store("arrOfCommonPath", PlistArray{bad});
+    controller_.awakeFromNib();
+    store("arrOfCommonPath", PlistArray{bad, PlistDictionary{{"displayName", "good"}}});
+    controller_.awakeFromNib();
+    EXPECT_FALSE(has("arrOfCommonPath.unreadable.2"));
+}
+
+TEST_F(UnreadableValuesTest, SoundListsAreLeftAloneWithoutALogLine) {
+    launch();
+    launch();
+    for (const auto& [key, value] : platform_.preferences.local) {
+        EXPECT_EQ(key.find(".unreadable"), std::string::npos) << key;
+    }
+    EXPECT_TRUE(platform_.systemLog.lines.empty());
+}
+
+TEST_F(UnreadableValuesTest, UnknownFieldsOfAnyTypeAreSound) {
+    store("arrOfCommonPath", PlistArray{PlistDictionary{{"enable", "1"}, {"color", PlistArray{1, 2}}}});
+    controller_.awakeFromNib();
+    EXPECT_FALSE(has("arrOfCommonPath.unreadable"));
+}
+
+TEST_F(UnreadableValuesTest, AFeatureArrayThatIsNoArrayBecomesTheOneEntryArray) {
+    storeList(RuleCategory::copyFilesTo, {});
+    platform_.preferences.shared.insert_or_assign("arrOfEnableOther", "damaged");
+    controller_.awakeFromNib();
+    EXPECT_EQ(shared("arrOfEnableOther"), PlistValue(PlistArray{"enableImagetoIcon"}));
+}
+
+} // namespace
+} // namespace tarnwick::testing
