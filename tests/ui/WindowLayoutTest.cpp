@@ -1,0 +1,50 @@
+#include "prefs/PreferenceKeys.h"
+#include "tests/support/SettingsFixture.h"
+#include "ui/WindowLayout.h"
+
+#include <set>
+
+namespace tarnwick::testing {
+namespace {
+
+class WindowLayoutTest : public SettingsFixture {};
+
+TEST_F(WindowLayoutTest, ThePagesStandInTheOrderOfTheTabView) {
+    for (std::size_t index = 0; index < pageCount; ++index) {
+        EXPECT_EQ(static_cast<std::size_t>(pageLayouts()[index].page), index);
+    }
+}
+
+TEST_F(WindowLayoutTest, EveryColumnOfThePagesHasACell) {
+    storeList(RuleCategory::copyFilesTo, {makeRecord({{"realPath", "/a"}})});
+    storeList(RuleCategory::commonPath, {makeRecord({{"realPath", "/a"}})});
+    launch();
+    for (const auto& page : pageLayouts()) {
+        for (const auto& column : page.columns) {
+            EXPECT_NE(controller_.viewForTableColumn(*page.category, column.identifier, 0), CellView{})
+                << column.identifier;
+        }
+    }
+}
+
+TEST_F(WindowLayoutTest, EveryOptionSwitchStandsOnExactlyOnePage) {
+    std::set<std::string_view> keys;
+    for (const auto& page : pageLayouts()) {
+        for (const auto& facts : page.switches) {
+            EXPECT_TRUE(keys.insert(facts.key).second) << facts.key;
+        }
+    }
+    std::set<std::string_view> expected(mirroredKeys.begin(), mirroredKeys.end());
+    expected.insert({"newWindowOfOpenInTerminal", "newWindowOfOpenIniTerm2"});
+    EXPECT_EQ(keys, expected);
+}
+
+TEST_F(WindowLayoutTest, ExactlyTheListsWithAnEnableAllBooleanHaveThatSwitch) {
+    for (const auto& page : pageLayouts()) {
+        const auto hasBoolean = page.category && !factsOf(*page.category).enableAllKey.empty();
+        EXPECT_EQ(!page.enableAllTitle.empty(), hasBoolean) << page.title;
+    }
+}
+
+} // namespace
+} // namespace tarnwick::testing
