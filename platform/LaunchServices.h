@@ -14,7 +14,8 @@ struct RegisteredApplications {
     bool failed = false;
 };
 
-/// The platform's register of applications. Implementations: macOS Launch Services, Linux (no copies), in memory.
+/// The platform's register of applications. Implementations: macOS Launch Services, Linux (no copies), in
+/// memory.
 class LaunchServices {
 public:
     virtual ~LaunchServices() = default;

@@ -37,7 +37,8 @@ class OpenPanel {
 public:
     virtual ~OpenPanel() = default;
     /// Shows a chooser and returns at once; `completion` runs later on the main thread, once.
-    virtual void begin(const OpenPanelRequest& request, std::function<void(const OpenPanelAnswer&)> completion) = 0;
+    virtual void begin(
+        const OpenPanelRequest& request, std::function<void(const OpenPanelAnswer&)> completion) = 0;
 };
 
 } // namespace tarnwick

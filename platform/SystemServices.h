@@ -16,7 +16,7 @@ class UserScripts;
 /// `platform/gnustep/adapters/`; the build picks one.
 
 /// What must happen before anything else of the toolkit is touched, first of all in `main`.
-void prepareProcess(int argc, char *argv[]);
+void prepareProcess(int argc, char* argv[]);
 
 [[nodiscard]] std::unique_ptr<LaunchServices> makeLaunchServices();
 [[nodiscard]] std::unique_ptr<LoginItems> makeLoginItems();

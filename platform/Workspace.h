@@ -15,7 +15,8 @@ public:
     virtual void openURL(std::string_view address) = 0;
     virtual void launchApplication(const std::string& path) = 0;
     /// Where the preferred copy of an application is; nothing when none is known.
-    [[nodiscard]] virtual std::optional<std::string> applicationPath(std::string_view bundleIdentifier) const = 0;
+    [[nodiscard]] virtual std::optional<std::string> applicationPath(
+        std::string_view bundleIdentifier) const = 0;
     /// From now on the settings controller's `appChanged` is told when an application is activated or
     /// deactivated.
     virtual void observeApplicationChanges() = 0;

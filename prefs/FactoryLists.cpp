@@ -19,7 +19,8 @@ void FactoryLists::resetArrOfCreateNewFile() {
     std::vector<RuleRecord> records;
     records.reserve(factoryTemplates.size());
     for (const auto& row : factoryTemplates) {
-        records.push_back(makeTemplateRecord(row.displayName, row.extension, row.enable, RecordOrigin::factory));
+        records.push_back(
+            makeTemplateRecord(row.displayName, row.extension, row.enable, RecordOrigin::factory));
     }
     commit(RuleCategory::createNewFile, std::move(records));
     publisher_.saveData(

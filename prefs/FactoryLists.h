@@ -20,8 +20,9 @@ class RulePublisher;
 /// application's resources is missing, is left as it was, in memory and in the store, with a log line.
 class FactoryLists {
 public:
-    FactoryLists(const Platform& platform, LocalPreferences& local, RuleLists& lists, RulePublisher& publisher) :
-        platform_(platform), local_(local), lists_(lists), publisher_(publisher) {}
+    FactoryLists(
+        const Platform& platform, LocalPreferences& local, RuleLists& lists, RulePublisher& publisher)
+        : platform_(platform), local_(local), lists_(lists), publisher_(publisher) {}
 
     /// Stores and synchronises the fifteen templates, publishes them whole, disabled ones included, then
     /// removes the template folder and lays it out anew. Files that cannot be copied are left out.

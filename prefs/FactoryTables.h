@@ -37,9 +37,9 @@ inline constexpr std::array<FactoryTemplate, 15> factoryTemplates{{
 inline constexpr std::array<std::string_view, 4> factoryTargets{"Downloads", "Pictures", "Music", "Movies"};
 
 /// Each is the record's name and the name of its image.
-inline constexpr std::array<std::string_view, 20> factoryIcons{"App", "Apple", "Book", "Calendar", "Cloud", "Excel",
-    "File", "Google", "Mac OS1", "Mac OS2", "Mac", "Mail", "Music", "Pages", "Picture", "PPT", "QQ", "Video",
-    "WeChat", "Word"};
+inline constexpr std::array<std::string_view, 20> factoryIcons{"App", "Apple", "Book", "Calendar", "Cloud",
+    "Excel", "File", "Google", "Mac OS1", "Mac OS2", "Mac", "Mail", "Music", "Pages", "Picture", "PPT", "QQ",
+    "Video", "WeChat", "Word"};
 
 struct FactoryAction {
     /// The record's "Action" and "displayName".

@@ -6,9 +6,13 @@
 
 namespace tarnwick {
 
-std::optional<std::string> GroupContainer::templateFolder() const { return folder("Templates/CreateNewFile"); }
+std::optional<std::string> GroupContainer::templateFolder() const {
+    return folder("Templates/CreateNewFile");
+}
 
-std::optional<std::string> GroupContainer::functionIconFolder() const { return folder("Templates/FunctionIcon"); }
+std::optional<std::string> GroupContainer::functionIconFolder() const {
+    return folder("Templates/FunctionIcon");
+}
 
 std::optional<std::string> GroupContainer::othersIconFolder() const {
     return folder("Templates/OthersMenuItemIcon");

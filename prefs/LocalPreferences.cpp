@@ -8,7 +8,9 @@ namespace tarnwick {
 LocalPreferences::LocalPreferences() = default;
 LocalPreferences::~LocalPreferences() = default;
 
-void LocalPreferences::open(PreferenceStores& stores) { store_ = stores.openStandardDomain(); }
+void LocalPreferences::open(PreferenceStores& stores) {
+    store_ = stores.openStandardDomain();
+}
 
 std::optional<PlistValue> LocalPreferences::value(std::string_view key) const {
     return store_ ? store_->value(key) : std::nullopt;
@@ -42,7 +44,9 @@ void LocalPreferences::synchronize() {
     }
 }
 
-void LocalPreferences::store(const RuleList& list) { set(factsOf(list.category()).listKey, list.toPlist()); }
+void LocalPreferences::store(const RuleList& list) {
+    set(factsOf(list.category()).listKey, list.toPlist());
+}
 
 void LocalPreferences::storeAndSynchronize(const RuleList& list) {
     store(list);

@@ -11,8 +11,8 @@ PlistData::PlistData(std::vector<std::uint8_t> bytes) {
     owner_ = std::move(owned);
 }
 
-PlistData::PlistData(std::shared_ptr<const void> owner, const std::uint8_t* bytes, std::size_t size) :
-    owner_(std::move(owner)), bytes_(bytes), size_(size) {}
+PlistData::PlistData(std::shared_ptr<const void> owner, const std::uint8_t* bytes, std::size_t size)
+    : owner_(std::move(owner)), bytes_(bytes), size_(size) {}
 
 bool PlistData::operator==(const PlistData& other) const {
     if (size_ != other.size_) {
@@ -21,8 +21,8 @@ bool PlistData::operator==(const PlistData& other) const {
     return bytes_ == other.bytes_ || size_ == 0 || std::memcmp(bytes_, other.bytes_, size_) == 0;
 }
 
-PlistValue::PlistValue(PlistDictionary dictionary) :
-    value_(std::make_shared<const PlistDictionary>(std::move(dictionary))) {}
+PlistValue::PlistValue(PlistDictionary dictionary)
+    : value_(std::make_shared<const PlistDictionary>(std::move(dictionary))) {}
 
 PlistValue::PlistValue(PlistArray array) : value_(std::make_shared<const PlistArray>(std::move(array))) {}
 

@@ -41,15 +41,17 @@ inline constexpr std::array<std::string_view, 1> deleteConfirmation{"deleteDirec
 } // namespace seed
 
 /// In the order in which they are looked at.
-inline constexpr std::array<SeedGroup, 8> seedGroups{{{seed::sounds}, {seed::targets}, {seed::commonPath},
-    {seed::icons}, {seed::autoOpen}, {seed::terminalWindow}, {seed::iTermWindow}, {seed::deleteConfirmation}}};
+inline constexpr std::array<SeedGroup, 8> seedGroups{
+    {{seed::sounds}, {seed::targets}, {seed::commonPath}, {seed::icons}, {seed::autoOpen},
+        {seed::terminalWindow}, {seed::iTermWindow}, {seed::deleteConfirmation}}};
 
 /// The fixed features in the order of the published array. Each is also a boolean of its own in
 /// `LocalPreferences`. The third stands there twice, and the extension is given both.
 inline constexpr std::array<std::string_view, 11> featureNames{"enableCopyPathToPaste",
-    "enableDeleteSelectedFiles", "enableOpenPathInTerminal", "enableOpenPathInTerminal", "enableOpenPathIniTerm2",
-    "enableImagetoIcon", "enableHiddenAllFilesInPath", "enableUnhiddenAllFilesInPath",
-    "enableUnhiddenSelectedFiles", "enableHiddenSelectedFiles", "enableScreenshotsBySnapfin"};
+    "enableDeleteSelectedFiles", "enableOpenPathInTerminal", "enableOpenPathInTerminal",
+    "enableOpenPathIniTerm2", "enableImagetoIcon", "enableHiddenAllFilesInPath",
+    "enableUnhiddenAllFilesInPath", "enableUnhiddenSelectedFiles", "enableHiddenSelectedFiles",
+    "enableScreenshotsBySnapfin"};
 
 /// The switches whose changes in `LocalPreferences` are copied into `SharedPreferences`, in the order in
 /// which they are observed. The two "newWindowOf" switches are deliberately not among them.

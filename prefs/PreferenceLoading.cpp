@@ -22,9 +22,10 @@ namespace {
 constexpr std::array<std::string_view, 5> functionIconNames{
     "createNewFile", "copyFilesTo", "moveFilesTo", "commonPath", "customIcon"};
 
-constexpr std::array<std::string_view, 14> othersIconNames{"Hidden Selected Files", "Hidden All Files in Path",
-    "Nohidden Selected Files", "Nohidden All Files in Path", "Open in iTerm2", "Delete directly",
-    "Open in Terminal", "Paste", "Copy Path", "Cut", "Image to Icon", "VSCode", "Sublime Text", "Emacs"};
+constexpr std::array<std::string_view, 14> othersIconNames{"Hidden Selected Files",
+    "Hidden All Files in Path", "Nohidden Selected Files", "Nohidden All Files in Path", "Open in iTerm2",
+    "Delete directly", "Open in Terminal", "Paste", "Copy Path", "Cut", "Image to Icon", "VSCode",
+    "Sublime Text", "Emacs"};
 
 } // namespace
 
@@ -79,7 +80,8 @@ void PreferenceLoading::ensureTemplates(const std::optional<std::string>& folder
     factory_.resetArrOfCreateNewFile();
 }
 
-void PreferenceLoading::rebuildIconFolder(const std::string& folder, std::span<const std::string_view> names) {
+void PreferenceLoading::rebuildIconFolder(
+    const std::string& folder, std::span<const std::string_view> names) {
     if (platform_.files.exists(folder)) {
         platform_.files.remove(folder);
     }

@@ -20,9 +20,9 @@ class SharedPreferences;
 /// step reports an error to the user.
 class PreferenceLoading {
 public:
-    PreferenceLoading(const Platform& platform, LocalPreferences& local, RuleLists& lists, RulePublisher& publisher,
-        FactoryLists& factory) :
-        platform_(platform), local_(local), lists_(lists), publisher_(publisher), factory_(factory) {}
+    PreferenceLoading(const Platform& platform, LocalPreferences& local, RuleLists& lists,
+        RulePublisher& publisher, FactoryLists& factory)
+        : platform_(platform), local_(local), lists_(lists), publisher_(publisher), factory_(factory) {}
 
     /// Opens both stores, keeps unreadable originals aside, seeds the switches, builds the feature array on
     /// the first run, lays out the templates when their folder is missing, and rebuilds the two icon folders;

@@ -15,7 +15,9 @@ RuleRecord record(std::initializer_list<std::pair<std::string_view, PlistValue>>
     return RuleRecord(std::move(dictionary));
 }
 
-std::string_view modifiedFlag(RecordOrigin origin) { return origin == RecordOrigin::user ? "1" : "0"; }
+std::string_view modifiedFlag(RecordOrigin origin) {
+    return origin == RecordOrigin::user ? "1" : "0";
+}
 
 } // namespace
 
@@ -36,7 +38,8 @@ RuleRecord makeIconRecord(PlistData tiff, std::string_view displayName, RecordOr
 
 RuleRecord makeActionRecord(PlistData tiff, std::string_view action, std::string_view note) {
     return record({{field::enable, 1}, {field::icon, std::move(tiff)}, {field::displayName, action},
-        {field::nameModified, "0"}, {field::noteModified, "0"}, {field::action, action}, {field::note, note}});
+        {field::nameModified, "0"}, {field::noteModified, "0"}, {field::action, action},
+        {field::note, note}});
 }
 
 } // namespace tarnwick

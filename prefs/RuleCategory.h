@@ -24,7 +24,8 @@ struct RuleCategoryFacts {
 };
 
 inline constexpr std::array<RuleCategoryFacts, 5> ruleCategoryFacts{{
-    {RuleCategory::createNewFile, "arrOfCreateNewFile", "enableAllOfCreateNewFiles", "prePathOfCreateNewFile"},
+    {RuleCategory::createNewFile, "arrOfCreateNewFile", "enableAllOfCreateNewFiles",
+        "prePathOfCreateNewFile"},
     {RuleCategory::copyFilesTo, "arrOfCopyFilesTo", "", "prePathOfSendFilesTo"},
     {RuleCategory::commonPath, "arrOfCommonPath", "", "prePathOfCommonPath"},
     {RuleCategory::customIcon, "arrOfCustomIcon", "enableAllOfCustomIcon", "prePathOfCustomIcon"},

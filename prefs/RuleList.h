@@ -14,8 +14,8 @@ namespace tarnwick {
 class RuleList {
 public:
     explicit RuleList(RuleCategory category) : category_(category) {}
-    RuleList(RuleCategory category, std::vector<RuleRecord> records) :
-        category_(category), records_(std::move(records)) {}
+    RuleList(RuleCategory category, std::vector<RuleRecord> records)
+        : category_(category), records_(std::move(records)) {}
 
     [[nodiscard]] RuleCategory category() const { return category_; }
     [[nodiscard]] std::size_t size() const { return records_.size(); }
@@ -49,14 +49,17 @@ private:
 /// The five lists of the running application.
 class RuleLists {
 public:
-    [[nodiscard]] RuleList& operator[](RuleCategory category) { return lists_[static_cast<std::size_t>(category)]; }
+    [[nodiscard]] RuleList& operator[](RuleCategory category) {
+        return lists_[static_cast<std::size_t>(category)];
+    }
     [[nodiscard]] const RuleList& operator[](RuleCategory category) const {
         return lists_[static_cast<std::size_t>(category)];
     }
 
 private:
     std::array<RuleList, 5> lists_{RuleList(RuleCategory::createNewFile), RuleList(RuleCategory::copyFilesTo),
-        RuleList(RuleCategory::commonPath), RuleList(RuleCategory::customIcon), RuleList(RuleCategory::others)};
+        RuleList(RuleCategory::commonPath), RuleList(RuleCategory::customIcon),
+        RuleList(RuleCategory::others)};
 };
 
 } // namespace tarnwick

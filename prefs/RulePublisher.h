@@ -15,8 +15,8 @@ class RuleLists;
 /// tells the extension: the suite is written and synchronised, and that is all. Results are not examined.
 class RulePublisher {
 public:
-    RulePublisher(PreferenceStores& stores, LocalPreferences& local, const RuleLists& lists) :
-        stores_(stores), local_(local), lists_(lists) {}
+    RulePublisher(PreferenceStores& stores, LocalPreferences& local, const RuleLists& lists)
+        : stores_(stores), local_(local), lists_(lists) {}
 
     /// Opens a new handle on `SharedPreferences`, replaces the value under `key`, synchronises.
     void saveData(const PlistValue& value, std::string_view key);

@@ -80,7 +80,9 @@ RuleRecord RuleRecord::with(std::string_view key, PlistValue value) const {
     return RuleRecord(std::move(changed));
 }
 
-bool RuleRecord::hasFixedAction() const { return contains(fixedActions, text(field::action)); }
+bool RuleRecord::hasFixedAction() const {
+    return contains(fixedActions, text(field::action));
+}
 
 bool RuleRecord::hasProtectedAction() const {
     return hasFixedAction() || contains(screenshotActions, text(field::action));

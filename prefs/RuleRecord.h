@@ -44,8 +44,8 @@ inline constexpr std::string_view undefinedPath = "Undefined";
 class RuleRecord {
 public:
     RuleRecord() : RuleRecord(PlistDictionary{}) {}
-    explicit RuleRecord(PlistDictionary fields) :
-        fields_(std::make_shared<const PlistDictionary>(std::move(fields))) {}
+    explicit RuleRecord(PlistDictionary fields)
+        : fields_(std::make_shared<const PlistDictionary>(std::move(fields))) {}
     /// `fields` must not be null.
     explicit RuleRecord(std::shared_ptr<const PlistDictionary> fields) : fields_(std::move(fields)) {}
 
@@ -69,7 +69,9 @@ public:
 
     [[nodiscard]] PlistValue toPlist() const { return PlistValue(fields_); }
 
-    bool operator==(const RuleRecord& other) const { return fields_ == other.fields_ || *fields_ == *other.fields_; }
+    bool operator==(const RuleRecord& other) const {
+        return fields_ == other.fields_ || *fields_ == *other.fields_;
+    }
 
 private:
     // Shared with the stored array and with other copies of the list; never null, never changed.

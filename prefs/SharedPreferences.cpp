@@ -8,10 +8,16 @@ namespace tarnwick {
 SharedPreferences::SharedPreferences(PreferenceStores& stores) : store_(stores.openSuite(sharedSuiteName)) {}
 SharedPreferences::~SharedPreferences() = default;
 
-std::optional<PlistValue> SharedPreferences::value(std::string_view key) const { return store_->value(key); }
+std::optional<PlistValue> SharedPreferences::value(std::string_view key) const {
+    return store_->value(key);
+}
 
-void SharedPreferences::set(std::string_view key, const PlistValue& value) { store_->setValue(key, value); }
+void SharedPreferences::set(std::string_view key, const PlistValue& value) {
+    store_->setValue(key, value);
+}
 
-void SharedPreferences::synchronize() { store_->synchronize(); }
+void SharedPreferences::synchronize() {
+    store_->synchronize();
+}
 
 } // namespace tarnwick

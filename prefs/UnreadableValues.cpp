@@ -12,8 +12,8 @@
 namespace tarnwick {
 namespace {
 
-constexpr std::array flagFields{field::enable, field::enableMainMenu, field::modified, field::nameModified,
-    field::noteModified};
+constexpr std::array flagFields{
+    field::enable, field::enableMainMenu, field::modified, field::nameModified, field::noteModified};
 constexpr std::array textFields{
     field::displayName, field::extension, field::realPath, field::action, field::note};
 
@@ -49,13 +49,15 @@ bool isCoveredBy(const PlistValue& kept, const PlistValue& stored) {
     }
     const auto* keptElements = kept.array();
     const auto* elements = stored.array();
-    return keptElements && elements && std::all_of(elements->begin(), elements->end(), [&](const auto& element) {
-        return isReadableRecord(element) ||
-            std::find(keptElements->begin(), keptElements->end(), element) != keptElements->end();
-    });
+    return keptElements && elements &&
+           std::all_of(elements->begin(), elements->end(), [&](const auto& element) {
+               return isReadableRecord(element) ||
+                      std::find(keptElements->begin(), keptElements->end(), element) != keptElements->end();
+           });
 }
 
-void keepOriginal(LocalPreferences& local, SystemLog& log, std::string_view listKey, const PlistValue& stored) {
+void keepOriginal(
+    LocalPreferences& local, SystemLog& log, std::string_view listKey, const PlistValue& stored) {
     const auto firstKey = std::string(listKey) + ".unreadable";
     auto key = firstKey;
     for (int copy = 2;; ++copy) {

@@ -11,7 +11,8 @@
 namespace tarnwick {
 namespace {
 
-constexpr std::array<std::string_view, 5> wellKnownFolders{"Downloads", "Pictures", "Music", "Movies", "Desktop"};
+constexpr std::array<std::string_view, 5> wellKnownFolders{
+    "Downloads", "Pictures", "Music", "Movies", "Desktop"};
 
 } // namespace
 

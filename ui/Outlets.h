@@ -23,7 +23,9 @@ struct Outlets {
     ButtonControl* restartFinderButton = nullptr;
     ButtonControl* helpButton = nullptr;
 
-    [[nodiscard]] TableControl* table(RuleCategory category) const { return tables[static_cast<std::size_t>(category)]; }
+    [[nodiscard]] TableControl* table(RuleCategory category) const {
+        return tables[static_cast<std::size_t>(category)];
+    }
     [[nodiscard]] ButtonControl* removeButton(RuleCategory category) const {
         return removeButtons[static_cast<std::size_t>(category)];
     }

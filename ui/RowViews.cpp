@@ -20,11 +20,14 @@ constexpr Frame iconFrame{8, 1, 28, 28};
 constexpr Frame folderIconFrame{5, 1, 28, 28};
 constexpr Frame actionIconFrame{20, 5, 20, 20};
 
-long tagOf(std::size_t row) { return static_cast<long>(row); }
+long tagOf(std::size_t row) {
+    return static_cast<long>(row);
+}
 
-CellView nameCell(
-    std::string text, std::string_view identifier, std::size_t row, bool editable = true, Frame frame = nameFrame) {
-    return {TextFieldCell{.text = std::move(text), .editable = editable, .hasDelegate = true, .identifier = identifier},
+CellView nameCell(std::string text, std::string_view identifier, std::size_t row, bool editable = true,
+    Frame frame = nameFrame) {
+    return {TextFieldCell{
+                .text = std::move(text), .editable = editable, .hasDelegate = true, .identifier = identifier},
         frame, tagOf(row)};
 }
 
@@ -32,9 +35,13 @@ CellView checkBox(bool on, RowSwitchAction action, std::size_t row, Frame frame 
     return {CheckBoxCell{.on = on, .action = action}, frame, tagOf(row)};
 }
 
-CellView imageCell(ImagePointer image, Frame frame) { return {ImageCell{std::move(image)}, frame, std::nullopt}; }
+CellView imageCell(ImagePointer image, Frame frame) {
+    return {ImageCell{std::move(image)}, frame, std::nullopt};
+}
 
-CellView plainTextCell(TextFieldCell field, Frame frame) { return {std::move(field), frame, std::nullopt}; }
+CellView plainTextCell(TextFieldCell field, Frame frame) {
+    return {std::move(field), frame, std::nullopt};
+}
 
 /// Width, then height, without decimals; empty without an image.
 std::string sizeText(const ImagePointer& image) {
@@ -79,7 +86,8 @@ CellView RowViews::tableViewForCopyTo(std::string_view column, std::size_t row) 
         return pathCell(record);
     }
     if (column == "Enable") {
-        return {CheckBoxCell{.on = record.isEnabled(), .action = RowSwitchAction::onOffcheckedStateChangedOfCopyTo},
+        return {CheckBoxCell{
+                    .on = record.isEnabled(), .action = RowSwitchAction::onOffcheckedStateChangedOfCopyTo},
             std::nullopt, tagOf(row), true};
     }
     if (column == "SendFileIcon") {
@@ -159,7 +167,8 @@ ImagePointer RowViews::templateIcon(const RuleRecord& record) const {
         return nullptr;
     }
     const auto extension = record.text(field::extension);
-    if (auto image = platform_.images.fromFile(std::string(*folder).append("/").append(extension).append(".png"))) {
+    if (auto image =
+            platform_.images.fromFile(std::string(*folder).append("/").append(extension).append(".png"))) {
         return image;
     }
     return platform_.images.iconOfFile(*folder + "/" + templateFileName(record));

@@ -22,13 +22,14 @@ constexpr Colour red{1, 0, 0, 1};
 
 } // namespace
 
-SettingsViewController::SettingsViewController(const Platform& platform) :
-    platform_(platform), publisher_(platform.preferences, local_, lists_),
-    factory_(platform, local_, lists_, publisher_), loading_(platform, local_, lists_, publisher_, factory_),
-    pages_(lists_, local_, publisher_), rowViews_(platform, lists_), addRules_(platform, local_, pages_),
-    removeRule_(platform, pages_), resetRules_(factory_, pages_), toggleRules_(local_, pages_),
-    reorderRules_(pages_), editText_(platform, pages_), choosePath_(platform, pages_),
-    finderExtension_(platform, local_), scriptHelper_(platform) {}
+SettingsViewController::SettingsViewController(const Platform& platform)
+    : platform_(platform), publisher_(platform.preferences, local_, lists_),
+      factory_(platform, local_, lists_, publisher_),
+      loading_(platform, local_, lists_, publisher_, factory_), pages_(lists_, local_, publisher_),
+      rowViews_(platform, lists_), addRules_(platform, local_, pages_), removeRule_(platform, pages_),
+      resetRules_(factory_, pages_), toggleRules_(local_, pages_), reorderRules_(pages_),
+      editText_(platform, pages_), choosePath_(platform, pages_), finderExtension_(platform, local_),
+      scriptHelper_(platform) {}
 
 void SettingsViewController::connect(const Outlets& outlets) {
     outlets_ = outlets;
@@ -45,7 +46,9 @@ void SettingsViewController::awakeFromNib() {
     setUpButtons();
 }
 
-void SettingsViewController::viewDidLoad() { platform_.log.write("ddd"); }
+void SettingsViewController::viewDidLoad() {
+    platform_.log.write("ddd");
+}
 
 void SettingsViewController::setVersionLabel() {
     if (outlets_.version) {
@@ -81,8 +84,8 @@ void SettingsViewController::start() {
     publisher_.setOthersToSettings();
     publisher_.setCreateNewFileToSettings();
     // The remove button of the Others page is left as the layout has it.
-    for (const auto category : {RuleCategory::createNewFile, RuleCategory::customIcon, RuleCategory::copyFilesTo,
-             RuleCategory::commonPath}) {
+    for (const auto category : {RuleCategory::createNewFile, RuleCategory::customIcon,
+             RuleCategory::copyFilesTo, RuleCategory::commonPath}) {
         pages_.setRemoveButtonEnabled(category, false);
     }
     platform_.workspace.observeApplicationChanges();
@@ -111,7 +114,8 @@ long SettingsViewController::numberOfRows(RuleCategory table) const {
     return static_cast<long>(lists_[table].size());
 }
 
-CellView SettingsViewController::viewForTableColumn(RuleCategory table, std::string_view column, long row) const {
+CellView SettingsViewController::viewForTableColumn(
+    RuleCategory table, std::string_view column, long row) const {
     if (!lists_[table].holds(row)) {
         return {};
     }
@@ -134,8 +138,8 @@ CellView SettingsViewController::viewForTableColumn(RuleCategory table, std::str
 void SettingsViewController::updateRemoveButton(RuleCategory category) {
     const auto row = pages_.selectedRow(category);
     const auto& list = lists_[category];
-    const auto removable = list.holds(row) &&
-        !(category == RuleCategory::others && list[static_cast<std::size_t>(row)].hasProtectedAction());
+    const auto removable = list.holds(row) && !(category == RuleCategory::others &&
+                                                  list[static_cast<std::size_t>(row)].hasProtectedAction());
     pages_.setRemoveButtonEnabled(category, removable);
 }
 
@@ -159,11 +163,17 @@ void SettingsViewController::restartFinderClick() {
     requestFinderRestart(platform_.preferences, platform_.notifications);
 }
 
-void SettingsViewController::initializeClick() { openLink(link::helpRestartFinder); }
+void SettingsViewController::initializeClick() {
+    openLink(link::helpRestartFinder);
+}
 
-void SettingsViewController::helpServicesOfSystemPreferences() { openLink(link::helpServices); }
+void SettingsViewController::helpServicesOfSystemPreferences() {
+    openLink(link::helpServices);
+}
 
-void SettingsViewController::openLink(std::string_view address) { platform_.workspace.openURL(address); }
+void SettingsViewController::openLink(std::string_view address) {
+    platform_.workspace.openURL(address);
+}
 
 std::optional<std::string> SettingsViewController::runCommand(const std::string& command) {
     return tarnwick::runCommand(platform_.shell, command);
@@ -173,6 +183,8 @@ bool SettingsViewController::appWithBundleIdentifierInstalled(std::string_view b
     return tarnwick::appWithBundleIdentifierInstalled(platform_.launchServices, bundleIdentifier);
 }
 
-void SettingsViewController::getSystemShortcuts() { tarnwick::getSystemShortcuts(platform_); }
+void SettingsViewController::getSystemShortcuts() {
+    tarnwick::getSystemShortcuts(platform_);
+}
 
 } // namespace tarnwick

@@ -114,7 +114,8 @@ public:
     // Dragging, editing, choosing
     [[nodiscard]] std::uint32_t validateDrop(DropPlace place) const { return tarnwick::validateDrop(place); }
     /// Always true, also when nothing was moved.
-    bool acceptDrop(std::optional<RuleCategory> target, std::optional<RuleCategory> source, long from, long to);
+    bool acceptDrop(
+        std::optional<RuleCategory> target, std::optional<RuleCategory> source, long from, long to);
     /// Always true: editing ends, whatever the text.
     bool controlTextShouldEndEditing(std::string_view identifier, long row, std::string_view text);
     void selectPath(long row) { choosePath_.selectPath(row); }

@@ -44,7 +44,8 @@ constexpr std::array<SwitchLayout, 4> createNewFileSwitches{{
     {"enableIconOfCreateNewFile", "Show icons in the menu", "Shows each template's icon beside its name."},
     {"enableAutoOpenAfterCreateNewFile", "Open a new file right away",
         "Opens the file in its application as soon as it has been created."},
-    {"soundTipsOfNewFile", "Play a sound after creating a file", "A short sound says that the file is there."},
+    {"soundTipsOfNewFile", "Play a sound after creating a file",
+        "A short sound says that the file is there."},
     {"disableAutoNameOfCreateNewFile", "Do not name new files automatically",
         "The name of a new file is left to you."},
 }};
@@ -58,7 +59,8 @@ constexpr std::array<SwitchLayout, 4> copyFilesToSwitches{{
 }};
 
 constexpr std::array<SwitchLayout, 2> commonPathSwitches{{
-    {"enableCommonPath", "Offer these folders in the menu", "Shows the section of common folders in the menu."},
+    {"enableCommonPath", "Offer these folders in the menu",
+        "Shows the section of common folders in the menu."},
     {"enableIconOfCommonPath", "Show icons in the menu", "Shows each folder's icon beside its name."},
 }};
 
@@ -89,14 +91,17 @@ constexpr std::array<PageLayout, pageCount> layouts{{
     {Page::customIcon, "page-customIcon", "Custom Icons",
         "Pictures that the selected files and folders can be given as their icon.", RuleCategory::customIcon,
         customIconColumns, customIconSwitches, "Enable all icons", "Add Pictures\u2026"},
-    {Page::others, "page-others", "More Items", "Further actions of the menu, and applications to open files with.",
-        RuleCategory::others, othersColumns, othersSwitches, "Enable all items", "Add Items\u2026"},
-    {Page::moreApps, "page-moreApps", "More Apps", "Other applications by the makers of Tarnwick.", std::nullopt,
-        {}, {}, "", ""},
+    {Page::others, "page-others", "More Items",
+        "Further actions of the menu, and applications to open files with.", RuleCategory::others,
+        othersColumns, othersSwitches, "Enable all items", "Add Items\u2026"},
+    {Page::moreApps, "page-moreApps", "More Apps", "Other applications by the makers of Tarnwick.",
+        std::nullopt, {}, {}, "", ""},
 }};
 
 } // namespace
 
-std::span<const PageLayout, pageCount> pageLayouts() { return layouts; }
+std::span<const PageLayout, pageCount> pageLayouts() {
+    return layouts;
+}
 
 } // namespace tarnwick

@@ -23,7 +23,8 @@ class Workspace;
 /// The ports over Foundation and AppKit, one source for both platforms.
 
 /// `observe` registers the window's controller for a key of the standard domain.
-[[nodiscard]] std::unique_ptr<PreferenceStores> makePreferenceStores(std::function<void(std::string_view)> observe);
+[[nodiscard]] std::unique_ptr<PreferenceStores> makePreferenceStores(
+    std::function<void(std::string_view)> observe);
 [[nodiscard]] std::unique_ptr<FileManager> makeFileManager();
 [[nodiscard]] std::unique_ptr<KnownFolders> makeKnownFolders();
 [[nodiscard]] std::unique_ptr<ApplicationBundle> makeApplicationBundle();

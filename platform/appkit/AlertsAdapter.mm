@@ -29,6 +29,8 @@ public:
 
 } // namespace
 
-std::unique_ptr<Alerts> makeAlerts() { return std::make_unique<AppKitAlerts>(); }
+std::unique_ptr<Alerts> makeAlerts() {
+    return std::make_unique<AppKitAlerts>();
+}
 
 } // namespace tarnwick

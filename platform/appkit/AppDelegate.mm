@@ -47,8 +47,8 @@
                       ofObject:(id)object
                         change:(NSDictionary *)change
                        context:(void *)context {
-    _delegate->observeValue(
-        tarnwick::toString(keyPath), tarnwick::toString([[change objectForKey:NSKeyValueChangeNewKey] description]));
+    _delegate->observeValue(tarnwick::toString(keyPath),
+        tarnwick::toString([[change objectForKey:NSKeyValueChangeNewKey] description]));
 }
 
 - (void)darkModeChanged:(NSNotification *)notification {

@@ -29,6 +29,8 @@ private:
 
 } // namespace
 
-std::unique_ptr<ApplicationBundle> makeApplicationBundle() { return std::make_unique<MainBundle>(); }
+std::unique_ptr<ApplicationBundle> makeApplicationBundle() {
+    return std::make_unique<MainBundle>();
+}
 
 } // namespace tarnwick

@@ -10,7 +10,9 @@
 namespace tarnwick {
 namespace {
 
-NSRect rectOf(const Frame &frame) { return NSMakeRect(frame.x, frame.y, frame.width, frame.height); }
+NSRect rectOf(const Frame &frame) {
+    return NSMakeRect(frame.x, frame.y, frame.width, frame.height);
+}
 
 SEL selectorOf(RowSwitchAction action) {
     switch (action) {

@@ -11,11 +11,11 @@
 namespace tarnwick {
 
 /// The core's handles over AppKit controls. None keeps its control alive.
-[[nodiscard]] std::unique_ptr<TableControl> makeTableControl(NSTableView *table);
-[[nodiscard]] std::unique_ptr<ButtonControl> makeButtonControl(NSButton *button);
-[[nodiscard]] std::unique_ptr<LabelControl> makeLabelControl(NSTextField *label);
-[[nodiscard]] std::unique_ptr<TabControl> makeTabControl(NSTabView *tabView);
-[[nodiscard]] std::unique_ptr<WindowControl> makeWindowControl(NSWindow *window);
+[[nodiscard]] std::unique_ptr<TableControl> makeTableControl(NSTableView* table);
+[[nodiscard]] std::unique_ptr<ButtonControl> makeButtonControl(NSButton* button);
+[[nodiscard]] std::unique_ptr<LabelControl> makeLabelControl(NSTextField* label);
+[[nodiscard]] std::unique_ptr<TabControl> makeTabControl(NSTabView* tabView);
+[[nodiscard]] std::unique_ptr<WindowControl> makeWindowControl(NSWindow* window);
 
 /// The handles of one window.
 struct ControlAdapters {

@@ -66,7 +66,7 @@ public:
         [style setAlignment:NSTextAlignmentCenter];
         NSDictionary *attributes =
             [NSDictionary dictionaryWithObjectsAndKeys:colorOf(colour), NSForegroundColorAttributeName, style,
-                NSParagraphStyleAttributeName, [button_ font], NSFontAttributeName, nil];
+                          NSParagraphStyleAttributeName, [button_ font], NSFontAttributeName, nil];
         [button_ setAttributedTitle:[[[NSAttributedString alloc] initWithString:[button_ title]
                                                                      attributes:attributes] autorelease]];
     }
@@ -121,15 +121,21 @@ private:
 
 } // namespace
 
-std::unique_ptr<TableControl> makeTableControl(NSTableView *table) { return std::make_unique<AppKitTable>(table); }
+std::unique_ptr<TableControl> makeTableControl(NSTableView *table) {
+    return std::make_unique<AppKitTable>(table);
+}
 
 std::unique_ptr<ButtonControl> makeButtonControl(NSButton *button) {
     return std::make_unique<AppKitButton>(button);
 }
 
-std::unique_ptr<LabelControl> makeLabelControl(NSTextField *label) { return std::make_unique<AppKitLabel>(label); }
+std::unique_ptr<LabelControl> makeLabelControl(NSTextField *label) {
+    return std::make_unique<AppKitLabel>(label);
+}
 
-std::unique_ptr<TabControl> makeTabControl(NSTabView *tabView) { return std::make_unique<AppKitTabs>(tabView); }
+std::unique_ptr<TabControl> makeTabControl(NSTabView *tabView) {
+    return std::make_unique<AppKitTabs>(tabView);
+}
 
 std::unique_ptr<WindowControl> makeWindowControl(NSWindow *window) {
     return std::make_unique<AppKitWindow>(window);

@@ -32,7 +32,9 @@ NSTextField *makeLabel(NSString *text, NSFont *font, NSColor *color, bool wraps)
     return label;
 }
 
-NSColor *secondaryTextColor() { return [NSColor disabledControlTextColor]; }
+NSColor *secondaryTextColor() {
+    return [NSColor disabledControlTextColor];
+}
 
 NSButton *makePushButton(NSString *title, id target, SEL action) {
     NSButton *button = [[[NSButton alloc] init] autorelease];
@@ -50,6 +52,8 @@ void preparePushButton(NSButton *button, NSString *title, id target, SEL action)
     [button setFrameSize:NSMakeSize(std::max(minimumButtonWidth, width), buttonHeight)];
 }
 
-NSImage *resourceImage(std::string_view name) { return [NSImage imageNamed:toNSString(name)]; }
+NSImage *resourceImage(std::string_view name) {
+    return [NSImage imageNamed:toNSString(name)];
+}
 
 } // namespace tarnwick

@@ -10,7 +10,9 @@ namespace {
 
 class FoundationFileManager final : public FileManager {
 public:
-    bool exists(const std::string &path) const override { return [manager() fileExistsAtPath:toNSString(path)]; }
+    bool exists(const std::string &path) const override {
+        return [manager() fileExistsAtPath:toNSString(path)];
+    }
     bool remove(const std::string &path) override {
         return [manager() removeItemAtPath:toNSString(path) error:nullptr];
     }
@@ -33,6 +35,8 @@ private:
 
 } // namespace
 
-std::unique_ptr<FileManager> makeFileManager() { return std::make_unique<FoundationFileManager>(); }
+std::unique_ptr<FileManager> makeFileManager() {
+    return std::make_unique<FoundationFileManager>();
+}
 
 } // namespace tarnwick

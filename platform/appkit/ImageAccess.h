@@ -7,6 +7,6 @@
 namespace tarnwick {
 
 /// The platform's image behind one that the images adapter made; nil for null.
-[[nodiscard]] NSImage *imageOf(const ImagePointer &image);
+[[nodiscard]] NSImage* imageOf(const ImagePointer& image);
 
 } // namespace tarnwick

@@ -52,8 +52,8 @@ ImagePointer imageAt(NSString *path) {
 
 class AppKitImages final : public Images {
 public:
-    /// The custom icons lie in a folder of their own: on a volume that ignores case, some of their names are those
-    /// of template icons.
+    /// The custom icons lie in a folder of their own: on a volume that ignores case, some of their names are
+    /// those of template icons.
     ImagePointer named(std::string_view name) override {
         if (name.empty() || name.find('/') != std::string_view::npos) {
             return nullptr;
@@ -80,7 +80,9 @@ public:
 
 } // namespace
 
-std::unique_ptr<Images> makeImages() { return std::make_unique<AppKitImages>(); }
+std::unique_ptr<Images> makeImages() {
+    return std::make_unique<AppKitImages>();
+}
 
 NSImage *imageOf(const ImagePointer &image) {
     // Every image that reaches a window was made above.

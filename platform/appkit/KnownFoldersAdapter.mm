@@ -36,6 +36,8 @@ public:
 
 } // namespace
 
-std::unique_ptr<KnownFolders> makeKnownFolders() { return std::make_unique<FoundationFolders>(); }
+std::unique_ptr<KnownFolders> makeKnownFolders() {
+    return std::make_unique<FoundationFolders>();
+}
 
 } // namespace tarnwick

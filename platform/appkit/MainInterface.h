@@ -11,9 +11,9 @@
 
 namespace tarnwick {
 
-/// The running application's objects: the ports over this platform, the controller, the window, the delegate and
-/// the menu. Making it loads the window, as loading an interface file would; the application then only has to
-/// run. The application object must exist.
+/// The running application's objects: the ports over this platform, the controller, the window, the delegate
+/// and the menu. Making it loads the window, as loading an interface file would; the application then only
+/// has to run. The application object must exist.
 class MainInterface {
 public:
     MainInterface();

@@ -55,9 +55,10 @@ void observeApplications(::SettingsViewController *controller) {
 } // namespace
 
 struct MainInterface::Ports {
-    explicit Ports(const MainInterface &owner) :
-        preferences(makePreferenceStores([&owner](std::string_view key) { observeKey(key, owner.controller_); })),
-        workspace(makeWorkspace([&owner] { observeApplications(owner.controller_); })) {}
+    explicit Ports(const MainInterface &owner)
+        : preferences(
+              makePreferenceStores([&owner](std::string_view key) { observeKey(key, owner.controller_); })),
+          workspace(makeWorkspace([&owner] { observeApplications(owner.controller_); })) {}
 
     std::unique_ptr<PreferenceStores> preferences;
     std::unique_ptr<Workspace> workspace;
@@ -82,8 +83,8 @@ struct MainInterface::Ports {
 
     [[nodiscard]] Platform platform() const {
         return {*preferences, *files, *folders, *bundle, *images, *openPanel, *alerts, *workspace,
-            *runningApplications, *launchServices, *loginItems, *finderSync, *userScripts, *notifications, *runLoop,
-            *systemVersion, *log, *shell, *propertyLists, *process};
+            *runningApplications, *launchServices, *loginItems, *finderSync, *userScripts, *notifications,
+            *runLoop, *systemVersion, *log, *shell, *propertyLists, *process};
     }
 };
 

@@ -16,21 +16,25 @@ NSMenu *makeMenu(std::string_view title) {
 }
 
 void addSubmenu(NSMenu *bar, NSMenu *menu) {
-    NSMenuItem *item = [[[NSMenuItem alloc] initWithTitle:[menu title] action:nullptr keyEquivalent:@""] autorelease];
+    NSMenuItem *item = [[[NSMenuItem alloc] initWithTitle:[menu title] action:nullptr
+                                            keyEquivalent:@""] autorelease];
     [item setSubmenu:menu];
     [bar addItem:item];
 }
 
 /// Without a target the item goes to the first responder that answers.
 NSMenuItem *addItem(NSMenu *menu, std::string_view title, SEL action, NSString *key = @"", id target = nil) {
-    NSMenuItem *item = [[[NSMenuItem alloc] initWithTitle:localizedText(title) action:action
+    NSMenuItem *item = [[[NSMenuItem alloc] initWithTitle:localizedText(title)
+                                                   action:action
                                             keyEquivalent:key] autorelease];
     [item setTarget:target];
     [menu addItem:item];
     return item;
 }
 
-void addSeparator(NSMenu *menu) { [menu addItem:[NSMenuItem separatorItem]]; }
+void addSeparator(NSMenu *menu) {
+    [menu addItem:[NSMenuItem separatorItem]];
+}
 
 NSMenu *makeApplicationMenu(::SettingsViewController *controller) {
     NSMenu *menu = makeMenu("Tarnwick");
@@ -72,9 +76,14 @@ NSMenu *makeEditMenu() {
 
 NSMenu *makeViewMenu(::SettingsViewController *controller) {
     NSMenu *menu = makeMenu("View");
-    const SEL actions[] = {@selector(createNewFilePressed:), @selector(copyFilesToPressed:),
-        @selector(commonPathPressed:), @selector(customIconFolder:), @selector(otherOptionPressed:),
-        @selector(moreAppPressed:)};
+    const SEL actions[] = {
+        @selector(createNewFilePressed:),
+        @selector(copyFilesToPressed:),
+        @selector(commonPathPressed:),
+        @selector(customIconFolder:),
+        @selector(otherOptionPressed:),
+        @selector(moreAppPressed:)
+    };
     for (const auto &layout : pageLayouts()) {
         const auto index = static_cast<std::size_t>(layout.page);
         addItem(menu, layout.title, actions[index], toNSString(std::to_string(index + 1)), controller);

@@ -23,7 +23,8 @@ struct Tile {
 
 constexpr std::array<Tile, 3> tiles{{
     {"app-Snapfin", "Snapfin", "Takes, pins and annotates screenshots.", "View in Store", link::snapfin},
-    {"app-Allbright", "Allbright", "Keeps the brightness of all displays in step.", "View in Store", link::allbright},
+    {"app-Allbright", "Allbright", "Keeps the brightness of all displays in step.", "View in Store",
+        link::allbright},
     {"app-Website", "Website", "News, help and everything else we make.", "Visit", link::website},
 }};
 
@@ -59,7 +60,9 @@ NSView *makeTile(const Tile &facts, CGFloat width, ::SettingsViewController *con
         [label setAutoresizingMask:NSViewWidthSizable];
         [content addSubview:label];
     };
-    addLine(makeLabel(localizedText(facts.name), [NSFont boldSystemFontOfSize:14], [NSColor controlTextColor]), middle);
+    addLine(
+        makeLabel(localizedText(facts.name), [NSFont boldSystemFontOfSize:14], [NSColor controlTextColor]),
+        middle);
     addLine(makeLabel(localizedText(facts.description), [NSFont systemFontOfSize:12], secondaryTextColor()),
         middle - 21);
     return tile;

@@ -42,7 +42,8 @@ public:
         [panel setCanCreateDirectories:request.canCreateDirectories];
         [panel setAllowsMultipleSelection:request.allowsMultipleSelection];
         [panel setExtensionHidden:request.extensionsHidden];
-        [panel setAllowedFileTypes:request.allowedFileTypes.empty() ? nil : toTypes(request.allowedFileTypes)];
+        [panel
+            setAllowedFileTypes:request.allowedFileTypes.empty() ? nil : toTypes(request.allowedFileTypes)];
         if (request.startFolder) {
             [panel setDirectoryURL:startURL(request)];
         }
@@ -57,6 +58,8 @@ public:
 
 } // namespace
 
-std::unique_ptr<OpenPanel> makeOpenPanel() { return std::make_unique<AppKitOpenPanel>(); }
+std::unique_ptr<OpenPanel> makeOpenPanel() {
+    return std::make_unique<AppKitOpenPanel>();
+}
 
 } // namespace tarnwick

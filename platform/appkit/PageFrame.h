@@ -11,8 +11,8 @@ class PageFrame {
 public:
     static constexpr CGFloat margin = 24;
 
-    PageFrame(NSView *page, NSSize size) :
-        page_(page), width_(size.width - 2 * margin), top_(size.height - margin) {}
+    PageFrame(NSView *page, NSSize size)
+        : page_(page), width_(size.width - 2 * margin), top_(size.height - margin) {}
 
     [[nodiscard]] CGFloat width() const { return width_; }
     /// The lower edge of what has been placed so far.

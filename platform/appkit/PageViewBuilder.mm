@@ -40,14 +40,14 @@ void addSwitches(PageFrame &column, const PageLayout &layout) {
     column.skip(gap);
 }
 
-void addEnableAllSwitch(
-    PageFrame &column, const PageLayout &layout, const RulePageActions &actions, ::SettingsViewController *controller) {
+void addEnableAllSwitch(PageFrame &column, const PageLayout &layout, const RulePageActions &actions,
+    ::SettingsViewController *controller) {
     if (!actions.enableAll) {
         return;
     }
-    PreferenceSwitch *box =
-        [[[PreferenceSwitch alloc] initWithTitle:localizedText(layout.enableAllTitle)
-                                             key:toNSString(factsOf(*layout.category).enableAllKey)] autorelease];
+    PreferenceSwitch *box = [[[PreferenceSwitch alloc]
+        initWithTitle:localizedText(layout.enableAllTitle)
+                  key:toNSString(factsOf(*layout.category).enableAllKey)] autorelease];
     [box setFollowUpTarget:controller action:actions.enableAll];
     // In line with the check boxes of the rows below it.
     column.skip(switchHeight);
@@ -57,7 +57,8 @@ void addEnableAllSwitch(
 }
 
 NSTableColumn *makeColumn(const ColumnLayout &facts) {
-    NSTableColumn *column = [[[NSTableColumn alloc] initWithIdentifier:toNSString(facts.identifier)] autorelease];
+    NSTableColumn *column =
+        [[[NSTableColumn alloc] initWithIdentifier:toNSString(facts.identifier)] autorelease];
     [[column headerCell] setStringValue:facts.title.empty() ? @"" : localizedText(facts.title)];
     [[column headerCell] setAlignment:facts.flexible ? NSTextAlignmentLeft : NSTextAlignmentCenter];
     [column setWidth:facts.width];
@@ -73,8 +74,8 @@ NSTableColumn *makeColumn(const ColumnLayout &facts) {
     return column;
 }
 
-RuleTableView *makeTable(
-    const PageLayout &layout, const RulePageActions &actions, ::SettingsViewController *controller, NSRect frame) {
+RuleTableView *makeTable(const PageLayout &layout, const RulePageActions &actions,
+    ::SettingsViewController *controller, NSRect frame) {
     RuleTableView *table = [[[RuleTableView alloc] initWithFrame:frame] autorelease];
     for (const auto &facts : layout.columns) {
         [table addTableColumn:makeColumn(facts)];
@@ -150,7 +151,8 @@ NSView *makeRulePage(
 
     const CGFloat bottom = margin + buttonBarHeight + gap;
     const NSRect frame = NSMakeRect(margin, bottom, column.width(), column.top() - bottom);
-    RuleTableView *table = makeTable(layout, actions, controller, NSMakeRect(0, 0, NSWidth(frame), NSHeight(frame)));
+    RuleTableView *table =
+        makeTable(layout, actions, controller, NSMakeRect(0, 0, NSWidth(frame), NSHeight(frame)));
     column.place(makeScrollView(table, frame), frame, NSViewWidthSizable | NSViewHeightSizable);
     [table sizeToFit];
 

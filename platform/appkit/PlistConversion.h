@@ -8,8 +8,8 @@
 
 namespace tarnwick {
 
-/// The value of a property-list object; nothing for nil and for what no property list can hold. Integers, reals and
-/// booleans stay apart. Bytes are shared with the object, not copied.
+/// The value of a property-list object; nothing for nil and for what no property list can hold. Integers,
+/// reals and booleans stay apart. Bytes are shared with the object, not copied.
 [[nodiscard]] std::optional<PlistValue> toPlistValue(id object);
 /// Autoreleased. Bytes are shared with the value, not copied.
 [[nodiscard]] id toObject(const PlistValue &value);

@@ -160,6 +160,8 @@ PlistData toPlistData(NSData *data) {
     return PlistData(owner, bytes, [fixed length]);
 }
 
-NSData *toNSData(const PlistData &data) { return [[[TNSharedData alloc] initWithPlistData:data] autorelease]; }
+NSData *toNSData(const PlistData &data) {
+    return [[[TNSharedData alloc] initWithPlistData:data] autorelease];
+}
 
 } // namespace tarnwick

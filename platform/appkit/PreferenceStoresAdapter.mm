@@ -32,15 +32,16 @@ private:
 
 class UserDefaultsStores final : public PreferenceStores {
 public:
-    explicit UserDefaultsStores(std::function<void(std::string_view)> observe) : observe_(std::move(observe)) {}
+    explicit UserDefaultsStores(std::function<void(std::string_view)> observe)
+        : observe_(std::move(observe)) {}
 
     std::unique_ptr<PreferenceStore> openStandardDomain() override {
         return std::make_unique<UserDefaultsStore>(
             ObjectPointer<NSUserDefaults>::retaining([NSUserDefaults standardUserDefaults]));
     }
     std::unique_ptr<PreferenceStore> openSuite(std::string_view name) override {
-        return std::make_unique<UserDefaultsStore>(
-            ObjectPointer<NSUserDefaults>::adopting([[NSUserDefaults alloc] initWithSuiteName:toNSString(name)]));
+        return std::make_unique<UserDefaultsStore>(ObjectPointer<NSUserDefaults>::adopting(
+            [[NSUserDefaults alloc] initWithSuiteName:toNSString(name)]));
     }
     void observeStandardKey(std::string_view key) override { observe_(key); }
     std::optional<std::string> systemWideString(std::string_view key) const override {

@@ -2,8 +2,8 @@
 
 #import <AppKit/AppKit.h>
 
-/// A check box tied to one boolean of the standard preference domain: it shows the stored value, also when that
-/// changes behind its back, and a click stores the new one before the follow-up action is sent.
+/// A check box tied to one boolean of the standard preference domain: it shows the stored value, also when
+/// that changes behind its back, and a click stores the new one before the follow-up action is sent.
 @interface PreferenceSwitch : NSButton {
 @private
     NSString *_key;

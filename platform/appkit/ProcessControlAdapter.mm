@@ -13,6 +13,8 @@ public:
 
 } // namespace
 
-std::unique_ptr<ProcessControl> makeProcessControl() { return std::make_unique<RunningProcess>(); }
+std::unique_ptr<ProcessControl> makeProcessControl() {
+    return std::make_unique<RunningProcess>();
+}
 
 } // namespace tarnwick

@@ -25,6 +25,8 @@ public:
 
 } // namespace
 
-std::unique_ptr<PropertyLists> makePropertyLists() { return std::make_unique<FoundationPropertyLists>(); }
+std::unique_ptr<PropertyLists> makePropertyLists() {
+    return std::make_unique<FoundationPropertyLists>();
+}
 
 } // namespace tarnwick

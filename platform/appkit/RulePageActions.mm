@@ -7,23 +7,36 @@ namespace tarnwick {
 RulePageActions actionsOf(RuleCategory category) {
     switch (category) {
     case RuleCategory::createNewFile:
-        return {@selector(createNewFileViewClick:), @selector(addCreateNewFileRule:),
-            @selector(removeCreateNewFileRule:), @selector(resetCreateNewFileRule:),
-            @selector(enableAllOfCreateNewFilesClick:), @"NewFileDisplayName", @"Enable"};
+        return {
+            @selector(createNewFileViewClick:), @selector(addCreateNewFileRule:),
+                @selector(removeCreateNewFileRule:), @selector(resetCreateNewFileRule:),
+                @selector(enableAllOfCreateNewFilesClick:), @"NewFileDisplayName", @"Enable"
+        };
     case RuleCategory::copyFilesTo:
-        return {@selector(copyFilesToViewClick:), @selector(addSendFilesToRule:), @selector(removeCopyFilesToRule:),
-            @selector(resetCopyFilesToRule:), nullptr, @"Note", @"Enable"};
+        return {
+            @selector(copyFilesToViewClick:), @selector(addSendFilesToRule:),
+                @selector(removeCopyFilesToRule:), @selector(resetCopyFilesToRule:), nullptr, @"Note",
+                @"Enable"
+        };
     case RuleCategory::commonPath:
-        return {@selector(commonPathViewClick:), @selector(addCommonPathRule:), @selector(removeCommondPathRule:),
-            nullptr, nullptr, @"commonPathDisplayName", nil};
+        return {
+            @selector(commonPathViewClick:), @selector(addCommonPathRule:), @selector(removeCommondPathRule:),
+                nullptr, nullptr, @"commonPathDisplayName", nil
+        };
     case RuleCategory::customIcon:
-        return {@selector(customIconViewClick:), @selector(addCustomIconRule:), @selector(removeCustomIconRule:),
-            @selector(resetCustomIconRule:), @selector(enableAllOfCustomIconClick:), @"CustomIconName", @"Enable"};
+        return {
+            @selector(customIconViewClick:), @selector(addCustomIconRule:), @selector(removeCustomIconRule:),
+                @selector(resetCustomIconRule:), @selector(enableAllOfCustomIconClick:), @"CustomIconName",
+                @"Enable"
+        };
     case RuleCategory::others:
         break;
     }
-    return {@selector(othersViewClick:), @selector(addOthersRule:), @selector(removeOthersRule:),
-        @selector(resetOthersRule:), @selector(enableAllOfOthersClick:), @"OthersDisplayName", @"OthersEnable"};
+    return {
+        @selector(othersViewClick:), @selector(addOthersRule:), @selector(removeOthersRule:),
+            @selector(resetOthersRule:), @selector(enableAllOfOthersClick:), @"OthersDisplayName",
+            @"OthersEnable"
+    };
 }
 
 } // namespace tarnwick

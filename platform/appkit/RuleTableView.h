@@ -2,8 +2,8 @@
 
 #import <AppKit/AppKit.h>
 
-/// A table of rules with its keyboard: Delete presses the remove button, Return edits the selected row's name,
-/// Space clicks its switch. Each does only what the control itself would do just then.
+/// A table of rules with its keyboard: Delete presses the remove button, Return edits the selected row's
+/// name, Space clicks its switch. Each does only what the control itself would do just then.
 @interface RuleTableView : NSTableView {
 @private
     NSButton *_removeButton;

@@ -47,8 +47,8 @@ NSControl *controlIn(NSView *cell, Class wanted) {
 }
 
 - (void)editSelectedName {
-    NSTextField *field =
-        static_cast<NSTextField *>([self selectedControlInColumn:_nameColumn ofClass:[NSTextField class]]);
+    NSTextField *field = static_cast<NSTextField *>([self selectedControlInColumn:_nameColumn
+                                                                          ofClass:[NSTextField class]]);
     if ([field isEditable]) {
         [[self window] makeFirstResponder:field];
     }

@@ -4,9 +4,13 @@
 
 namespace {
 
-long rowOf(id sender) { return [sender tag]; }
+long rowOf(id sender) {
+    return [sender tag];
+}
 
-bool isOn(id sender) { return [sender state] == NSControlStateValueOn; }
+bool isOn(id sender) {
+    return [sender state] == NSControlStateValueOn;
+}
 
 } // namespace
 

@@ -79,7 +79,8 @@ long firstDraggedRow(NSPasteboard *pasteboard) {
                 validateDrop:(id<NSDraggingInfo>)info
                  proposedRow:(NSInteger)row
        proposedDropOperation:(NSTableViewDropOperation)operation {
-    const auto place = operation == NSTableViewDropAbove ? tarnwick::DropPlace::above : tarnwick::DropPlace::on;
+    const auto place =
+        operation == NSTableViewDropAbove ? tarnwick::DropPlace::above : tarnwick::DropPlace::on;
     return static_cast<NSDragOperation>([self controller]->validateDrop(place));
 }
 
@@ -88,7 +89,8 @@ long firstDraggedRow(NSPasteboard *pasteboard) {
               row:(NSInteger)row
     dropOperation:(NSTableViewDropOperation)operation {
     return [self controller]->acceptDrop(knownCategoryOf(tableView, [self outlets]),
-        knownCategoryOf([info draggingSource], [self outlets]), firstDraggedRow([info draggingPasteboard]), row);
+        knownCategoryOf([info draggingSource], [self outlets]), firstDraggedRow([info draggingPasteboard]),
+        row);
 }
 
 - (BOOL)control:(NSControl *)control textShouldEndEditing:(NSText *)fieldEditor {

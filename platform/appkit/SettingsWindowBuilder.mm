@@ -39,12 +39,12 @@ NSView *makeSeparator(CGFloat height) {
 
 NSWindow *newSettingsWindow(::SettingsViewController *controller) {
     const NSRect frame = NSMakeRect(0, 0, windowWidth, windowHeight);
-    NSWindow *window = [[NSWindow alloc]
-        initWithContentRect:frame
-                  styleMask:NSWindowStyleMaskTitled | NSWindowStyleMaskClosable | NSWindowStyleMaskMiniaturizable |
-                  NSWindowStyleMaskResizable
-                    backing:NSBackingStoreBuffered
-                      defer:YES];
+    NSWindow *window =
+        [[NSWindow alloc] initWithContentRect:frame
+                                    styleMask:NSWindowStyleMaskTitled | NSWindowStyleMaskClosable |
+                                              NSWindowStyleMaskMiniaturizable | NSWindowStyleMaskResizable
+                                      backing:NSBackingStoreBuffered
+                                        defer:YES];
     [window setReleasedWhenClosed:NO];
     [window setTitle:localizedText("Tarnwick")];
     [window setContentMinSize:NSMakeSize(windowMinimumWidth, windowMinimumHeight)];

@@ -27,6 +27,8 @@ public:
 
 } // namespace
 
-std::unique_ptr<ShellTask> makeShellTask() { return std::make_unique<FoundationTask>(); }
+std::unique_ptr<ShellTask> makeShellTask() {
+    return std::make_unique<FoundationTask>();
+}
 
 } // namespace tarnwick

@@ -7,8 +7,9 @@
 
 namespace tarnwick {
 
-/// Builds the column at the left: the page buttons, and at its foot the restart button with its hint, the help
-/// button and the version. All of them go into `outlets`. Autoreleased.
-[[nodiscard]] NSView *makeSidebar(CGFloat height, ::SettingsViewController *controller, SettingsOutlets *outlets);
+/// Builds the column at the left: the page buttons, and at its foot the restart button with its hint, the
+/// help button and the version. All of them go into `outlets`. Autoreleased.
+[[nodiscard]] NSView *makeSidebar(
+    CGFloat height, ::SettingsViewController *controller, SettingsOutlets *outlets);
 
 } // namespace tarnwick

@@ -50,7 +50,8 @@ SEL selectorOf(Page page) {
 
 /// The icon with room at its sides: a borderless button has none of its own.
 NSImage *paddedIcon(NSImage *icon) {
-    NSImage *padded = [[[NSImage alloc] initWithSize:NSMakeSize(iconSize + 2 * iconPadding, iconSize)] autorelease];
+    NSImage *padded =
+        [[[NSImage alloc] initWithSize:NSMakeSize(iconSize + 2 * iconPadding, iconSize)] autorelease];
     [padded lockFocus];
     [icon drawInRect:NSMakeRect(iconPadding, 0, iconSize, iconSize)
             fromRect:NSZeroRect
@@ -86,7 +87,8 @@ CGFloat addAtFoot(NSView *sidebar, NSView *view, CGFloat bottom, CGFloat height)
 } // namespace
 
 NSView *makeSidebar(CGFloat height, ::SettingsViewController *controller, SettingsOutlets *outlets) {
-    NSView *sidebar = [[[SidebarView alloc] initWithFrame:NSMakeRect(0, 0, sidebarWidth, height)] autorelease];
+    NSView *sidebar =
+        [[[SidebarView alloc] initWithFrame:NSMakeRect(0, 0, sidebarWidth, height)] autorelease];
     [sidebar setAutoresizingMask:NSViewHeightSizable];
 
     CGFloat top = height - topMargin;
@@ -103,8 +105,9 @@ NSView *makeSidebar(CGFloat height, ::SettingsViewController *controller, Settin
     NSTextField *version = makeLabel(@"", smallFont, secondaryTextColor());
     [version setAlignment:NSTextAlignmentCenter];
     NSButton *help = makePushButton(localizedText("Help"), controller, @selector(initializeClick:));
-    NSTextField *tip = makeLabel(localizedText("Does the menu not show a change? Restarting the Finder helps."),
-        smallFont, secondaryTextColor(), true);
+    NSTextField *tip =
+        makeLabel(localizedText("Does the menu not show a change? Restarting the Finder helps."), smallFont,
+            secondaryTextColor(), true);
     [tip setAlignment:NSTextAlignmentCenter];
     NSButton *restart =
         makePushButton(localizedText("Restart Finder"), controller, @selector(restartFinderClick:));

@@ -13,6 +13,8 @@ public:
 
 } // namespace
 
-std::unique_ptr<SystemLog> makeSystemLog() { return std::make_unique<FoundationLog>(); }
+std::unique_ptr<SystemLog> makeSystemLog() {
+    return std::make_unique<FoundationLog>();
+}
 
 } // namespace tarnwick

@@ -17,7 +17,9 @@ public:
             [workspace() openURL:url];
         }
     }
-    void launchApplication(const std::string &path) override { [workspace() launchApplication:toNSString(path)]; }
+    void launchApplication(const std::string &path) override {
+        [workspace() launchApplication:toNSString(path)];
+    }
     std::optional<std::string> applicationPath(std::string_view bundleIdentifier) const override {
         NSString *path = [workspace() absolutePathForAppBundleWithIdentifier:toNSString(bundleIdentifier)];
         return path ? std::optional(toString(path)) : std::nullopt;

@@ -1,5 +1,5 @@
-// Missing: recovery. NSUserDefaults of GNUstep Base 1.28 waits 20 seconds for the lock of a killed program, and
-// overwrites a domain's file that it cannot read.
+// Missing: recovery. NSUserDefaults of GNUstep Base 1.28 waits 20 seconds for the lock of a killed program,
+// and overwrites a domain's file that it cannot read.
 
 #import "DefaultsFiles.h"
 
@@ -43,7 +43,9 @@ bool holdsDictionary(NSData *content) {
 
 } // namespace
 
-NSString *TNDefaultsFolder() { return GSDefaultsRootForUser(NSUserName()); }
+NSString *TNDefaultsFolder() {
+    return GSDefaultsRootForUser(NSUserName());
+}
 
 void TNRemoveStaleDefaultsLock() {
     NSString *lock = [TNDefaultsFolder() stringByAppendingPathComponent:@".lck/.GNUstepDefaults.lck"];
@@ -65,8 +67,8 @@ void TNMoveDamagedFileAside(NSString *path) {
     }
     NSString *aside = freeDamagedName(path);
     if (std::rename([path fileSystemRepresentation], [aside fileSystemRepresentation]) == 0) {
-        std::fprintf(stderr, "Settings file %s cannot be read; moved to %s\n", [path fileSystemRepresentation],
-            [aside fileSystemRepresentation]);
+        std::fprintf(stderr, "Settings file %s cannot be read; moved to %s\n",
+            [path fileSystemRepresentation], [aside fileSystemRepresentation]);
     } else {
         std::fprintf(stderr, "Settings file %s cannot be read, and not moved either: %s\n",
             [path fileSystemRepresentation], std::strerror(errno));

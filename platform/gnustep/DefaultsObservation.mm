@@ -1,5 +1,5 @@
-// Missing: observation of single keys of NSUserDefaults, as of GNUstep Base 1.28: setting and removing objects tells
-// no observer. All typed setters go through these two.
+// Missing: observation of single keys of NSUserDefaults, as of GNUstep Base 1.28: setting and removing
+// objects tells no observer. All typed setters go through these two.
 
 #import <Foundation/Foundation.h>
 

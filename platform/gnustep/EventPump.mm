@@ -1,7 +1,7 @@
-// Missing: prompt events. The run loop of GNUstep Base 1.28 goes to sleep although events have been read into the
-// queue. And GNUstep GUI 0.29, when it is activated, runs a nested loop that waits for a connection and reads
-// events on the way, which can queue a mouse-up before its mouse-down. Here every event that enters the queue
-// writes to a descriptor that the run loop watches, and the nested loop reads no events.
+// Missing: prompt events. The run loop of GNUstep Base 1.28 goes to sleep although events have been read into
+// the queue. And GNUstep GUI 0.29, when it is activated, runs a nested loop that waits for a connection and
+// reads events on the way, which can queue a mouse-up before its mouse-down. Here every event that enters the
+// queue writes to a descriptor that the run loop watches, and the nested loop reads no events.
 
 #import "EventPump.h"
 
@@ -72,10 +72,11 @@ void watchDescriptor() {
     NSArray *modes = [NSArray arrayWithObjects:NSDefaultRunLoopMode, NSModalPanelRunLoopMode,
                               NSEventTrackingRunLoopMode, NSConnectionReplyMode, nil];
     for (NSString *mode in modes) {
-        [[NSRunLoop currentRunLoop] addEvent:reinterpret_cast<void *>(static_cast<std::intptr_t>(wakeDescriptor))
-                                        type:ET_RDESC
-                                     watcher:watcher
-                                     forMode:mode];
+        [[NSRunLoop currentRunLoop]
+            addEvent:reinterpret_cast<void *>(static_cast<std::intptr_t>(wakeDescriptor))
+                type:ET_RDESC
+             watcher:watcher
+             forMode:mode];
     }
 }
 
@@ -93,8 +94,8 @@ void TNInstallEventPump() {
         return;
     }
     nativeReceiveEvent = reinterpret_cast<ReceiveEvent>(method_getImplementation(method));
-    class_replaceMethod(server, method_getName(method), reinterpret_cast<IMP>(receiveEvent),
-        method_getTypeEncoding(method));
+    class_replaceMethod(
+        server, method_getName(method), reinterpret_cast<IMP>(receiveEvent), method_getTypeEncoding(method));
 }
 
 void TNWakeRunLoop() {

@@ -31,7 +31,8 @@ NSURL *urlForDirectory(id self, SEL command, NSSearchPathDirectory directory, NS
         return nativeURLForDirectory(self, command, directory, domain, place, create, error);
     }
     NSString *scripts = [userLibrary() stringByAppendingPathComponent:@"Application Scripts"];
-    return folder([scripts stringByAppendingPathComponent:[[NSProcessInfo processInfo] processName]], create, error);
+    return folder(
+        [scripts stringByAppendingPathComponent:[[NSProcessInfo processInfo] processName]], create, error);
 }
 
 } // namespace
@@ -42,8 +43,8 @@ NSURL *urlForDirectory(id self, SEL command, NSSearchPathDirectory directory, NS
 @implementation NSFileManager (TNFolderLocations)
 
 + (void)load {
-    nativeURLForDirectory = TNReplaceMethod(self,
-        @selector(URLForDirectory:inDomain:appropriateForURL:create:error:), urlForDirectory);
+    nativeURLForDirectory = TNReplaceMethod(
+        self, @selector(URLForDirectory:inDomain:appropriateForURL:create:error:), urlForDirectory);
 }
 
 - (NSURL *)containerURLForSecurityApplicationGroupIdentifier:(NSString *)identifier {

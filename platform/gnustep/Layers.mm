@@ -1,5 +1,5 @@
-// Missing: views with layers, as of GNUstep GUI 0.29. A layer here is a background colour with round corners, drawn
-// ahead of a view that leaves `drawRect:` to NSView or NSControl, or calls it.
+// Missing: views with layers, as of GNUstep GUI 0.29. A layer here is a background colour with round corners,
+// drawn ahead of a view that leaves `drawRect:` to NSView or NSControl, or calls it.
 
 #import <QuartzCore/QuartzCore.h>
 
@@ -11,7 +11,9 @@ namespace {
 
 NSString *const layerName = @"layer";
 
-void drawLayer(NSView *self, SEL, NSRect) { [[self layer] drawInBounds:[self bounds]]; }
+void drawLayer(NSView *self, SEL, NSRect) {
+    [[self layer] drawInBounds:[self bounds]];
+}
 
 } // namespace
 

@@ -1,5 +1,5 @@
-// Missing: a main queue that runs on the main thread, as of GNUstep Base 1.28: there `addOperationWithBlock:` of the
-// main queue runs on a worker.
+// Missing: a main queue that runs on the main thread, as of GNUstep Base 1.28: there `addOperationWithBlock:`
+// of the main queue runs on a worker.
 
 #import "TNMainQueue.h"
 
@@ -41,8 +41,8 @@
 
 void TNOnMain(void (^block)(void)) {
     TNBlockPerformer *performer = [[[TNBlockPerformer alloc] initWithBlock:block] autorelease];
-    NSArray *modes = [NSArray arrayWithObjects:NSDefaultRunLoopMode, NSModalPanelRunLoopMode,
-                              NSEventTrackingRunLoopMode, nil];
+    NSArray *modes = [NSArray
+        arrayWithObjects:NSDefaultRunLoopMode, NSModalPanelRunLoopMode, NSEventTrackingRunLoopMode, nil];
     // The performer is retained until it has run.
     [performer performSelectorOnMainThread:@selector(perform) withObject:nil waitUntilDone:NO modes:modes];
 }

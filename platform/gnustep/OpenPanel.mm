@@ -1,5 +1,5 @@
-// Missing: the answer of an open panel that was begun with a block and left with OK, as of GNUstep GUI 0.29. The
-// panel here is modal for the application; as on macOS, beginning returns at once.
+// Missing: the answer of an open panel that was begun with a block and left with OK, as of GNUstep GUI 0.29.
+// The panel here is modal for the application; as on macOS, beginning returns at once.
 
 #import <AppKit/AppKit.h>
 
@@ -15,7 +15,9 @@
 }
 
 - (void)tnRunWithHandler:(id)block {
-    const NSInteger answer = [self runModalForDirectory:[self directory] file:@"" types:[self allowedFileTypes]];
+    const NSInteger answer = [self runModalForDirectory:[self directory]
+                                                   file:@""
+                                                  types:[self allowedFileTypes]];
     auto handler = (GSSavePanelCompletionHandler)block;
     handler(answer == NSModalResponseOK ? NSModalResponseOK : NSModalResponseCancel);
 }

@@ -1,5 +1,5 @@
-// Missing: the list of running applications. `runningApplicationsWithBundleIdentifier:` of GNUstep GUI 0.29 gives nil;
-// nothing on this platform knows bundle identifiers of other programs, so the list is empty.
+// Missing: the list of running applications. `runningApplicationsWithBundleIdentifier:` of GNUstep GUI 0.29
+// gives nil; nothing on this platform knows bundle identifiers of other programs, so the list is empty.
 
 #import <AppKit/AppKit.h>
 
@@ -7,7 +7,9 @@
 
 namespace {
 
-NSArray *noApplications(id, SEL, NSString *) { return [NSArray array]; }
+NSArray *noApplications(id, SEL, NSString *) {
+    return [NSArray array];
+}
 
 } // namespace
 
@@ -17,7 +19,8 @@ NSArray *noApplications(id, SEL, NSString *) { return [NSArray array]; }
 @implementation NSRunningApplication (TNRunningApplications)
 
 + (void)load {
-    TNReplaceMethod(object_getClass(self), @selector(runningApplicationsWithBundleIdentifier:), noApplications);
+    TNReplaceMethod(
+        object_getClass(self), @selector(runningApplicationsWithBundleIdentifier:), noApplications);
 }
 
 @end

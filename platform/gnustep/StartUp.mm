@@ -1,5 +1,5 @@
-// Missing: what a program on macOS finds prepared. GNUstep names the defaults file after the executable, knows no
-// fonts for Chinese text, and creates a plain application object.
+// Missing: what a program on macOS finds prepared. GNUstep names the defaults file after the executable,
+// knows no fonts for Chinese text, and creates a plain application object.
 
 #import "TNStartUp.h"
 
@@ -25,8 +25,9 @@ void registerInitialDefaults() {
     NSString *regular = @"Inter-Regular";
     NSString *bold = @"Inter-Bold";
     NSMutableDictionary *values = [NSMutableDictionary dictionary];
-    for (NSString *key in [NSArray arrayWithObjects:@"NSFont", @"NSLabelFont", @"NSMessageFont", @"NSMenuFont",
-                                   @"NSControlContentFont", @"NSUserFont", @"NSToolTipsFont", nil]) {
+    for (NSString *key in
+        [NSArray arrayWithObjects:@"NSFont", @"NSLabelFont", @"NSMessageFont", @"NSMenuFont",
+                 @"NSControlContentFont", @"NSUserFont", @"NSToolTipsFont", nil]) {
         [values setObject:regular forKey:key];
     }
     [values setObject:bold forKey:@"NSBoldFont"];
@@ -61,7 +62,8 @@ void TNPrepareProcess(int, char **) {
         [TNApplication sharedApplication];
         TNInstallEventPump();
         TNInstallExceptionReporting();
-        // Before any text is drawn: a failed substitution of a Chinese character is remembered for the whole run.
+        // Before any text is drawn: a failed substitution of a Chinese character is remembered for the whole
+        // run.
         [NSFont setPreferredFontNames:[NSArray arrayWithObject:@"NotoSansCJKsc-Regular"]];
         TNInstallTheme();
     }

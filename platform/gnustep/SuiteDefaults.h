@@ -4,9 +4,9 @@
 
 @class TNSuiteState;
 
-/// A named domain of its own file, `<defaults folder>/<suite>.plist`, as `initWithSuiteName:` gives it. Setting
-/// changes memory; `synchronize` writes, and so does a timer about a second later and the end of the program. What
-/// other programs write is seen at `synchronize`.
+/// A named domain of its own file, `<defaults folder>/<suite>.plist`, as `initWithSuiteName:` gives it.
+/// Setting changes memory; `synchronize` writes, and so does a timer about a second later and the end of the
+/// program. What other programs write is seen at `synchronize`.
 @interface TNSuiteDefaults : NSUserDefaults {
 @private
     TNSuiteState *_state;

@@ -1,5 +1,5 @@
-// Missing: suites of NSUserDefaults, as of GNUstep Base 1.28. Its persistent domains share one lock, and their
-// changes wait for half a minute.
+// Missing: suites of NSUserDefaults, as of GNUstep Base 1.28. Its persistent domains share one lock, and
+// their changes wait for half a minute.
 
 #import "SuiteDefaults.h"
 
@@ -20,7 +20,8 @@ id frozenCopy(id value) {
                                                                      error:nullptr]
                        : nil;
     }
-    const bool isPropertyList = [value isKindOfClass:[NSString class]] || [value isKindOfClass:[NSNumber class]] ||
+    const bool isPropertyList = [value isKindOfClass:[NSString class]] ||
+                                [value isKindOfClass:[NSNumber class]] ||
                                 [value isKindOfClass:[NSData class]] || [value isKindOfClass:[NSDate class]];
     return isPropertyList ? [[value copy] autorelease] : nil;
 }
@@ -39,7 +40,9 @@ bool isSameValue(id one, id other) {
 
 } // namespace
 
-void TNWriteAllSuites() { [TNSuiteState writeAll]; }
+void TNWriteAllSuites() {
+    [TNSuiteState writeAll];
+}
 
 @implementation TNSuiteDefaults
 
@@ -72,7 +75,8 @@ void TNWriteAllSuites() { [TNSuiteState writeAll]; }
     [self willChangeValueForKey:key];
     [_state setValue:copy ofKey:key];
     [self didChangeValueForKey:key];
-    [[NSNotificationCenter defaultCenter] postNotificationName:NSUserDefaultsDidChangeNotification object:self];
+    [[NSNotificationCenter defaultCenter] postNotificationName:NSUserDefaultsDidChangeNotification
+                                                        object:self];
 }
 
 - (void)removeObjectForKey:(NSString *)key {

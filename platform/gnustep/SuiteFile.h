@@ -2,8 +2,8 @@
 
 #import <Foundation/Foundation.h>
 
-/// A property list file that several programs change at a time: whoever writes merges its own changes into what is
-/// there, under a lock, and replaces the file as a whole.
+/// A property list file that several programs change at a time: whoever writes merges its own changes into
+/// what is there, under a lock, and replaces the file as a whole.
 @interface TNSuiteFile : NSObject {
 @private
     NSString *_path;
@@ -21,7 +21,8 @@
 - (NSDictionary *)changedContent;
 
 /// Merges `changes` into the file's content, NSNull for a removed key, and gives the result; nil, after a log
-/// line, when it cannot be written: the file is the old one then. Writes nothing when the content stays the same.
+/// line, when it cannot be written: the file is the old one then. Writes nothing when the content stays the
+/// same.
 - (NSDictionary *)contentByMerging:(NSDictionary *)changes;
 
 @end

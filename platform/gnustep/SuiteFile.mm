@@ -15,9 +15,9 @@ namespace {
 /// Holds the lock beside the file for a scope.
 class FileLock {
 public:
-    explicit FileLock(NSString *path) :
-        descriptor_(open([[path stringByAppendingString:@".lock"] fileSystemRepresentation],
-            O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR)) {
+    explicit FileLock(NSString *path)
+        : descriptor_(open([[path stringByAppendingString:@".lock"] fileSystemRepresentation],
+              O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR)) {
         while (descriptor_ >= 0 && flock(descriptor_, LOCK_EX) != 0 && errno == EINTR) {
         }
     }

@@ -22,7 +22,8 @@ NSMutableDictionary *statesByName() {
     self = [super init];
     if (self) {
         NSString *fileName = [name stringByAppendingPathExtension:@"plist"];
-        _file = [[TNSuiteFile alloc] initWithPath:[TNDefaultsFolder() stringByAppendingPathComponent:fileName]];
+        _file =
+            [[TNSuiteFile alloc] initWithPath:[TNDefaultsFolder() stringByAppendingPathComponent:fileName]];
         _values = [[NSMutableDictionary alloc] init];
         _changes = [[NSMutableDictionary alloc] init];
     }

@@ -4,6 +4,8 @@
 
 namespace tarnwick {
 
-void prepareProcess(int argc, char *argv[]) { TNPrepareProcess(argc, argv); }
+void prepareProcess(int argc, char *argv[]) {
+    TNPrepareProcess(argc, argv);
+}
 
 } // namespace tarnwick

@@ -1,5 +1,5 @@
-// Missing: Return for a field that is being edited, reports of failing event handlers, and the prompt end of a modal
-// session, as of GNUstep GUI 0.29.
+// Missing: Return for a field that is being edited, reports of failing event handlers, and the prompt end of
+// a modal session, as of GNUstep GUI 0.29.
 
 #import "TNApplication.h"
 

@@ -1,6 +1,6 @@
-// Dragging rows. GNUstep proposes row -1 below the last row, draws its mark under the cells and leaves it behind;
-// here the mark is a view above them, and drops are proposed as AppKit does: the outer quarters of a row are the
-// gaps, its middle the row itself, everything below the last row the last gap.
+// Dragging rows. GNUstep proposes row -1 below the last row, draws its mark under the cells and leaves it
+// behind; here the mark is a view above them, and drops are proposed as AppKit does: the outer quarters of a
+// row are the gaps, its middle the row itself, everything below the last row the last gap.
 
 #import "TNTableView.h"
 
@@ -38,7 +38,8 @@ constexpr CGFloat scrollMargin = 16;
     NSIndexSet *rows = [self selectedRowIndexes];
     NSPasteboard *pasteboard = [NSPasteboard pasteboardWithName:NSDragPboard];
     id source = [self dataSource];
-    if ([rows count] == 0 || ![source respondsToSelector:@selector(tableView:writeRowsWithIndexes:toPasteboard:)] ||
+    if ([rows count] == 0 ||
+        ![source respondsToSelector:@selector(tableView:writeRowsWithIndexes:toPasteboard:)] ||
         ![source tableView:self writeRowsWithIndexes:rows toPasteboard:pasteboard]) {
         return;
     }
@@ -98,10 +99,10 @@ constexpr CGFloat scrollMargin = 16;
     [self scrollTowards:place];
     [self proposeDropAt:place];
     const NSDragOperation answer = [source tableView:self
-                                        validateDrop:info
-                                         proposedRow:_dropRow
-                               proposedDropOperation:_dropOperation] &
-        [info draggingSourceOperationMask];
+                                                validateDrop:info
+                                                 proposedRow:_dropRow
+                                       proposedDropOperation:_dropOperation] &
+                                   [info draggingSourceOperationMask];
     [self showDropLine:answer != NSDragOperationNone && _dropOperation == NSTableViewDropAbove];
     return answer;
 }
@@ -153,7 +154,7 @@ constexpr CGFloat scrollMargin = 16;
     [self showDropLine:NO];
     id source = [self dataSource];
     return [source respondsToSelector:@selector(tableView:acceptDrop:row:dropOperation:)] &&
-        [source tableView:self acceptDrop:info row:_dropRow dropOperation:_dropOperation];
+           [source tableView:self acceptDrop:info row:_dropRow dropOperation:_dropOperation];
 }
 
 - (void)concludeDragOperation:(id<NSDraggingInfo>)info {

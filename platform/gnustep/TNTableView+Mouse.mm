@@ -1,5 +1,5 @@
-// Mouse and editing in view-based tables. GNUstep's own handling edits cells, leaves a click in empty space without
-// effect, and sends no action from an empty table.
+// Mouse and editing in view-based tables. GNUstep's own handling edits cells, leaves a click in empty space
+// without effect, and sends no action from an empty table.
 
 #import "TNTableView.h"
 
@@ -27,7 +27,7 @@ bool takesItsOwnClicks(NSView *view) {
         return true;
     }
     return [view isKindOfClass:[NSControl class]] && ![view isKindOfClass:[NSTextField class]] &&
-        ![view isKindOfClass:[NSImageView class]] && [(NSControl *)view isEnabled];
+           ![view isKindOfClass:[NSImageView class]] && [(NSControl *)view isEnabled];
 }
 
 } // namespace
@@ -138,7 +138,7 @@ bool takesItsOwnClicks(NSView *view) {
     id field = [notification object];
     const NSInteger movement = [[[notification userInfo] objectForKey:@"NSTextMovement"] integerValue];
     const bool isKey = movement == NSReturnTextMovement || movement == NSTabTextMovement ||
-        movement == NSBacktabTextMovement || movement == NSCancelTextMovement;
+                       movement == NSBacktabTextMovement || movement == NSCancelTextMovement;
     if (isKey && [field isKindOfClass:[NSTextField class]] && [field isDescendantOf:self]) {
         [[self window] makeFirstResponder:self];
     }

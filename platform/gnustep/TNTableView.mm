@@ -1,5 +1,6 @@
-// View-based tables. GNUstep GUI 0.29 draws cells alone: no view for a cell, no height from the delegate, stripes
-// that are never drawn, and columns that do not share the width. Views exist for the rows on screen alone.
+// View-based tables. GNUstep GUI 0.29 draws cells alone: no view for a cell, no height from the delegate,
+// stripes that are never drawn, and columns that do not share the width. Views exist for the rows on screen
+// alone.
 
 #import "TNTableView.h"
 
@@ -12,7 +13,8 @@ namespace {
 constexpr CGFloat minimumColumnWidth = 40;
 
 NSArray *deferringModes() {
-    return [NSArray arrayWithObjects:NSDefaultRunLoopMode, NSModalPanelRunLoopMode, NSEventTrackingRunLoopMode, nil];
+    return [NSArray
+        arrayWithObjects:NSDefaultRunLoopMode, NSModalPanelRunLoopMode, NSEventTrackingRunLoopMode, nil];
 }
 
 } // namespace
@@ -83,10 +85,12 @@ NSArray *deferringModes() {
 }
 
 - (void)syncRowViews {
-    if (![self window] || ![[self delegate] respondsToSelector:@selector(tableView:viewForTableColumn:row:)]) {
+    if (![self window] || ![[self delegate] respondsToSelector:@selector(tableView:
+                                                                   viewForTableColumn:row:)]) {
         return;
     }
-    const NSRange visible = [self isHiddenOrHasHiddenAncestor] ? NSMakeRange(0, 0) : [self rowsInRect:[self visibleRect]];
+    const NSRange visible =
+        [self isHiddenOrHasHiddenAncestor] ? NSMakeRange(0, 0) : [self rowsInRect:[self visibleRect]];
     const NSInteger editedRow = [self rowForView:[self editedField]];
     for (auto entry = _rowViews.begin(); entry != _rowViews.end();) {
         const auto row = static_cast<NSUInteger>(entry->first);
@@ -160,7 +164,10 @@ NSArray *deferringModes() {
         // The field is still needed by the edit that ends just now.
         if (!_reloadIsPending) {
             _reloadIsPending = YES;
-            [self performSelector:@selector(exchangeRowViews) withObject:nil afterDelay:0 inModes:deferringModes()];
+            [self performSelector:@selector(exchangeRowViews)
+                       withObject:nil
+                       afterDelay:0
+                          inModes:deferringModes()];
         }
         return;
     }
@@ -195,7 +202,8 @@ NSArray *deferringModes() {
 
 - (void)takeRowHeight {
     if ([[self delegate] respondsToSelector:@selector(tableView:heightOfRow:)]) {
-        [self setRowHeight:[(id)[self delegate] tableView:self heightOfRow:0] + [self intercellSpacing].height];
+        [self
+            setRowHeight:[(id)[self delegate] tableView:self heightOfRow:0] + [self intercellSpacing].height];
     }
 }
 
@@ -305,11 +313,11 @@ NSArray *deferringModes() {
     }
     const CGFloat height = [self rowHeight];
     [TNThemeCurrentColors()->alternateRow set];
-    for (auto stripe = static_cast<NSInteger>(NSMinY(clip) / height); static_cast<CGFloat>(stripe) * height < NSMaxY(clip);
-         ++stripe) {
+    for (auto stripe = static_cast<NSInteger>(NSMinY(clip) / height);
+         static_cast<CGFloat>(stripe) * height < NSMaxY(clip); ++stripe) {
         if (stripe % 2 == 1) {
-            NSRectFill(NSIntersectionRect(
-                clip, NSMakeRect(NSMinX(clip), static_cast<CGFloat>(stripe) * height, NSWidth(clip), height)));
+            NSRectFill(NSIntersectionRect(clip,
+                NSMakeRect(NSMinX(clip), static_cast<CGFloat>(stripe) * height, NSWidth(clip), height)));
         }
     }
 }
@@ -318,7 +326,8 @@ NSArray *deferringModes() {
     const auto *colors = TNThemeCurrentColors();
     [([[self window] isKeyWindow] ? colors->selectedRow : colors->selectedRowInactive) set];
     NSIndexSet *selection = [self selectedRowIndexes];
-    for (NSUInteger row = [selection firstIndex]; row != NSNotFound; row = [selection indexGreaterThanIndex:row]) {
+    for (NSUInteger row = [selection firstIndex]; row != NSNotFound;
+         row = [selection indexGreaterThanIndex:row]) {
         NSRectFill(NSIntersectionRect(clip, [self rectOfRow:static_cast<NSInteger>(row)]));
     }
 }

@@ -1,5 +1,5 @@
-// The look of controls. GNUstep's own theme is that of another age; this one is flat and light, with thin lines and
-// round corners. Tables draw their rows themselves, in the same colours.
+// The look of controls. GNUstep's own theme is that of another age; this one is flat and light, with thin
+// lines and round corners. Tables draw their rows themselves, in the same colours.
 
 #import "TNTheme.h"
 
@@ -18,12 +18,12 @@ constexpr CGFloat titleBarButtonSize = 16;
 
 bool isDefaultButton(NSCell *cell) {
     return [cell isKindOfClass:[NSButtonCell class]] &&
-        [[(NSButtonCell *)cell keyEquivalent] isEqualToString:@"\r"];
+           [[(NSButtonCell *)cell keyEquivalent] isEqualToString:@"\r"];
 }
 
 bool isPressed(GSThemeControlState state) {
     return state == GSThemeHighlightedState || state == GSThemeHighlightedFirstResponderState ||
-        state == GSThemeSelectedState || state == GSThemeSelectedFirstResponderState;
+           state == GSThemeSelectedState || state == GSThemeSelectedFirstResponderState;
 }
 
 } // namespace
@@ -38,8 +38,8 @@ NSBezierPath *TNThemeHairline(NSRect rect, CGFloat radius) {
 
 @implementation TNTheme
 
-/// The name under which GNUstep would look for a theme: another one would be loaded in this one's place as soon as
-/// any default changes.
+/// The name under which GNUstep would look for a theme: another one would be loaded in this one's place as
+/// soon as any default changes.
 - (NSString *)name {
     NSString *name = [[NSUserDefaults standardUserDefaults] stringForKey:@"GSTheme"];
     return [name length] > 0 ? name : @"GNUstep";
@@ -203,14 +203,13 @@ NSBezierPath *TNThemeHairline(NSRect rect, CGFloat radius) {
         NSCell *cell = [tableColumn headerCell];
         [cell setFont:[NSFont systemFontOfSize:11]];
         const NSRect frame = [header headerRectOfColumn:column];
-        NSDictionary *attributes = [NSDictionary
-            dictionaryWithObjectsAndKeys:[cell font], NSFontAttributeName, TNThemeCurrentColors()->secondaryText,
-            NSForegroundColorAttributeName, nil];
+        NSDictionary *attributes =
+            [NSDictionary dictionaryWithObjectsAndKeys:[cell font], NSFontAttributeName,
+                          TNThemeCurrentColors() -> secondaryText, NSForegroundColorAttributeName, nil];
         NSString *title = [cell stringValue];
         const NSSize size = [title sizeWithAttributes:attributes];
-        const CGFloat left = [cell alignment] == NSCenterTextAlignment
-            ? NSMidX(frame) - size.width / 2
-            : NSMinX(frame) + 4;
+        const CGFloat left =
+            [cell alignment] == NSCenterTextAlignment ? NSMidX(frame) - size.width / 2 : NSMinX(frame) + 4;
         [title drawAtPoint:NSMakePoint(left, NSMidY(frame) - size.height / 2) withAttributes:attributes];
     }
 }

@@ -1,5 +1,5 @@
-// Pictures that GNUstep draws from files in its own look: check boxes, radio buttons and the arrow of the default
-// button. They are drawn here in the theme's colours and take over the names.
+// Pictures that GNUstep draws from files in its own look: check boxes, radio buttons and the arrow of the
+// default button. They are drawn here in the theme's colours and take over the names.
 
 #import "TNTheme.h"
 
@@ -35,7 +35,10 @@ void fillShape(NSBezierPath *path, bool on) {
 
 NSImage *makeCheckBox(bool on) {
     return draw(boxSize, ^(NSRect bounds) {
-        fillShape([NSBezierPath bezierPathWithRoundedRect:NSInsetRect(bounds, 1.5, 1.5) xRadius:3.5 yRadius:3.5], on);
+        fillShape([NSBezierPath bezierPathWithRoundedRect:NSInsetRect(bounds, 1.5, 1.5)
+                                                  xRadius:3.5
+                                                  yRadius:3.5],
+            on);
         if (on) {
             NSBezierPath *tick = [NSBezierPath bezierPath];
             [tick moveToPoint:NSMakePoint(4.6, 8.1)];
@@ -69,6 +72,6 @@ void TNThemeInstallImages() {
     install(@"GSRadioSelected", makeRadioButton(true));
     for (NSString *name in [NSArray arrayWithObjects:@"common_ret", @"common_retH", nil]) {
         install(name, draw(1, ^(NSRect){
-                }));
+                           }));
     }
 }

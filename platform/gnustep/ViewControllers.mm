@@ -1,5 +1,5 @@
-// Missing: `viewDidLoad` of NSViewController, as of GNUstep GUI 0.29. Sent when a controller gets its first view,
-// from an interface file or by `setView:`.
+// Missing: `viewDidLoad` of NSViewController, as of GNUstep GUI 0.29. Sent when a controller gets its first
+// view, from an interface file or by `setView:`.
 
 #import "TNAdditions.h"
 

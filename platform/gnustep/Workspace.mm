@@ -1,5 +1,5 @@
-// Missing: opening in other applications and news of them. NSWorkspace of GNUstep GUI 0.29 shows a modal panel for
-// a web address, opens nothing else, and never tells of activations.
+// Missing: opening in other applications and news of them. NSWorkspace of GNUstep GUI 0.29 shows a modal
+// panel for a web address, opens nothing else, and never tells of activations.
 
 #import "TNConstants.h"
 
@@ -7,8 +7,10 @@
 
 #include <cstdlib>
 
-NSString *const NSWorkspaceDidActivateApplicationNotification = @"NSWorkspaceDidActivateApplicationNotification";
-NSString *const NSWorkspaceDidDeactivateApplicationNotification = @"NSWorkspaceDidDeactivateApplicationNotification";
+NSString *const NSWorkspaceDidActivateApplicationNotification =
+    @"NSWorkspaceDidActivateApplicationNotification";
+NSString *const NSWorkspaceDidDeactivateApplicationNotification =
+    @"NSWorkspaceDidDeactivateApplicationNotification";
 NSString *const NSWorkspaceApplicationKey = @"NSWorkspaceApplicationKey";
 
 namespace {
@@ -33,9 +35,13 @@ BOOL openInOpener(NSString *argument) {
     }
 }
 
-BOOL openURL(id, SEL, NSURL *address) { return address && openInOpener([address absoluteString]); }
+BOOL openURL(id, SEL, NSURL *address) {
+    return address && openInOpener([address absoluteString]);
+}
 
-BOOL openFile(id, SEL, NSString *path) { return path && openInOpener(path); }
+BOOL openFile(id, SEL, NSString *path) {
+    return path && openInOpener(path);
+}
 
 } // namespace
 

@@ -39,7 +39,9 @@ CaptureResult captureInCopiedBlock() {
     CaptureResult result;
     bool freed = false;
     TNLifeWitness *witness = [[TNLifeWitness alloc] initWithFlag:&freed];
-    int (^block)(void) = [^{ return [witness answer]; } copy];
+    int (^block)(void) = [^{
+        return [witness answer];
+    } copy];
     [witness release];
     result.aliveWhileBlockLives = !freed && block() == 42;
     [block release];
@@ -49,7 +51,9 @@ CaptureResult captureInCopiedBlock() {
 
 int sumInBlockVariable(int times) {
     __block int sum = 0;
-    void (^add)(void) = [^{ ++sum; } copy];
+    void (^add)(void) = [^{
+        ++sum;
+    } copy];
     for (int time = 0; time < times; ++time) {
         add();
     }
@@ -60,7 +64,9 @@ int sumInBlockVariable(int times) {
 static NSArray *storedBlocks(int count) {
     NSMutableArray *blocks = [NSMutableArray array];
     for (int number = 0; number < count; ++number) {
-        [blocks addObject:[[^{ return number * number; } copy] autorelease]];
+        [blocks addObject:[[^{
+            return number * number;
+        } copy] autorelease]];
     }
     return blocks;
 }

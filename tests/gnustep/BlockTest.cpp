@@ -10,7 +10,9 @@ TEST(Block, RetainsCapturedObjectsUntilItIsReleased) {
     EXPECT_TRUE(result.freedWithBlock);
 }
 
-TEST(Block, SharesBlockVariablesWithItsFrame) { EXPECT_EQ(sumInBlockVariable(5), 5); }
+TEST(Block, SharesBlockVariablesWithItsFrame) {
+    EXPECT_EQ(sumInBlockVariable(5), 5);
+}
 
 TEST(Block, LivesInAnArrayLikeAnObject) {
     EXPECT_EQ(resultsOfStoredBlocks(4), (std::vector<int>{0, 1, 4, 9}));

@@ -7,19 +7,27 @@
 namespace tarnwick::probe {
 namespace {
 
-NSString *text(const std::string &string) { return [NSString stringWithUTF8String:string.c_str()]; }
+NSString *text(const std::string &string) {
+    return [NSString stringWithUTF8String:string.c_str()];
+}
 
 NSUserDefaults *suiteNamed(const std::string &name) {
     return [[[NSUserDefaults alloc] initWithSuiteName:text(name)] autorelease];
 }
 
-std::string pathOf(NSURL *url) { return url ? std::string([[url path] fileSystemRepresentation]) : std::string(); }
+std::string pathOf(NSURL *url) {
+    return url ? std::string([[url path] fileSystemRepresentation]) : std::string();
+}
 
 } // namespace
 
-std::string defaultsFolder() { return std::string(std::getenv("TARNWICK_TEST_FOLDER")) + "/defaults"; }
+std::string defaultsFolder() {
+    return std::string(std::getenv("TARNWICK_TEST_FOLDER")) + "/defaults";
+}
 
-std::string libraryFolder() { return std::string(std::getenv("TARNWICK_TEST_FOLDER")) + "/library"; }
+std::string libraryFolder() {
+    return std::string(std::getenv("TARNWICK_TEST_FOLDER")) + "/library";
+}
 
 bool writeEveryKind(const std::string &name) {
     @autoreleasepool {

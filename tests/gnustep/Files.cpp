@@ -9,20 +9,22 @@
 
 namespace tarnwick::probe {
 
-bool exists(const std::string &path) { return access(path.c_str(), F_OK) == 0; }
+bool exists(const std::string& path) {
+    return access(path.c_str(), F_OK) == 0;
+}
 
-std::string contentOf(const std::string &path) {
+std::string contentOf(const std::string& path) {
     std::ostringstream content;
     content << std::ifstream(path, std::ios::binary).rdbuf();
     return content.str();
 }
 
-void writeContent(const std::string &path, const std::string &content) {
+void writeContent(const std::string& path, const std::string& content) {
     std::ofstream(path, std::ios::binary) << content;
 }
 
-std::string outputOf(const std::string &command) {
-    FILE *pipe = popen(command.c_str(), "r");
+std::string outputOf(const std::string& command) {
+    FILE* pipe = popen(command.c_str(), "r");
     if (!pipe) {
         ADD_FAILURE() << "cannot run " << command;
         return {};

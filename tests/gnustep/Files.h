@@ -5,10 +5,10 @@
 /// Files as the tests look at them.
 namespace tarnwick::probe {
 
-bool exists(const std::string &path);
-std::string contentOf(const std::string &path);
-void writeContent(const std::string &path, const std::string &content);
+bool exists(const std::string& path);
+std::string contentOf(const std::string& path);
+void writeContent(const std::string& path, const std::string& content);
 /// The standard output of a command that must succeed; the test fails otherwise.
-std::string outputOf(const std::string &command);
+std::string outputOf(const std::string& command);
 
 } // namespace tarnwick::probe

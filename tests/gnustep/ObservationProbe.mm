@@ -41,7 +41,10 @@ std::vector<std::string> observedChanges() {
     @autoreleasepool {
         NSUserDefaults *defaults = [NSUserDefaults standardUserDefaults];
         TNKeyWitness *witness = [[[TNKeyWitness alloc] initWithChanges:&changes] autorelease];
-        [defaults addObserver:witness forKeyPath:@"watched" options:NSKeyValueObservingOptionNew context:nullptr];
+        [defaults addObserver:witness
+                   forKeyPath:@"watched"
+                      options:NSKeyValueObservingOptionNew
+                      context:nullptr];
         [defaults setBool:YES forKey:@"watched"];
         changes.push_back("-");
         [defaults setBool:YES forKey:@"watched"];

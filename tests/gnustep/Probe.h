@@ -10,8 +10,8 @@ namespace tarnwick::probe {
 std::string defaultsFolder();
 std::string libraryFolder();
 
-/// How often an object was still alive while a copied block that had captured it was used, and whether it was freed
-/// with the block.
+/// How often an object was still alive while a copied block that had captured it was used, and whether it was
+/// freed with the block.
 struct CaptureResult {
     bool aliveWhileBlockLives = false;
     bool freedWithBlock = false;
@@ -23,28 +23,29 @@ int sumInBlockVariable(int times);
 std::vector<int> resultsOfStoredBlocks(int count);
 
 /// Sets a value of every property list kind and writes the suite.
-bool writeEveryKind(const std::string &suite);
-void setSuiteString(const std::string &suite, const std::string &key, const std::string &value);
-void setSuiteBoolean(const std::string &suite, const std::string &key, bool value);
-void removeSuiteKey(const std::string &suite, const std::string &key);
-bool synchronizeSuite(const std::string &suite);
+bool writeEveryKind(const std::string& suite);
+void setSuiteString(const std::string& suite, const std::string& key, const std::string& value);
+void setSuiteBoolean(const std::string& suite, const std::string& key, bool value);
+void removeSuiteKey(const std::string& suite, const std::string& key);
+bool synchronizeSuite(const std::string& suite);
 /// From a new handle; "(none)" when there is no such string.
-std::string suiteString(const std::string &suite, const std::string &key);
+std::string suiteString(const std::string& suite, const std::string& key);
 /// Runs the run loop until the file exists, for at most ten seconds.
-bool waitForFile(const std::string &path);
+bool waitForFile(const std::string& path);
 
-/// The changes that an observer of a key of the standard domain was told of, as descriptions of the new values.
+/// The changes that an observer of a key of the standard domain was told of, as descriptions of the new
+/// values.
 std::vector<std::string> observedChanges();
 
 /// The start-up of a program, in this process, and what the standard domain then holds.
-void startUp(int argc, char **argv);
-std::string standardString(const std::string &key);
-void setStandardString(const std::string &key, const std::string &value);
+void startUp(int argc, char** argv);
+std::string standardString(const std::string& key);
+void setStandardString(const std::string& key, const std::string& value);
 /// Whether a block given to the main queue from another thread ran on the main thread.
 bool mainQueueRunsOnMainThread();
 
 /// Paths; empty for none.
-std::string groupContainer(const std::string &identifier);
+std::string groupContainer(const std::string& identifier);
 std::string scriptsFolder();
 
 } // namespace tarnwick::probe

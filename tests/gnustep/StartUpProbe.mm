@@ -4,7 +4,9 @@
 
 namespace tarnwick::probe {
 
-void startUp(int argc, char **argv) { TNPrepareProcess(argc, argv); }
+void startUp(int argc, char **argv) {
+    TNPrepareProcess(argc, argv);
+}
 
 std::string standardString(const std::string &key) {
     @autoreleasepool {

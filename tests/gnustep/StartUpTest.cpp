@@ -13,11 +13,13 @@ using namespace tarnwick::probe;
 
 namespace {
 
-std::string standardFile() { return defaultsFolder() + "/org.halvane.Tarnwick.plist"; }
+std::string standardFile() {
+    return defaultsFolder() + "/org.halvane.Tarnwick.plist";
+}
 
 void startUp() {
     char name[] = "test";
-    char *arguments[] = {name, nullptr};
+    char* arguments[] = {name, nullptr};
     tarnwick::probe::startUp(1, arguments);
 }
 

@@ -11,13 +11,15 @@ namespace {
 
 const std::string suite = "group.test";
 
-std::string suiteFile() { return defaultsFolder() + "/" + suite + ".plist"; }
+std::string suiteFile() {
+    return defaultsFolder() + "/" + suite + ".plist";
+}
 
-void writeFromAnotherProgram(const std::string &key, const std::string &value) {
+void writeFromAnotherProgram(const std::string& key, const std::string& value) {
     outputOf(std::string(TARNWICK_SUITE_WRITER) + " " + suite + " " + key + " " + value);
 }
 
-ino_t inodeOf(const std::string &path) {
+ino_t inodeOf(const std::string& path) {
     struct stat status = {};
     EXPECT_EQ(stat(path.c_str(), &status), 0);
     return status.st_ino;

@@ -173,15 +173,15 @@ BOOL pressButton(NSView *view, NSString *title) {
     for (NSString *key in [NSArray arrayWithObjects:@"x", @"\r", nil]) {
         for (NSEventType type : {NSEventTypeKeyDown, NSEventTypeKeyUp}) {
             [NSApp postEvent:[NSEvent keyEventWithType:type
-                                              location:NSZeroPoint
-                                         modifierFlags:0
-                                             timestamp:0
-                                          windowNumber:[window windowNumber]
-                                               context:nil
-                                            characters:key
-                           charactersIgnoringModifiers:key
-                                             isARepeat:NO
-                                               keyCode:0]
+                                                    location:NSZeroPoint
+                                               modifierFlags:0
+                                                   timestamp:0
+                                                windowNumber:[window windowNumber]
+                                                     context:nil
+                                                  characters:key
+                                 charactersIgnoringModifiers:key
+                                                   isARepeat:NO
+                                                     keyCode:0]
                      atStart:NO];
         }
     }

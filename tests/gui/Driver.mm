@@ -20,11 +20,17 @@ constexpr double pumpSeconds = 0.005;
 std::function<int()> testsToRun;
 const tarnwick::MainInterface *application = nullptr;
 
-SettingsOutlets *outlets() { return [application->controller() outlets]; }
+SettingsOutlets *outlets() {
+    return [application->controller() outlets];
+}
 
-NSWindow *window() { return application->window(); }
+NSWindow *window() {
+    return application->window();
+}
 
-NSTableView *tableOf(tarnwick::RuleCategory category) { return [outlets() tableOf:category]; }
+NSTableView *tableOf(tarnwick::RuleCategory category) {
+    return [outlets() tableOf:category];
+}
 
 void pumpOnce() {
     @autoreleasepool {
@@ -43,7 +49,8 @@ void postMouse(NSEventType type, NSPoint place, NSInteger clicks) {
     [NSApp postEvent:[NSEvent mouseEventWithType:type
                                         location:place
                                    modifierFlags:0
-                                       timestamp:static_cast<NSTimeInterval>([[NSProcessInfo processInfo] systemUptime])
+                                       timestamp:static_cast<NSTimeInterval>(
+                                                     [[NSProcessInfo processInfo] systemUptime])
                                     windowNumber:[window() windowNumber]
                                          context:nil
                                      eventNumber:0
@@ -65,20 +72,23 @@ NSPoint middleOf(NSView *view) {
     return [view convertPoint:NSMakePoint(NSMidX(bounds), NSMidY(bounds)) toView:nil];
 }
 
-NSPoint pointInTable(NSTableView *table, NSPoint place) { return [table convertPoint:place toView:nil]; }
+NSPoint pointInTable(NSTableView *table, NSPoint place) {
+    return [table convertPoint:place toView:nil];
+}
 
 void postKey(NSString *characters, NSUInteger modifiers) {
     for (const auto type : {NSEventTypeKeyDown, NSEventTypeKeyUp}) {
         [NSApp postEvent:[NSEvent keyEventWithType:type
-                                          location:NSZeroPoint
-                                     modifierFlags:modifiers
-                                         timestamp:static_cast<NSTimeInterval>([[NSProcessInfo processInfo] systemUptime])
-                                      windowNumber:[window() windowNumber]
-                                           context:nil
-                                        characters:characters
-                       charactersIgnoringModifiers:characters
-                                         isARepeat:NO
-                                           keyCode:0]
+                                                location:NSZeroPoint
+                                           modifierFlags:modifiers
+                                               timestamp:static_cast<NSTimeInterval>(
+                                                             [[NSProcessInfo processInfo] systemUptime])
+                                            windowNumber:[window() windowNumber]
+                                                 context:nil
+                                              characters:characters
+                             charactersIgnoringModifiers:characters
+                                               isARepeat:NO
+                                                 keyCode:0]
                  atStart:NO];
     }
     tarnwick::gui::settle();
@@ -130,7 +140,8 @@ NSButton *visibleButton(NSView *view, NSString *title) {
     if ([view isHidden]) {
         return nil;
     }
-    if ([view isKindOfClass:[NSButton class]] && [[static_cast<NSButton *>(view) title] isEqualToString:title]) {
+    if ([view isKindOfClass:[NSButton class]] &&
+        [[static_cast<NSButton *>(view) title] isEqualToString:title]) {
         return static_cast<NSButton *>(view);
     }
     for (NSView *inner in [view subviews]) {
@@ -245,8 +256,11 @@ void settle() {
 }
 
 void clickPageButton(Page page) {
-    NSButton *buttons[] = {[outlets() createNewFileButton], [outlets() copyFilesToButton],
-        [outlets() commonPathToButton], [outlets() customIconButton], [outlets() otherOptionButton],
+    NSButton *buttons[] = {[outlets() createNewFileButton],
+        [outlets() copyFilesToButton],
+        [outlets() commonPathToButton],
+        [outlets() customIconButton],
+        [outlets() otherOptionButton],
         [outlets() moreAppButton]};
     clickAt(middleOf(buttons[static_cast<std::size_t>(page)]));
 }
@@ -288,7 +302,9 @@ void dragRowOntoRow(RuleCategory table, long row, long target) {
     drag(view, row, NSMakePoint(120, NSMidY([view rectOfRow:target])));
 }
 
-void press(Key key) { postKey(charactersOf(key), 0); }
+void press(Key key) {
+    postKey(charactersOf(key), 0);
+}
 
 void pressCommand(char key) {
     postKey([NSString stringWithFormat:@"%c", key], NSEventModifierFlagCommand);
@@ -306,9 +322,13 @@ int shownPage() {
     return static_cast<int>([tabView indexOfTabViewItem:[tabView selectedTabViewItem]]);
 }
 
-long rowCount(RuleCategory table) { return [tableOf(table) numberOfRows]; }
+long rowCount(RuleCategory table) {
+    return [tableOf(table) numberOfRows];
+}
 
-long selectedRow(RuleCategory table) { return [tableOf(table) selectedRow]; }
+long selectedRow(RuleCategory table) {
+    return [tableOf(table) selectedRow];
+}
 
 std::string cellText(RuleCategory table, long row, const std::string &column) {
     return toString([controlIn(table, row, column) stringValue]);
@@ -336,13 +356,21 @@ void scrollToRow(RuleCategory table, long row) {
     settle();
 }
 
-bool removeButtonIsEnabled(RuleCategory table) { return [[outlets() removeButtonOf:table] isEnabled]; }
+bool removeButtonIsEnabled(RuleCategory table) {
+    return [[outlets() removeButtonOf:table] isEnabled];
+}
 
-bool buttonIsEnabled(const std::string &title) { return [visibleButton(title) isEnabled]; }
+bool buttonIsEnabled(const std::string &title) {
+    return [visibleButton(title) isEnabled];
+}
 
-bool buttonIsOn(const std::string &title) { return [visibleButton(title) state] == NSControlStateValueOn; }
+bool buttonIsOn(const std::string &title) {
+    return [visibleButton(title) state] == NSControlStateValueOn;
+}
 
-bool isEditing() { return [[window() firstResponder] isKindOfClass:[NSText class]]; }
+bool isEditing() {
+    return [[window() firstResponder] isKindOfClass:[NSText class]];
+}
 
 std::string openAlertText() {
     NSTextField *label = firstLabel([[NSApp modalWindow] contentView]);

@@ -6,7 +6,9 @@
 namespace tarnwick::gui {
 namespace {
 
-bool isPublished() { return shared("len(d.get('arrOfOthers', []))") == "18"; }
+bool isPublished() {
+    return shared("len(d.get('arrOfOthers', []))") == "18";
+}
 
 TEST(Pages, TheWindowOpensOnTheFirstPageWithEveryTableFilled) {
     ASSERT_TRUE(waitUntil(isPublished));
@@ -19,8 +21,8 @@ TEST(Pages, TheWindowOpensOnTheFirstPageWithEveryTableFilled) {
 }
 
 TEST(Pages, EveryPageButtonShowsItsPage) {
-    for (const auto page : {Page::copyFilesTo, Page::commonPath, Page::customIcon, Page::others, Page::moreApps,
-             Page::createNewFile}) {
+    for (const auto page : {Page::copyFilesTo, Page::commonPath, Page::customIcon, Page::others,
+             Page::moreApps, Page::createNewFile}) {
         clickPageButton(page);
         EXPECT_EQ(shownPage(), static_cast<int>(page));
     }

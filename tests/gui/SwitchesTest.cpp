@@ -18,7 +18,8 @@ TEST(Switches, ARowsCheckBoxStoresAnIntegerAndTheSuiteFollowsAtOnce) {
 TEST(Switches, TheMainMenuCheckBoxHasAFieldOfItsOwn) {
     clickCheckBox(RuleCategory::createNewFile, 1, "EnableMainMenu");
     EXPECT_TRUE(cellIsOn(RuleCategory::createNewFile, 1, "EnableMainMenu"));
-    EXPECT_EQ(shared("[r['enableMainMenu'] for r in d['arrOfCreateNewFile'] if 'enableMainMenu' in r]"), "[1]");
+    EXPECT_EQ(
+        shared("[r['enableMainMenu'] for r in d['arrOfCreateNewFile'] if 'enableMainMenu' in r]"), "[1]");
 }
 
 TEST(Switches, EnableAllTurnsEveryTemplateOnAndTheSwitchFollowsASingleRow) {
@@ -63,7 +64,8 @@ TEST(Switches, AFixedActionsCheckBoxCannotBeClicked) {
     clickPageButton(Page::others);
     clickCheckBox(RuleCategory::others, 16, "OthersEnable");
     EXPECT_TRUE(cellIsOn(RuleCategory::others, 16, "OthersEnable"));
-    EXPECT_EQ(shared("[r['enable'] for r in d['arrOfOthers'] if r['Action'] == 'Translate by Google']"), "[1]");
+    EXPECT_EQ(
+        shared("[r['enable'] for r in d['arrOfOthers'] if r['Action'] == 'Translate by Google']"), "[1]");
 }
 
 } // namespace

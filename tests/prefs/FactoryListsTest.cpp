@@ -13,17 +13,16 @@ TEST_F(FactoryListsTest, TheTemplatesAreFifteenNineOfThemOnAsStrings) {
     const auto& list = localList(RuleCategory::createNewFile);
     ASSERT_EQ(list.size(), 15U);
     for (std::size_t row = 0; row < list.size(); ++row) {
-        EXPECT_EQ(list[row],
-            PlistValue(PlistDictionary{{"enable", row < 9 ? "1" : "0"},
-                {"displayName", factoryTemplates[row].displayName}, {"extension", factoryTemplates[row].extension},
-                {"modified", "0"}}));
+        EXPECT_EQ(list[row], PlistValue(PlistDictionary{{"enable", row < 9 ? "1" : "0"},
+                                 {"displayName", factoryTemplates[row].displayName},
+                                 {"extension", factoryTemplates[row].extension}, {"modified", "0"}}));
     }
     EXPECT_EQ(texts(list, "displayName"),
-        (std::vector<std::string>{"TXT", "RTF", "XML", "Word", "Excel", "PPT", "WPS_wps", "WPS_et", "WPS_dps", "Pages",
-            "Numbers", "Keynote", "Ai", "PSD", "Markdown"}));
-    EXPECT_EQ(texts(list, "extension"),
-        (std::vector<std::string>{"txt", "rtf", "xml", "docx", "xlsx", "pptx", "wps", "et", "dps", "pages", "numbers",
-            "key", "ai", "psd", "md"}));
+        (std::vector<std::string>{"TXT", "RTF", "XML", "Word", "Excel", "PPT", "WPS_wps", "WPS_et", "WPS_dps",
+            "Pages", "Numbers", "Keynote", "Ai", "PSD", "Markdown"}));
+    EXPECT_EQ(
+        texts(list, "extension"), (std::vector<std::string>{"txt", "rtf", "xml", "docx", "xlsx", "pptx",
+                                      "wps", "et", "dps", "pages", "numbers", "key", "ai", "psd", "md"}));
 }
 
 TEST_F(FactoryListsTest, TheTemplateResetPublishesAllFifteenBeforeTheOrdinaryPublishing) {
@@ -54,8 +53,9 @@ TEST_F(FactoryListsTest, TheTemplateResetStoresPublishesRemovesCreatesAndCopiesI
     const auto& lines = platform_.log.lines();
     EXPECT_EQ(std::vector<std::string>(lines.begin(), lines.begin() + 9),
         (std::vector<std::string>{"local set arrOfCreateNewFile", "local synchronise",
-            "shared open H7Q2ZK5RX9.org.halvane.Tarnwick", "shared set arrOfCreateNewFile", "shared synchronise",
-            "remove /container/Templates/CreateNewFile", "create folder /container/Templates/CreateNewFile",
+            "shared open H7Q2ZK5RX9.org.halvane.Tarnwick", "shared set arrOfCreateNewFile",
+            "shared synchronise", "remove /container/Templates/CreateNewFile",
+            "create folder /container/Templates/CreateNewFile",
             "copy /resources/TXT.txt -> /container/Templates/CreateNewFile/TXT.txt",
             "copy /resources/txt.png -> /container/Templates/CreateNewFile/txt.png"}));
 }
@@ -63,13 +63,13 @@ TEST_F(FactoryListsTest, TheTemplateResetStoresPublishesRemovesCreatesAndCopiesI
 TEST_F(FactoryListsTest, TheIconsAreTwentyAllOnEachNamedLikeItsImage) {
     const auto& list = localList(RuleCategory::customIcon);
     EXPECT_EQ(texts(list, "displayName"),
-        (std::vector<std::string>{"App", "Apple", "Book", "Calendar", "Cloud", "Excel", "File", "Google", "Mac OS1",
-            "Mac OS2", "Mac", "Mail", "Music", "Pages", "Picture", "PPT", "QQ", "Video", "WeChat", "Word"}));
+        (std::vector<std::string>{"App", "Apple", "Book", "Calendar", "Cloud", "Excel", "File", "Google",
+            "Mac OS1", "Mac OS2", "Mac", "Mail", "Music", "Pages", "Picture", "PPT", "QQ", "Video", "WeChat",
+            "Word"}));
     for (const auto& element : list) {
         const auto name = *element.dictionary()->at("displayName").string();
-        EXPECT_EQ(element,
-            PlistValue(PlistDictionary{
-                {"enable", 1}, {"icon", tiffOf("tiff of " + name)}, {"displayName", name}, {"modified", "0"}}));
+        EXPECT_EQ(element, PlistValue(PlistDictionary{{"enable", 1}, {"icon", tiffOf("tiff of " + name)},
+                               {"displayName", name}, {"modified", "0"}}));
     }
 }
 
@@ -79,19 +79,20 @@ struct ActionRow {
     const char* note;
 };
 
-constexpr std::array<ActionRow, 18> actionRows{{{"Cut", "Cut", "Initially just hide"},
-    {"Pin\u3001Annotation by Snapfin", "Snapfin", ""}, {"Copy Path", "Copy Path", ""},
-    {"Delete directly", "Delete directly", ""}, {"Open in Terminal", "Open in Terminal", ""},
-    {"Open in iTerm2", "Open in iTerm2", ""}, {"Open in VSCode", "VSCode", ""},
-    {"Open in Sublime Text", "Sublime Text", ""}, {"Open in Emacs", "Emacs", ""},
-    {"Screenshots by Snapfin", "Snapfin", "Snapfin >= 1.0.6"},
-    {"Nohidden All Files in Path", "Nohidden All Files in Path", ""},
-    {"Nohidden Selected Files", "Nohidden Selected Files", ""},
-    {"Hidden All Files in Path", "Hidden All Files in Path", ""},
-    {"Hidden Selected Files", "Hidden Selected Files", ""}, {"Image to Icon", "Image to Icon", "Only for testing"},
-    {"Translate by Baidu", "Translate by Baidu", "Three Text Services"},
-    {"Translate by Google", "Translate by Google", "No need VPN"},
-    {"Change to QR Code", "Change to QR Code", "Save in Pasteboard"}}};
+constexpr std::array<ActionRow, 18> actionRows{
+    {{"Cut", "Cut", "Initially just hide"}, {"Pin\u3001Annotation by Snapfin", "Snapfin", ""},
+        {"Copy Path", "Copy Path", ""}, {"Delete directly", "Delete directly", ""},
+        {"Open in Terminal", "Open in Terminal", ""}, {"Open in iTerm2", "Open in iTerm2", ""},
+        {"Open in VSCode", "VSCode", ""}, {"Open in Sublime Text", "Sublime Text", ""},
+        {"Open in Emacs", "Emacs", ""}, {"Screenshots by Snapfin", "Snapfin", "Snapfin >= 1.0.6"},
+        {"Nohidden All Files in Path", "Nohidden All Files in Path", ""},
+        {"Nohidden Selected Files", "Nohidden Selected Files", ""},
+        {"Hidden All Files in Path", "Hidden All Files in Path", ""},
+        {"Hidden Selected Files", "Hidden Selected Files", ""},
+        {"Image to Icon", "Image to Icon", "Only for testing"},
+        {"Translate by Baidu", "Translate by Baidu", "Three Text Services"},
+        {"Translate by Google", "Translate by Google", "No need VPN"},
+        {"Change to QR Code", "Change to QR Code", "Save in Pasteboard"}}};
 
 TEST_F(FactoryListsTest, TheOtherItemsAreEighteenWithSevenFieldsEach) {
     const auto& list = localList(RuleCategory::others);
@@ -99,9 +100,10 @@ TEST_F(FactoryListsTest, TheOtherItemsAreEighteenWithSevenFieldsEach) {
     for (std::size_t row = 0; row < list.size(); ++row) {
         const auto& expected = actionRows[row];
         EXPECT_EQ(list[row],
-            PlistValue(PlistDictionary{{"enable", 1}, {"icon", tiffOf(std::string("tiff of ") + expected.image)},
-                {"displayName", expected.action}, {"nameModified", "0"}, {"noteModified", "0"},
-                {"Action", expected.action}, {"Note", expected.note}}))
+            PlistValue(
+                PlistDictionary{{"enable", 1}, {"icon", tiffOf(std::string("tiff of ") + expected.image)},
+                    {"displayName", expected.action}, {"nameModified", "0"}, {"noteModified", "0"},
+                    {"Action", expected.action}, {"Note", expected.note}}))
             << row;
     }
 }
@@ -111,11 +113,11 @@ TEST_F(FactoryListsTest, TheTargetsAreFourFoldersOfTheLoginNamesHomeWhateverTheR
     controller_.resetCopyFilesToRule();
     const auto& list = localList(RuleCategory::copyFilesTo);
     ASSERT_EQ(list.size(), 4U);
-    EXPECT_EQ(list[0],
-        PlistValue(PlistDictionary{{"enable", 1}, {"realPath", "/Users/otto/Downloads"}, {"displayName", ""}}));
-    EXPECT_EQ(texts(list, "realPath"),
-        (std::vector<std::string>{
-            "/Users/otto/Downloads", "/Users/otto/Pictures", "/Users/otto/Music", "/Users/otto/Movies"}));
+    EXPECT_EQ(list[0], PlistValue(PlistDictionary{
+                           {"enable", 1}, {"realPath", "/Users/otto/Downloads"}, {"displayName", ""}}));
+    EXPECT_EQ(
+        texts(list, "realPath"), (std::vector<std::string>{"/Users/otto/Downloads", "/Users/otto/Pictures",
+                                     "/Users/otto/Music", "/Users/otto/Movies"}));
 }
 
 TEST_F(FactoryListsTest, AMissingImageLeavesTheOthersListAsItWasWithALogLineThatNamesIt) {

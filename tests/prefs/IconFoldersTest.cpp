@@ -23,9 +23,8 @@ const std::string others = "/container/Templates/OthersMenuItemIcon";
 
 TEST_F(IconFoldersTest, TheFiveSectionIconsAreCopiedInOrder) {
     load();
-    EXPECT_EQ(copiesInto(sections),
-        (std::vector<std::string>{
-            "createNewFile.png", "copyFilesTo.png", "moveFilesTo.png", "commonPath.png", "customIcon.png"}));
+    EXPECT_EQ(copiesInto(sections), (std::vector<std::string>{"createNewFile.png", "copyFilesTo.png",
+                                        "moveFilesTo.png", "commonPath.png", "customIcon.png"}));
 }
 
 TEST_F(IconFoldersTest, TheFourteenOthersIconsAreCopiedInOrder) {

@@ -40,10 +40,10 @@ TEST_F(LoadingTest, AFreshInstallationSetsEverySeededSwitchTrueInBothStores) {
 
 TEST_F(LoadingTest, AFreshInstallationPublishesTheElevenFeaturesWithTheDoubledOne) {
     load();
-    const PlistArray expected{"enableCopyPathToPaste", "enableDeleteSelectedFiles", "enableOpenPathInTerminal",
-        "enableOpenPathInTerminal", "enableOpenPathIniTerm2", "enableImagetoIcon", "enableHiddenAllFilesInPath",
-        "enableUnhiddenAllFilesInPath", "enableUnhiddenSelectedFiles", "enableHiddenSelectedFiles",
-        "enableScreenshotsBySnapfin"};
+    const PlistArray expected{"enableCopyPathToPaste", "enableDeleteSelectedFiles",
+        "enableOpenPathInTerminal", "enableOpenPathInTerminal", "enableOpenPathIniTerm2", "enableImagetoIcon",
+        "enableHiddenAllFilesInPath", "enableUnhiddenAllFilesInPath", "enableUnhiddenSelectedFiles",
+        "enableHiddenSelectedFiles", "enableScreenshotsBySnapfin"};
     EXPECT_EQ(shared("arrOfEnableOther"), PlistValue(expected));
     for (const auto& name : expected) {
         EXPECT_EQ(local(*name.string()), PlistValue(true));
@@ -108,7 +108,8 @@ TEST_F(LoadingTest, TheStepsFollowEachOtherInOrder) {
         "shared set arrOfEnableOther", "local set arrOfCreateNewFile",
         "create folder /container/Templates/CreateNewFile", "create folder /container/Templates/FunctionIcon",
         "create folder /container/Templates/OthersMenuItemIcon", "schedule", "local set arrOfCustomIcon",
-        "local set arrOfOthers", "observe soundTipsOfSendFilesTo", "observe deleteDirectlyRequiresConfirmation"};
+        "local set arrOfOthers", "observe soundTipsOfSendFilesTo",
+        "observe deleteDirectlyRequiresConfirmation"};
     const auto& lines = platform_.log.lines();
     auto place = lines.begin();
     for (const auto& milestone : milestones) {
@@ -130,7 +131,8 @@ TEST_F(LoadingTest, AnOlderInstallationGetsTheImageToIconFeatureAppended) {
     storeList(RuleCategory::copyFilesTo, {});
     platform_.preferences.shared.insert_or_assign("arrOfEnableOther", PlistArray{"enableCopyPathToPaste"});
     load();
-    EXPECT_EQ(shared("arrOfEnableOther"), PlistValue(PlistArray{"enableCopyPathToPaste", "enableImagetoIcon"}));
+    EXPECT_EQ(
+        shared("arrOfEnableOther"), PlistValue(PlistArray{"enableCopyPathToPaste", "enableImagetoIcon"}));
     EXPECT_EQ(local("enableImagetoIcon"), PlistValue(true));
 }
 
@@ -158,9 +160,8 @@ TEST_F(LoadingTest, EmptyIconAndOthersListsAreRefilled) {
 TEST_F(LoadingTest, AnOthersListWithoutEditorsGetsThemAtTheirPlacesInMemoryAlone) {
     storeOthers({"a", "b", "c", "d", "e", "f", "g"});
     load();
-    EXPECT_EQ(othersShown(),
-        (std::vector<std::string>{"a", "b", "c", "d", "e", "f", "Open in VSCode", "Open in Sublime Text",
-            "Open in Emacs", "g"}));
+    EXPECT_EQ(othersShown(), (std::vector<std::string>{"a", "b", "c", "d", "e", "f", "Open in VSCode",
+                                 "Open in Sublime Text", "Open in Emacs", "g"}));
     EXPECT_EQ(localList(RuleCategory::others).size(), 7U);
     platform_.runLoop.runMain();
     EXPECT_EQ(sharedList(RuleCategory::others).size(), 10U);
@@ -173,9 +174,8 @@ TEST_F(LoadingTest, AnOthersListWithoutEditorsGetsThemAtTheirPlacesInMemoryAlone
 TEST_F(LoadingTest, OnlyTheMissingEditorsAreInserted) {
     storeOthers({"Open in VSCode", "b", "c", "d", "e", "f", "g", "h"});
     load();
-    EXPECT_EQ(othersShown(),
-        (std::vector<std::string>{
-            "Open in VSCode", "b", "c", "d", "e", "f", "g", "Open in Sublime Text", "Open in Emacs", "h"}));
+    EXPECT_EQ(othersShown(), (std::vector<std::string>{"Open in VSCode", "b", "c", "d", "e", "f", "g",
+                                 "Open in Sublime Text", "Open in Emacs", "h"}));
 }
 
 TEST_F(LoadingTest, AListWithAllEditorsIsLeftUnchanged) {

@@ -48,9 +48,8 @@ TEST_F(PublishingTest, AllEnabledEndsTheFlagTrueWithOneWrite) {
     fill(RuleCategory::customIcon, {1, 1});
     platform_.log.clear();
     publisher_.setCustomIconToSettings();
-    EXPECT_EQ(platform_.log.lines(),
-        (std::vector<std::string>{
-            "local set enableAllOfCustomIcon", openSuite, "shared set arrOfCustomIcon", "shared synchronise"}));
+    EXPECT_EQ(platform_.log.lines(), (std::vector<std::string>{"local set enableAllOfCustomIcon", openSuite,
+                                         "shared set arrOfCustomIcon", "shared synchronise"}));
     EXPECT_EQ(platform_.preferences.local.at("enableAllOfCustomIcon"), PlistValue(true));
 }
 
@@ -87,7 +86,8 @@ TEST_F(PublishingTest, PublishedRecordsKeepAllTheirFields) {
 TEST_F(PublishingTest, SavingOpensAHandleStoresAndSynchronises) {
     platform_.log.clear();
     publisher_.saveData(7, "key");
-    EXPECT_EQ(platform_.log.lines(), (std::vector<std::string>{openSuite, "shared set key", "shared synchronise"}));
+    EXPECT_EQ(
+        platform_.log.lines(), (std::vector<std::string>{openSuite, "shared set key", "shared synchronise"}));
 }
 
 TEST(LocalPreferencesTest, HoldsNothingAndDropsWritesUntilItIsOpened) {

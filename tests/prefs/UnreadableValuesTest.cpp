@@ -10,7 +10,9 @@ protected:
     void store(const std::string& key, PlistValue value) {
         platform_.preferences.local.insert_or_assign(key, std::move(value));
     }
-    [[nodiscard]] bool has(const std::string& key) const { return platform_.preferences.local.count(key) != 0; }
+    [[nodiscard]] bool has(const std::string& key) const {
+        return platform_.preferences.local.count(key) != 0;
+    }
 };
 
 class UnreadableListTest : public UnreadableValuesTest, public ::testing::WithParamInterface<RuleCategory> {};
@@ -47,8 +49,8 @@ TEST_F(UnreadableValuesTest, ATargetListThatIsNoArrayCountsAsAFirstRun) {
 }
 
 TEST_F(UnreadableValuesTest, FieldsOfTheWrongTypeAreKeptAsideAndReadAsMissing) {
-    const PlistArray stored{
-        PlistDictionary{{"enable", 1}, {"displayName", 42}, {"icon", "no image"}, {"modified", PlistArray{}}}};
+    const PlistArray stored{PlistDictionary{
+        {"enable", 1}, {"displayName", 42}, {"icon", "no image"}, {"modified", PlistArray{}}}};
     store("arrOfCustomIcon", stored);
     controller_.awakeFromNib();
     EXPECT_EQ(local("arrOfCustomIcon.unreadable"), PlistValue(stored));

@@ -90,12 +90,13 @@ TEST_P(FlagTest, ReadsByTheOneRule) {
 
 INSTANTIATE_TEST_SUITE_P(Every, FlagTest,
     ::testing::Values(FlagCase{"1", true}, FlagCase{"0", false}, FlagCase{1, true}, FlagCase{0, false},
-        FlagCase{-5, true}, FlagCase{true, true}, FlagCase{false, false}, FlagCase{0.5, true}, FlagCase{0.0, false},
-        FlagCase{"Y", true}, FlagCase{"yes", true}, FlagCase{"T", true}, FlagCase{"true", true}, FlagCase{"no", false},
-        FlagCase{"N", false}, FlagCase{"", false}, FlagCase{"   ", false}, FlagCase{"000", false},
-        FlagCase{" \t\n0012", true}, FlagCase{"+1", true}, FlagCase{"-9", true}, FlagCase{"-0", false},
-        FlagCase{"+", false}, FlagCase{"--1", false}, FlagCase{"0x1", false}, FlagCase{"0Y", true},
-        FlagCase{"x1", false}, FlagCase{PlistArray{1}, std::nullopt}, FlagCase{PlistDictionary{}, std::nullopt},
+        FlagCase{-5, true}, FlagCase{true, true}, FlagCase{false, false}, FlagCase{0.5, true},
+        FlagCase{0.0, false}, FlagCase{"Y", true}, FlagCase{"yes", true}, FlagCase{"T", true},
+        FlagCase{"true", true}, FlagCase{"no", false}, FlagCase{"N", false}, FlagCase{"", false},
+        FlagCase{"   ", false}, FlagCase{"000", false}, FlagCase{" \t\n0012", true}, FlagCase{"+1", true},
+        FlagCase{"-9", true}, FlagCase{"-0", false}, FlagCase{"+", false}, FlagCase{"--1", false},
+        FlagCase{"0x1", false}, FlagCase{"0Y", true}, FlagCase{"x1", false},
+        FlagCase{PlistArray{1}, std::nullopt}, FlagCase{PlistDictionary{}, std::nullopt},
         FlagCase{PlistData({1}), std::nullopt}, FlagCase{PlistDate{1}, std::nullopt},
         FlagCase{std::numeric_limits<std::int64_t>::min(), true}));
 
@@ -108,7 +109,8 @@ TEST(RuleRecordTest, AMissingFieldReadsAsFalseEmptyTextAndNoData) {
 }
 
 TEST(RuleRecordTest, AFieldOfTheWrongTypeReadsAsMissing) {
-    const RuleRecord record(PlistDictionary{{"displayName", 7}, {"icon", "no image"}, {"enable", PlistArray{}}});
+    const RuleRecord record(
+        PlistDictionary{{"displayName", 7}, {"icon", "no image"}, {"enable", PlistArray{}}});
     EXPECT_EQ(record.text(field::displayName), "");
     EXPECT_TRUE(record.data(field::icon).empty());
     EXPECT_FALSE(record.isEnabled());
@@ -139,11 +141,13 @@ TEST_P(ActionTest, IsKnownByItsExactIdentity) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Every, ActionTest,
-    ::testing::Values(ActionCase{"Change to QR Code", true, true}, ActionCase{"Translate by Google", true, true},
-        ActionCase{"Translate by Baidu", true, true}, ActionCase{"Screenshots by Snapfin", false, true},
+    ::testing::Values(ActionCase{"Change to QR Code", true, true},
+        ActionCase{"Translate by Google", true, true}, ActionCase{"Translate by Baidu", true, true},
+        ActionCase{"Screenshots by Snapfin", false, true},
         ActionCase{"Pin\u3001Annotation by Snapfin", false, true},
-        ActionCase{"Pin,Annotation by Snapfin", false, false}, ActionCase{"translate by google", false, false},
-        ActionCase{"Translate by Google ", false, false}, ActionCase{"Cut", false, false}, ActionCase{"", false, false}));
+        ActionCase{"Pin,Annotation by Snapfin", false, false},
+        ActionCase{"translate by google", false, false}, ActionCase{"Translate by Google ", false, false},
+        ActionCase{"Cut", false, false}, ActionCase{"", false, false}));
 
 TEST(RuleRecordTest, TheTitleNeverMakesAnActionFixed) {
     EXPECT_FALSE(RuleRecord(PlistDictionary{{"displayName", "Translate by Google"}}).hasProtectedAction());
@@ -172,8 +176,9 @@ INSTANTIATE_TEST_SUITE_P(Every, PathTextTest,
         PathCase{"/a/Archive.tar.gz", "Archive.tar.gz", "/a", "gz", "Archive.tar"},
         PathCase{"/a/Makefile", "Makefile", "/a", "", "Makefile"},
         PathCase{"/a/.profile", ".profile", "/a", "", ".profile"}, PathCase{"/a/b.", "b.", "/a", "", "b."},
-        PathCase{"/a/b/", "b", "/a", "", "b"}, PathCase{"/a", "a", "/", "", "a"}, PathCase{"/", "/", "/", "", "/"},
-        PathCase{"name.md", "name.md", "", "md", "name"}, PathCase{"", "", "", "", ""}));
+        PathCase{"/a/b/", "b", "/a", "", "b"}, PathCase{"/a", "a", "/", "", "a"},
+        PathCase{"/", "/", "/", "", "/"}, PathCase{"name.md", "name.md", "", "md", "name"},
+        PathCase{"", "", "", "", ""}));
 
 } // namespace
 } // namespace tarnwick

@@ -3,9 +3,13 @@
 namespace tarnwick::testing {
 namespace {
 
-bool liesIn(const std::string& path, const std::string& folder) { return path.rfind(folder + "/", 0) == 0; }
+bool liesIn(const std::string& path, const std::string& folder) {
+    return path.rfind(folder + "/", 0) == 0;
+}
 
-std::string parentOf(const std::string& path) { return path.substr(0, path.rfind('/')); }
+std::string parentOf(const std::string& path) {
+    return path.substr(0, path.rfind('/'));
+}
 
 } // namespace
 

@@ -7,7 +7,9 @@ std::string textOf(const ImagePointer& image) {
     return made ? made->text() : std::string();
 }
 
-PlistData tiffOf(const std::string& text) { return PlistData({text.begin(), text.end()}); }
+PlistData tiffOf(const std::string& text) {
+    return PlistData({text.begin(), text.end()});
+}
 
 ImagePointer InMemoryImages::make(std::string text) const {
     return std::make_shared<const InMemoryImage>(std::move(text), size);
@@ -27,6 +29,8 @@ ImagePointer InMemoryImages::fromFile(const std::string& path) {
     return found == pictureFiles.end() ? nullptr : make(found->second);
 }
 
-ImagePointer InMemoryImages::iconOfFile(const std::string& path) { return make("icon of " + path); }
+ImagePointer InMemoryImages::iconOfFile(const std::string& path) {
+    return make("icon of " + path);
+}
 
 } // namespace tarnwick::testing

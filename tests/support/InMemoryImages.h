@@ -26,8 +26,8 @@ private:
 /// The bytes that stand for a picture in a record.
 [[nodiscard]] PlistData tiffOf(const std::string& text);
 
-/// Every image name exists unless it is in `missingNames`; its TIFF is "tiff of NAME". Data reads as a picture
-/// when it begins with "tiff"; a file does when `pictureFiles` gives it a text.
+/// Every image name exists unless it is in `missingNames`; its TIFF is "tiff of NAME". Data reads as a
+/// picture when it begins with "tiff"; a file does when `pictureFiles` gives it a text.
 class InMemoryImages final : public Images {
 public:
     std::set<std::string, std::less<>> missingNames;

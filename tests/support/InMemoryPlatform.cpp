@@ -25,8 +25,8 @@ void InMemoryPlatform::addResources() {
 
 Platform InMemoryPlatform::ports() {
     return {preferences, files, folders, bundle, images, openPanel, alerts, workspace, runningApplications,
-        launchServices, loginItems, finderSync, userScripts, notifications, runLoop, systemVersion, systemLog, shell,
-        propertyLists, process};
+        launchServices, loginItems, finderSync, userScripts, notifications, runLoop, systemVersion, systemLog,
+        shell, propertyLists, process};
 }
 
 } // namespace tarnwick::testing

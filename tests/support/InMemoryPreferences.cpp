@@ -4,8 +4,8 @@ namespace tarnwick::testing {
 
 class InMemoryPreferences::Store final : public PreferenceStore {
 public:
-    Store(InMemoryPreferences& owner, PlistDictionary& values, std::string name) :
-        owner_(owner), values_(values), name_(std::move(name)) {}
+    Store(InMemoryPreferences& owner, PlistDictionary& values, std::string name)
+        : owner_(owner), values_(values), name_(std::move(name)) {}
 
     std::optional<PlistValue> value(std::string_view key) const override {
         const auto found = values_.find(key);

@@ -12,9 +12,13 @@ void InMemoryOpenPanel::begin(
     open_.push_back(std::move(completion));
 }
 
-void InMemoryOpenPanel::choose(std::vector<std::string> paths) { close({true, std::move(paths)}); }
+void InMemoryOpenPanel::choose(std::vector<std::string> paths) {
+    close({true, std::move(paths)});
+}
 
-void InMemoryOpenPanel::cancel() { close({}); }
+void InMemoryOpenPanel::cancel() {
+    close({});
+}
 
 void InMemoryOpenPanel::close(const OpenPanelAnswer& answer) {
     const auto completion = std::move(open_.front());
@@ -114,9 +118,13 @@ void drain(std::deque<std::function<void()>>& queue) {
 
 } // namespace
 
-void InMemoryRunLoop::runMain() { drain(main_); }
+void InMemoryRunLoop::runMain() {
+    drain(main_);
+}
 
-void InMemoryRunLoop::runBackground() { drain(background_); }
+void InMemoryRunLoop::runBackground() {
+    drain(background_);
+}
 
 bool InMemorySystemVersion::isAtLeast(int otherMajor, int otherMinor, int otherPatch) const {
     return std::tie(major, minor, patch) >= std::tie(otherMajor, otherMinor, otherPatch);

@@ -30,7 +30,8 @@ public:
     explicit InMemoryOpenPanel(CallLog& log) : log_(log) {}
     std::vector<OpenPanelRequest> requests;
 
-    void begin(const OpenPanelRequest& request, std::function<void(const OpenPanelAnswer&)> completion) override;
+    void begin(
+        const OpenPanelRequest& request, std::function<void(const OpenPanelAnswer&)> completion) override;
     [[nodiscard]] bool isOpen() const { return !open_.empty(); }
     /// Closes the chooser that was opened first.
     void choose(std::vector<std::string> paths);
@@ -73,7 +74,9 @@ class InMemoryRunningApplications final : public RunningApplications {
 public:
     explicit InMemoryRunningApplications(CallLog& log) : log_(log) {}
     std::set<std::string, std::less<>> running;
-    bool isRunning(std::string_view bundleIdentifier) const override { return running.count(bundleIdentifier) != 0; }
+    bool isRunning(std::string_view bundleIdentifier) const override {
+        return running.count(bundleIdentifier) != 0;
+    }
     void terminateAll(std::string_view bundleIdentifier) override {
         log_.add("terminate " + std::string(bundleIdentifier));
     }

@@ -88,7 +88,9 @@ class InMemoryWindow {
 public:
     explicit InMemoryWindow(CallLog& log);
     [[nodiscard]] Outlets outlets();
-    [[nodiscard]] InMemoryTable& table(RuleCategory category) { return tables[static_cast<std::size_t>(category)]; }
+    [[nodiscard]] InMemoryTable& table(RuleCategory category) {
+        return tables[static_cast<std::size_t>(category)];
+    }
     [[nodiscard]] InMemoryButton& removeButton(RuleCategory category) {
         return removeButtons[static_cast<std::size_t>(category)];
     }

@@ -9,10 +9,12 @@ protected:
         storeList(RuleCategory::copyFilesTo,
             {folder("/Users/anna/Downloads", ""), folder("Undefined", ""), folder("/Volumes/Backup", ""),
                 folder("/a/Users/anna/b/Users/anna", "Named"), folder("/Users/anna/Desktop", "")});
-        storeList(RuleCategory::commonPath, {folder("/Users/anna/Music", ""), folder("/Users/annabel/x", "")});
+        storeList(
+            RuleCategory::commonPath, {folder("/Users/anna/Music", ""), folder("/Users/annabel/x", "")});
         platform_.images.pictureFiles["/container/Templates/CreateNewFile/txt.png"] = "tiff of txt";
-        platform_.bundle.texts = {{"Downloads", "Herunterladen"}, {"Undefined", "Unbestimmt"}, {"TXT", "Text"},
-            {"Cut", "Ausschneiden"}, {"Initially just hide", "Nur versteckt"}, {"Apple", "Apfel"}};
+        platform_.bundle.texts = {{"Downloads", "Herunterladen"}, {"Undefined", "Unbestimmt"},
+            {"TXT", "Text"}, {"Cut", "Ausschneiden"}, {"Initially just hide", "Nur versteckt"},
+            {"Apple", "Apfel"}};
         launch();
     }
     static RuleRecord folder(const char* path, const char* name) {
@@ -185,7 +187,8 @@ TEST_F(RowViewsTest, RecordImagesAreMadeFromTheirData) {
 
 TEST_F(RowViewsTest, TheSizeIsWidthByHeightWithoutDecimalsCentred) {
     platform_.images.size = {512, 384.4};
-    EXPECT_EQ(field(icons, "Size", 0), (TextFieldCell{.text = "512 x 384", .alignment = TextAlignment::centred}));
+    EXPECT_EQ(
+        field(icons, "Size", 0), (TextFieldCell{.text = "512 x 384", .alignment = TextAlignment::centred}));
 }
 
 TEST_F(RowViewsTest, MissingFieldsShowAsEmptyTextOffAndNoImage) {
@@ -205,7 +208,9 @@ TEST_F(RowViewsTest, AnUnknownColumnAndARowOutsideTheListGiveAnEmptyCell) {
     }
 }
 
-TEST_F(RowViewsTest, EveryRowIsThirtyPointsHigh) { EXPECT_EQ(controller_.heightOfRow(), 30.0); }
+TEST_F(RowViewsTest, EveryRowIsThirtyPointsHigh) {
+    EXPECT_EQ(controller_.heightOfRow(), 30.0);
+}
 
 } // namespace
 } // namespace tarnwick::testing

@@ -1,6 +1,6 @@
+#include "ui/WindowLayout.h"
 #include "prefs/PreferenceKeys.h"
 #include "tests/support/SettingsFixture.h"
-#include "ui/WindowLayout.h"
 
 #include <set>
 

@@ -52,7 +52,9 @@ public:
     }
 
 private:
-    static NSDistributedNotificationCenter *center() { return [NSDistributedNotificationCenter defaultCenter]; }
+    static NSDistributedNotificationCenter *center() {
+        return [NSDistributedNotificationCenter defaultCenter];
+    }
 };
 
 } // namespace

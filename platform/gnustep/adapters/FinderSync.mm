@@ -17,6 +17,8 @@ public:
 
 } // namespace
 
-std::unique_ptr<FinderSync> makeFinderSync() { return std::make_unique<AlwaysEnabled>(); }
+std::unique_ptr<FinderSync> makeFinderSync() {
+    return std::make_unique<AlwaysEnabled>();
+}
 
 } // namespace tarnwick

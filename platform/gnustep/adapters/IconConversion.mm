@@ -2,6 +2,8 @@
 
 namespace tarnwick {
 
-NSImage *iconOfFileAtPath(NSString *path) { return [[NSWorkspace sharedWorkspace] iconForFile:path]; }
+NSImage *iconOfFileAtPath(NSString *path) {
+    return [[NSWorkspace sharedWorkspace] iconForFile:path];
+}
 
 } // namespace tarnwick

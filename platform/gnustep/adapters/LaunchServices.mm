@@ -12,6 +12,8 @@ public:
 
 } // namespace
 
-std::unique_ptr<LaunchServices> makeLaunchServices() { return std::make_unique<NoRegister>(); }
+std::unique_ptr<LaunchServices> makeLaunchServices() {
+    return std::make_unique<NoRegister>();
+}
 
 } // namespace tarnwick

@@ -16,6 +16,8 @@ public:
 
 } // namespace
 
-std::unique_ptr<LoginItems> makeLoginItems() { return std::make_unique<NoLoginItems>(); }
+std::unique_ptr<LoginItems> makeLoginItems() {
+    return std::make_unique<NoLoginItems>();
+}
 
 } // namespace tarnwick

@@ -45,15 +45,14 @@ TNDeferredWork *deferred(std::function<void()> work) {
 }
 
 NSArray *commonModes() {
-    return [NSArray arrayWithObjects:NSDefaultRunLoopMode, NSModalPanelRunLoopMode, NSEventTrackingRunLoopMode, nil];
+    return [NSArray
+        arrayWithObjects:NSDefaultRunLoopMode, NSModalPanelRunLoopMode, NSEventTrackingRunLoopMode, nil];
 }
 
 class GNUstepRunLoop final : public RunLoop {
 public:
     void performAfterDelay(double seconds, std::function<void()> work) override {
-        [deferred(std::move(work)) performSelector:@selector(run:)
-                                        withObject:nil
-                                        afterDelay:seconds];
+        [deferred(std::move(work)) performSelector:@selector(run:) withObject:nil afterDelay:seconds];
     }
     void performOnMainQueue(std::function<void()> work) override {
         [deferred(std::move(work)) performSelectorOnMainThread:@selector(run:)
@@ -70,6 +69,8 @@ public:
 
 } // namespace
 
-std::unique_ptr<RunLoop> makeRunLoop() { return std::make_unique<GNUstepRunLoop>(); }
+std::unique_ptr<RunLoop> makeRunLoop() {
+    return std::make_unique<GNUstepRunLoop>();
+}
 
 } // namespace tarnwick

@@ -1,5 +1,5 @@
-#include "platform/SystemServices.h"
 #include "platform/SystemVersion.h"
+#include "platform/SystemServices.h"
 
 namespace tarnwick {
 namespace {
@@ -12,6 +12,8 @@ public:
 
 } // namespace
 
-std::unique_ptr<SystemVersion> makeSystemVersion() { return std::make_unique<NewestSystem>(); }
+std::unique_ptr<SystemVersion> makeSystemVersion() {
+    return std::make_unique<NewestSystem>();
+}
 
 } // namespace tarnwick

@@ -58,6 +58,8 @@ public:
 
 } // namespace
 
-std::unique_ptr<UserScripts> makeUserScripts() { return std::make_unique<ShellScripts>(); }
+std::unique_ptr<UserScripts> makeUserScripts() {
+    return std::make_unique<ShellScripts>();
+}
 
 } // namespace tarnwick

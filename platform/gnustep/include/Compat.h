@@ -1,7 +1,7 @@
 #pragma once
 
-// Included before every Objective-C++ source on Linux: brings AppKit to what the sources expect of it. GNUstep
-// gui 0.29, base 1.28, gcc runtime, clang 14.
+// Included before every Objective-C++ source on Linux: brings AppKit to what the sources expect of it.
+// GNUstep gui 0.29, base 1.28, gcc runtime, clang 14.
 
 #import <AppKit/AppKit.h>
 #import <Foundation/Foundation.h>

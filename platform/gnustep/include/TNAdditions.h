@@ -1,7 +1,7 @@
 #pragma once
 
-// The methods that AppKit and Foundation have on macOS and the support layer adds here. The file that defines each
-// says what is missing and since when.
+// The methods that AppKit and Foundation have on macOS and the support layer adds here. The file that defines
+// each says what is missing and since when.
 
 #import <AppKit/AppKit.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// Missing: constants under the names that AppKit gave them with macOS 10.12 and later, as of GNUstep GUI 0.29 and
-// Base 1.28. Each stands for the same value under its older name.
+// Missing: constants under the names that AppKit gave them with macOS 10.12 and later, as of GNUstep GUI 0.29
+// and Base 1.28. Each stands for the same value under its older name.
 
 #import <AppKit/AppKit.h>
 

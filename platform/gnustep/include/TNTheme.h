@@ -32,8 +32,8 @@ void TNThemeUseAppearance(TNThemeAppearance appearance);
 @interface TNTheme : GSTheme
 @end
 
-/// Draws the pictures of check boxes, radio buttons and window buttons in the current colours, under the names by
-/// which GNUstep asks for them.
+/// Draws the pictures of check boxes, radio buttons and window buttons in the current colours, under the
+/// names by which GNUstep asks for them.
 void TNThemeInstallImages();
 /// The system's named colours in the current appearance; autoreleased.
 NSColorList *TNThemeMakeColorList();
