@@ -10,7 +10,7 @@ constexpr std::array<ColumnLayout, 5> createNewFileColumns{{
     {"NewFileIcon", "", 44},
     {"NewFileDisplayName", "Name", 260, true},
     {"Extension", "Extension", 110},
-    {"EnableMainMenu", "Main Menu", 92},
+    {"EnableMainMenu", "Main Menu", 92, false, true},
 }};
 
 constexpr std::array<ColumnLayout, 4> copyFilesToColumns{{
@@ -30,7 +30,7 @@ constexpr std::array<ColumnLayout, 4> customIconColumns{{
     {"Enable", "", 34},
     {"Icon", "", 44},
     {"CustomIconName", "Name", 300, true},
-    {"Size", "Size", 112},
+    {"Size", "Size", 112, false, true},
 }};
 
 constexpr std::array<ColumnLayout, 4> othersColumns{{

@@ -25,6 +25,8 @@ struct ColumnLayout {
     double width = 0;
     /// Takes a share of the width that the window gains or loses; the others keep theirs.
     bool flexible = false;
+    /// Over contents that stand in the middle of the column.
+    bool centredTitle = false;
 };
 
 /// A check box that reads and writes one boolean of `LocalPreferences`.

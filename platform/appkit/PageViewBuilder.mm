@@ -60,7 +60,7 @@ NSTableColumn *makeColumn(const ColumnLayout &facts) {
     NSTableColumn *column =
         [[[NSTableColumn alloc] initWithIdentifier:toNSString(facts.identifier)] autorelease];
     [[column headerCell] setStringValue:facts.title.empty() ? @"" : localizedText(facts.title)];
-    [[column headerCell] setAlignment:facts.flexible ? NSTextAlignmentLeft : NSTextAlignmentCenter];
+    [[column headerCell] setAlignment:facts.centredTitle ? NSTextAlignmentCenter : NSTextAlignmentLeft];
     [column setWidth:facts.width];
     [column setEditable:NO];
     if (facts.flexible) {

@@ -209,7 +209,7 @@ NSBezierPath *TNThemeHairline(NSRect rect, CGFloat radius) {
         NSString *title = [cell stringValue];
         const NSSize size = [title sizeWithAttributes:attributes];
         const CGFloat left =
-            [cell alignment] == NSCenterTextAlignment ? NSMidX(frame) - size.width / 2 : NSMinX(frame) + 4;
+            [cell alignment] == NSCenterTextAlignment ? NSMidX(frame) - size.width / 2 : NSMinX(frame) + 2;
         [title drawAtPoint:NSMakePoint(left, NSMidY(frame) - size.height / 2) withAttributes:attributes];
     }
 }

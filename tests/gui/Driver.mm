@@ -385,4 +385,12 @@ void pressInNextPanel(const std::string &buttonTitle) {
                     inModes:[NSArray arrayWithObject:NSModalPanelRunLoopMode]];
 }
 
+void chooseInNextPanel(const std::vector<std::string> &texts) {
+    NSMutableArray *arguments = [NSMutableArray array];
+    for (const auto &text : texts) {
+        [arguments addObject:toNSString(text)];
+    }
+    [NSTask launchedTaskWithLaunchPath:@TARNWICK_GUI_TESTS "/choose-in-panel" arguments:arguments];
+}
+
 } // namespace tarnwick::gui
