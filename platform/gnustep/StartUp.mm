@@ -4,6 +4,7 @@
 #import "TNStartUp.h"
 
 #import "DefaultsFiles.h"
+#import "DefaultsSchedule.h"
 #import "EventPump.h"
 #import "Exceptions.h"
 #import "SuiteDefaults.h"
@@ -58,6 +59,7 @@ void TNPrepareProcess(int, char **) {
         [[NSProcessInfo processInfo] setProcessName:processName];
         prepareDefaultsFile();
         registerInitialDefaults();
+        TNWriteDefaultsPromptly();
         std::atexit(writeDefaultsAtExit);
         [TNApplication sharedApplication];
         TNInstallEventPump();

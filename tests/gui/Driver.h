@@ -50,6 +50,8 @@ void type(const std::string& text);
 [[nodiscard]] bool cellIsEnabled(RuleCategory table, long row, const std::string& column);
 /// How many rows have controls just now.
 [[nodiscard]] long builtRows(RuleCategory table);
+/// Sends the controller an action without a control, as a menu item does.
+void sendAction(const std::string& selector);
 void scrollToRow(RuleCategory table, long row);
 [[nodiscard]] bool removeButtonIsEnabled(RuleCategory table);
 /// Whether the visible button with this title is enabled; false when there is none.
@@ -58,8 +60,8 @@ void scrollToRow(RuleCategory table, long row);
 [[nodiscard]] bool buttonIsOn(const std::string& title);
 /// Whether a text field of the window is being edited.
 [[nodiscard]] bool isEditing();
-/// The text of the alert that is open; empty when none is.
-[[nodiscard]] std::string openAlertText();
+/// What the alert said whose button was pressed last.
+[[nodiscard]] std::string lastAlertText();
 
 /// Once an alert or panel is up, presses its button with this title; call before what opens it.
 void pressInNextPanel(const std::string& buttonTitle);

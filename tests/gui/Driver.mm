@@ -19,6 +19,7 @@ constexpr double pumpSeconds = 0.005;
 
 std::function<int()> testsToRun;
 const tarnwick::MainInterface *application = nullptr;
+std::string alertText;
 
 SettingsOutlets *outlets() {
     return [application->controller() outlets];
@@ -195,6 +196,11 @@ NSTextField *firstLabel(NSView *view) {
 @implementation GuiTestRunner
 
 - (void)runTests:(id)sender {
+    if (![[NSUserDefaults standardUserDefaults] boolForKey:@"ShownEnableExtensionAlert"]) {
+        // The prompt of a first launch is still on the stack below.
+        [self performSelector:@selector(runTests:) withObject:nil afterDelay:0.05];
+        return;
+    }
     tarnwick::gui::waitUntil([] { return [window() isKeyWindow] && [NSApp isActive]; });
     const int status = testsToRun();
     [[NSUserDefaults standardUserDefaults] synchronize];
@@ -204,6 +210,7 @@ NSTextField *firstLabel(NSView *view) {
 - (void)pressButton:(NSString *)title {
     NSButton *button = visibleButton([[NSApp modalWindow] contentView], title);
     if (button) {
+        alertText = tarnwick::toString([firstLabel([[NSApp modalWindow] contentView]) stringValue]);
         [button performClick:self];
         return;
     }
@@ -225,6 +232,9 @@ int runInApplication(int argc, char *argv[], std::function<int()> tests) {
         const MainInterface interface;
         application = &interface;
         GuiTestRunner *runner = [[[GuiTestRunner alloc] init] autorelease];
+        if (std::getenv("TARNWICK_FIRST_LAUNCH")) {
+            pressInNextPanel("Open System Preferences");
+        }
         [runner performSelector:@selector(runTests:) withObject:nil afterDelay:0.1];
         [NSApp run];
     }
@@ -372,9 +382,11 @@ bool isEditing() {
     return [[window() firstResponder] isKindOfClass:[NSText class]];
 }
 
-std::string openAlertText() {
-    NSTextField *label = firstLabel([[NSApp modalWindow] contentView]);
-    return toString([label stringValue]);
+std::string lastAlertText() { return alertText; }
+
+void sendAction(const std::string &selector) {
+    [NSApp sendAction:NSSelectorFromString(toNSString(selector)) to:application->controller() from:nil];
+    settle();
 }
 
 void pressInNextPanel(const std::string &buttonTitle) {

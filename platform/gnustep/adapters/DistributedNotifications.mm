@@ -1,4 +1,5 @@
 #import "platform/appkit/StringConversion.h"
+#import "platform/gnustep/SuiteDefaults.h"
 
 #include "platform/DistributedNotifications.h"
 #include "platform/SystemServices.h"
@@ -38,7 +39,10 @@ namespace {
 /// A session here is the user's, so posting to all sessions is posting to the one.
 class GNUstepNotifications final : public DistributedNotifications {
 public:
+    /// On macOS another process sees a written preference at once, here once it is on disk: what a notification
+    /// announces must be found by whoever receives it.
     void post(std::string_view name, std::uint32_t options) override {
+        TNWriteAllSuites();
         [center() postNotificationName:toNSString(name)
                                 object:nil
                               userInfo:nil
