@@ -7,18 +7,40 @@
 
 namespace {
 
-/// A copy that shares nothing with what the caller may change; nil when the value is no property list.
+id frozenCopy(id value);
+
+NSArray *frozenArray(NSArray *array) {
+    NSMutableArray *copy = [NSMutableArray arrayWithCapacity:[array count]];
+    for (id element in array) {
+        id frozen = frozenCopy(element);
+        if (!frozen) {
+            return nil;
+        }
+        [copy addObject:frozen];
+    }
+    return copy;
+}
+
+NSDictionary *frozenDictionary(NSDictionary *dictionary) {
+    NSMutableDictionary *copy = [NSMutableDictionary dictionaryWithCapacity:[dictionary count]];
+    for (id key in dictionary) {
+        id frozen = frozenCopy([dictionary objectForKey:key]);
+        if (!frozen || ![key isKindOfClass:[NSString class]]) {
+            return nil;
+        }
+        [copy setObject:frozen forKey:key];
+    }
+    return copy;
+}
+
+/// A copy that nothing the caller may change is part of; nil when the value is no property list. Linear in the number
+/// of objects: serialising and parsing, the other way to copy, is quadratic in GNUstep.
 id frozenCopy(id value) {
-    if ([value isKindOfClass:[NSArray class]] || [value isKindOfClass:[NSDictionary class]]) {
-        NSData *content = [NSPropertyListSerialization dataWithPropertyList:value
-                                                                     format:NSPropertyListBinaryFormat_v1_0
-                                                                    options:0
-                                                                      error:nullptr];
-        return content ? [NSPropertyListSerialization propertyListWithData:content
-                                                                   options:NSPropertyListImmutable
-                                                                    format:nullptr
-                                                                     error:nullptr]
-                       : nil;
+    if ([value isKindOfClass:[NSArray class]]) {
+        return frozenArray(value);
+    }
+    if ([value isKindOfClass:[NSDictionary class]]) {
+        return frozenDictionary(value);
     }
     const bool isPropertyList = [value isKindOfClass:[NSString class]] ||
                                 [value isKindOfClass:[NSNumber class]] ||
