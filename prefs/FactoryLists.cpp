@@ -50,6 +50,7 @@ void FactoryLists::layOutTemplates() {
 
 void FactoryLists::resetArrOfCopyFilesTo() {
     std::vector<RuleRecord> records;
+    records.reserve(factoryTargets.size());
     for (const auto& name : factoryTargets) {
         records.push_back(makeFolderRecord(homeSubfolder(platform_.folders, name), ""));
     }

@@ -1,5 +1,6 @@
-// Missing: prompt writing of the standard domain, as of GNUstep Base 1.28, which leaves what is not synchronised in
-// memory for half a minute. On macOS every write leaves the process at once. Here a change is on disk a moment later.
+// Missing: prompt writing of the standard domain, as of GNUstep Base 1.28, which leaves what is not
+// synchronised in memory for half a minute. On macOS every write leaves the process at once. Here a change is
+// on disk a moment later.
 
 #import "DefaultsSchedule.h"
 

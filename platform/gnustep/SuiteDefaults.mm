@@ -33,8 +33,8 @@ NSDictionary *frozenDictionary(NSDictionary *dictionary) {
     return copy;
 }
 
-/// A copy that nothing the caller may change is part of; nil when the value is no property list. Linear in the number
-/// of objects: serialising and parsing, the other way to copy, is quadratic in GNUstep.
+/// A copy that nothing the caller may change is part of; nil when the value is no property list. Linear in
+/// the number of objects: serialising and parsing, the other way to copy, is quadratic in GNUstep.
 id frozenCopy(id value) {
     if ([value isKindOfClass:[NSArray class]]) {
         return frozenArray(value);

@@ -49,8 +49,7 @@ TEST(Adding, CancellingThePanelChangesNothing) {
 
 TEST(Adding, CommandNAddsToThePageThatIsShown) {
     const auto folder = makeFolder("pictures");
-    ASSERT_EQ(
-        std::system(("convert-im6.q16 -size 40x30 xc:blue '" + folder + "/Blue.png'").c_str()), 0);
+    ASSERT_EQ(std::system(("convert-im6.q16 -size 40x30 xc:blue '" + folder + "/Blue.png'").c_str()), 0);
     clickPageButton(Page::customIcon);
     chooseInNextPanel({folder, "Blue.png"});
     pressCommand('n');
@@ -106,7 +105,8 @@ TEST(Adding, ACommonFolderIsPublishedWithItsFirstChange) {
 TEST(Adding, AnActionIconBringsItsMenuItemBack) {
     clickPageButton(Page::others);
     const auto folder =
-        sandboxFolder() + "/library/Group Containers/H7Q2ZK5RX9.org.halvane.Tarnwick/Templates/OthersMenuItemIcon";
+        sandboxFolder() +
+        "/library/Group Containers/H7Q2ZK5RX9.org.halvane.Tarnwick/Templates/OthersMenuItemIcon";
     chooseInNextPanel({folder, "Paste.png"});
     clickButton("Add Items\u2026");
     ASSERT_TRUE(waitUntil([] { return shared("len(d['arrOfOthers'])") == "19"; }));

@@ -13,7 +13,8 @@ TEST(BigList, OnlyTheRowsOnScreenHaveControlsWhereverItIsScrolled) {
         scrollToRow(RuleCategory::commonPath, row);
         EXPECT_GT(builtRows(RuleCategory::commonPath), 5);
         EXPECT_LT(builtRows(RuleCategory::commonPath), 30);
-        EXPECT_EQ(cellText(RuleCategory::commonPath, row, "commonPathDisplayName"), "Folder " + std::to_string(row));
+        EXPECT_EQ(cellText(RuleCategory::commonPath, row, "commonPathDisplayName"),
+            "Folder " + std::to_string(row));
     }
 }
 

@@ -66,8 +66,8 @@ void scrollToRow(RuleCategory table, long row);
 /// Once an alert or panel is up, presses its button with this title; call before what opens it.
 void pressInNextPanel(const std::string& buttonTitle);
 
-/// Once an open panel is up, types what is to be chosen, a folder and then perhaps a file in it, and confirms;
-/// with nothing to choose, cancels. Call before what opens it.
+/// Once an open panel is up, types what is to be chosen, a folder and then perhaps a file in it, and
+/// confirms; with nothing to choose, cancels. Call before what opens it.
 void chooseInNextPanel(const std::vector<std::string>& texts);
 
 } // namespace tarnwick::gui

@@ -382,7 +382,9 @@ bool isEditing() {
     return [[window() firstResponder] isKindOfClass:[NSText class]];
 }
 
-std::string lastAlertText() { return alertText; }
+std::string lastAlertText() {
+    return alertText;
+}
 
 void sendAction(const std::string &selector) {
     [NSApp sendAction:NSSelectorFromString(toNSString(selector)) to:application->controller() from:nil];

@@ -12,22 +12,26 @@ TEST(FirstLaunch, PromptsToEnableTheExtensionAndRemembersThat) {
 }
 
 TEST(FirstLaunch, PublishesWhatIsEnabled) {
-    EXPECT_EQ(shared("[len(d[k]) for k in ('arrOfCreateNewFile', 'arrOfCopyFilesTo', 'arrOfCustomIcon', 'arrOfOthers')]"),
+    EXPECT_EQ(shared("[len(d[k]) for k in ('arrOfCreateNewFile', 'arrOfCopyFilesTo', 'arrOfCustomIcon', "
+                     "'arrOfOthers')]"),
         "[9, 0, 20, 18]");
     EXPECT_EQ(shared("'arrOfCommonPath' in d"), "False");
     EXPECT_EQ(shared("len(d['arrOfEnableOther'])"), "11");
-    EXPECT_EQ(shared("d['arrOfEnableOther'][2:4]"), "['enableOpenPathInTerminal', 'enableOpenPathInTerminal']");
+    EXPECT_EQ(
+        shared("d['arrOfEnableOther'][2:4]"), "['enableOpenPathInTerminal', 'enableOpenPathInTerminal']");
 }
 
 TEST(FirstLaunch, SeedsFourteenSwitchesAsBooleansInBothStores) {
     EXPECT_EQ(shared("sum(v is True for v in d.values())"), "14");
-    EXPECT_EQ(local("all(d[k] is True for k in ('soundTipsOfNewFile', 'newWindowOfOpenIniTerm2', 'enableImagetoIcon'))"),
+    EXPECT_EQ(local("all(d[k] is True for k in ('soundTipsOfNewFile', 'newWindowOfOpenIniTerm2', "
+                    "'enableImagetoIcon'))"),
         "True");
     EXPECT_EQ(local("'disableAutoNameOfCreateNewFile' in d"), "False");
 }
 
 TEST(FirstLaunch, KeepsTheFullListsWithTheirTypes) {
-    EXPECT_EQ(local("[len(d[k]) for k in ('arrOfCreateNewFile', 'arrOfCustomIcon', 'arrOfOthers')]"), "[15, 20, 18]");
+    EXPECT_EQ(local("[len(d[k]) for k in ('arrOfCreateNewFile', 'arrOfCustomIcon', 'arrOfOthers')]"),
+        "[15, 20, 18]");
     EXPECT_EQ(local("[r['enable'] for r in d['arrOfCreateNewFile']]"),
         "['1', '1', '1', '1', '1', '1', '1', '1', '1', '0', '0', '0', '0', '0', '0']");
     EXPECT_EQ(local("set(type(r['enable']).__name__ for r in d['arrOfCustomIcon'])"), "{'int'}");

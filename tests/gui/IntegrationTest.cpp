@@ -18,7 +18,8 @@ std::string contentsOf(const std::string& path) {
 
 TEST(Integration, ASecondProcessReceivesTheRestartRequestAndFindsItInTheSuite) {
     const auto heard = sandboxFolder() + "/heard";
-    ASSERT_EQ(std::system((std::string(TARNWICK_REQUEST_LISTENER) + " >" + heard + " 2>/dev/null &").c_str()), 0);
+    ASSERT_EQ(
+        std::system((std::string(TARNWICK_REQUEST_LISTENER) + " >" + heard + " 2>/dev/null &").c_str()), 0);
     ASSERT_TRUE(waitUntil([&] { return contentsOf(heard) == "ready\n"; }));
     sendAction("restartFinderClick:");
     ASSERT_TRUE(waitUntil([&] { return contentsOf(heard).size() > 6; }));
@@ -37,7 +38,8 @@ TEST(Integration, AStorePageOpensFromThePageOfFurtherApps) {
     clickPageButton(Page::moreApps);
     clickButton("Visit");
     const auto opened = sandboxFolder() + "/opened";
-    EXPECT_TRUE(waitUntil([&] { return contentsOf(opened).find("halvane.example/\n") != std::string::npos; }));
+    EXPECT_TRUE(
+        waitUntil([&] { return contentsOf(opened).find("halvane.example/\n") != std::string::npos; }));
 }
 
 TEST(Integration, ConfirmingTheScriptFolderInstallsTheScript) {
@@ -45,7 +47,8 @@ TEST(Integration, ConfirmingTheScriptFolderInstallsTheScript) {
     chooseInNextPanel({scripts, "org.halvane.Tarnwick"});
     sendAction("doInstallScript");
     EXPECT_TRUE(waitUntil([&] {
-        return contentsOf(scripts + "/org.halvane.Tarnwick/applescript.scpt").find("initialize") != std::string::npos;
+        return contentsOf(scripts + "/org.halvane.Tarnwick/applescript.scpt").find("initialize") !=
+               std::string::npos;
     }));
 }
 

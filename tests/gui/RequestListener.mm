@@ -1,4 +1,5 @@
-// Stands for the Finder extension: waits for the restart request, looks it up in the suite, says what it found.
+// Stands for the Finder extension: waits for the restart request, looks it up in the suite, says what it
+// found.
 
 #import <AppKit/AppKit.h>
 
@@ -14,7 +15,8 @@
     NSUserDefaults *suite =
         [[[NSUserDefaults alloc] initWithSuiteName:@"H7Q2ZK5RX9.org.halvane.Tarnwick"] autorelease];
     NSDictionary *request = [suite objectForKey:@"askActionFromTarnwick"];
-    std::printf("%s: %s\n", [[notification name] UTF8String], [[request objectForKey:@"ActionType"] UTF8String]);
+    std::printf(
+        "%s: %s\n", [[notification name] UTF8String], [[request objectForKey:@"ActionType"] UTF8String]);
     std::fflush(stdout);
     std::exit(0);
 }

@@ -39,8 +39,8 @@ namespace {
 /// A session here is the user's, so posting to all sessions is posting to the one.
 class GNUstepNotifications final : public DistributedNotifications {
 public:
-    /// On macOS another process sees a written preference at once, here once it is on disk: what a notification
-    /// announces must be found by whoever receives it.
+    /// On macOS another process sees a written preference at once, here once it is on disk: what a
+    /// notification announces must be found by whoever receives it.
     void post(std::string_view name, std::uint32_t options) override {
         TNWriteAllSuites();
         [center() postNotificationName:toNSString(name)
