@@ -256,6 +256,11 @@ NSArray *deferringModes() {
     [self fillWidth];
 }
 
+/// What GNUstep does of its own when the width changes: the last column alone would gain or lose.
+- (void)sizeLastColumnToFit {
+    [self fillWidth];
+}
+
 /// Gives the columns that resize with the table equal shares of what is gained or lost.
 - (void)fillWidth {
     NSView *clip = [self superview];
