@@ -3,6 +3,7 @@
 
 #import "TNTableView.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -28,6 +29,10 @@ bool takesItsOwnClicks(NSView *view) {
     }
     return [view isKindOfClass:[NSControl class]] && ![view isKindOfClass:[NSTextField class]] &&
            ![view isKindOfClass:[NSImageView class]] && [(NSControl *)view isEnabled];
+}
+
+bool extends(NSUInteger modifiers) {
+    return (modifiers & (NSEventModifierFlagShift | NSEventModifierFlagCommand)) != 0;
 }
 
 } // namespace
@@ -59,16 +64,21 @@ bool takesItsOwnClicks(NSView *view) {
     _clickedRow = row;
     _clickedColumn = column;
     const BOOL wasSelected = row >= 0 && [self isRowSelected:row];
-    [self selectClickedRow:row modifiers:[event modifierFlags]];
-
+    // One of several selected rows: all of them may be about to be dragged.
+    const BOOL selectsLater =
+        wasSelected && [self numberOfSelectedRows] > 1 && !extends([event modifierFlags]);
+    if (!selectsLater) {
+        [self selectClickedRow:row modifiers:[event modifierFlags]];
+    }
     if ([self leavesForDragFrom:event] && row >= 0) {
         [self dragRowsFromEvent:event];
         return;
     }
-    if ([event clickCount] == 2 && row >= 0) {
-        if (![self editFieldAtColumn:column row:row]) {
-            [self sendAction:[self doubleAction] to:[self target]];
-        }
+    if (selectsLater) {
+        [self selectClickedRow:row modifiers:0];
+    }
+    if ([event clickCount] == 2) {
+        [self finishDoubleClickAtColumn:column row:row];
         return;
     }
     [self sendAction:[self action] to:[self target]];
@@ -77,21 +87,50 @@ bool takesItsOwnClicks(NSView *view) {
     }
 }
 
+/// A field that can be edited goes ahead of the double action, which goes ahead of the action.
+- (void)finishDoubleClickAtColumn:(NSInteger)column row:(NSInteger)row {
+    if (row < 0 || ![self editFieldAtColumn:column row:row]) {
+        [self sendAction:[self doubleAction] ? [self doubleAction] : [self action] to:[self target]];
+    }
+}
+
 - (void)selectClickedRow:(NSInteger)row modifiers:(NSUInteger)modifiers {
+    if (![self mayChangeSelectionTo:row]) {
+        return;
+    }
     if (row < 0) {
         if ([self allowsEmptySelection]) {
             [self deselectAll:self];
         }
         return;
     }
-    const bool extends =
-        [self allowsMultipleSelection] && (modifiers & (NSShiftKeyMask | NSCommandKeyMask)) != 0;
-    if (extends && [self isRowSelected:row]) {
-        [self deselectRow:row];
-    } else {
-        [self selectRowIndexes:[NSIndexSet indexSetWithIndex:static_cast<NSUInteger>(row)]
-            byExtendingSelection:extends];
+    const bool toggles = [self allowsMultipleSelection] && (modifiers & NSEventModifierFlagCommand) != 0;
+    if (toggles && [self isRowSelected:row]) {
+        if ([self allowsEmptySelection] || [self numberOfSelectedRows] > 1) {
+            [self deselectRow:row];
+        }
+        return;
     }
+    NSInteger first = row;
+    NSInteger last = row;
+    if ([self allowsMultipleSelection] && (modifiers & NSEventModifierFlagShift) != 0 &&
+        [self selectedRow] >= 0) {
+        first = std::min(row, [self selectedRow]);
+        last = std::max(row, [self selectedRow]);
+    }
+    const auto range = NSMakeRange(static_cast<NSUInteger>(first), static_cast<NSUInteger>(last - first + 1));
+    [self selectRowIndexes:[NSIndexSet indexSetWithIndexesInRange:range] byExtendingSelection:toggles];
+}
+
+/// The delegate may keep the user's clicks from changing the selection.
+- (BOOL)mayChangeSelectionTo:(NSInteger)row {
+    id delegate = [self delegate];
+    if ([delegate respondsToSelector:@selector(selectionShouldChangeInTableView:)] &&
+        ![delegate selectionShouldChangeInTableView:self]) {
+        return NO;
+    }
+    return row < 0 || ![delegate respondsToSelector:@selector(tableView:shouldSelectRow:)] ||
+           [delegate tableView:self shouldSelectRow:row];
 }
 
 /// Follows the mouse until it is let go (no) or has left its place (yes).

@@ -200,11 +200,21 @@ NSArray *deferringModes() {
     [self takeRowHeight];
 }
 
+/// The delegate is asked about rows that are there alone.
 - (void)takeRowHeight {
-    if ([[self delegate] respondsToSelector:@selector(tableView:heightOfRow:)]) {
-        [self
-            setRowHeight:[(id)[self delegate] tableView:self heightOfRow:0] + [self intercellSpacing].height];
+    if ([self numberOfRows] == 0 || ![[self delegate] respondsToSelector:@selector(tableView:heightOfRow:)]) {
+        return;
     }
+    const CGFloat height =
+        [(id)[self delegate] tableView:self heightOfRow:0] + [self intercellSpacing].height;
+    if (height > 0 && height != [self rowHeight]) {
+        [self setRowHeight:height];
+    }
+}
+
+- (void)noteNumberOfRowsChanged {
+    [super noteNumberOfRowsChanged];
+    [self takeRowHeight];
 }
 
 - (void)tile {

@@ -1,0 +1,337 @@
+#include "TableProbe.h"
+
+#include "TableModel.h"
+
+#import "TNStartUp.h"
+
+#include <cmath>
+#include <functional>
+#include <utility>
+
+namespace tarnwick::probe {
+
+namespace {
+
+constexpr double patienceSeconds = 10;
+constexpr int dragSteps = 12;
+/// Left of every control in the name column's cells but inside its text field.
+constexpr double grip = 70;
+
+NSString *const identifiers[] = {@"check", @"name", @"path"};
+
+void pumpOnce() {
+    @autoreleasepool {
+        NSEvent *event = [NSApp nextEventMatchingMask:NSEventMaskAny
+                                            untilDate:[NSDate dateWithTimeIntervalSinceNow:0.005]
+                                               inMode:NSDefaultRunLoopMode
+                                              dequeue:YES];
+        if (event) {
+            [NSApp sendEvent:event];
+        }
+        [NSApp updateWindows];
+    }
+}
+
+/// Handles what is queued and what that deferred.
+void settle() {
+    for (int idleRounds = 0; idleRounds < 3;) {
+        NSEvent *waiting = [NSApp nextEventMatchingMask:NSEventMaskAny
+                                              untilDate:nil
+                                                 inMode:NSDefaultRunLoopMode
+                                                dequeue:NO];
+        idleRounds = waiting ? 0 : idleRounds + 1;
+        pumpOnce();
+    }
+}
+
+void waitUntil(const std::function<bool()> &condition) {
+    NSDate *end = [NSDate dateWithTimeIntervalSinceNow:patienceSeconds];
+    while (!condition() && [end timeIntervalSinceNow] > 0) {
+        pumpOnce();
+    }
+}
+
+/// The only control in a cell.
+NSView *controlIn(NSView *cell) {
+    return [[cell subviews] count] > 0 ? [[cell subviews] objectAtIndex:0] : nil;
+}
+
+} // namespace
+
+struct TableWindow::Parts {
+    NSWindow *window = nil;
+    NSTableView *table = nil;
+    NSTextField *outside = nil;
+    TNTableModel *model = nil;
+
+    void build(long rows);
+    void postMouse(NSEventType type, NSPoint place, int clicks, NSUInteger modifiers = 0) const;
+    void clickInWindow(NSPoint place, int clicks, NSUInteger modifiers = 0) const;
+    [[nodiscard]] NSPoint placeInWindow(NSPoint place) const { return [table convertPoint:place toView:nil]; }
+    [[nodiscard]] NSPoint middleOfRow(long row) const {
+        return placeInWindow(NSMakePoint(grip, NSMidY([table rectOfRow:row])));
+    }
+    void drag(NSPoint start, NSPoint end, int stepsAtEnd) const;
+    void postKey(NSString *characters) const;
+};
+
+void TableWindow::Parts::build(long rows) {
+    window = [[NSWindow alloc] initWithContentRect:NSMakeRect(100, 100, 400, 300)
+                                         styleMask:NSWindowStyleMaskTitled
+                                           backing:NSBackingStoreBuffered
+                                             defer:NO];
+    model = [[TNTableModel alloc] init];
+    for (long row = 0; row < rows; ++row) {
+        model->names.push_back("row" + std::to_string(row));
+    }
+    table = [[[NSTableView alloc] initWithFrame:NSMakeRect(0, 0, 380, 200)] autorelease];
+    model->table = table;
+    for (NSString *identifier : identifiers) {
+        NSTableColumn *column = [[[NSTableColumn alloc] initWithIdentifier:identifier] autorelease];
+        const bool isName = [identifier isEqualToString:@"name"];
+        [column setWidth:isName ? 150 : 60];
+        [column setResizingMask:isName ? NSTableColumnAutoresizingMask : NSTableColumnNoResizing];
+        [table addTableColumn:column];
+    }
+    [table setIntercellSpacing:NSMakeSize(0, 0)];
+    [table setAllowsMultipleSelection:NO];
+    [table setAllowsEmptySelection:YES];
+    [table setTarget:model];
+    [table setAction:@selector(clicked:)];
+    [table setDoubleAction:@selector(doubleClicked:)];
+    [table setDataSource:(id)model];
+    [table setDelegate:(id)model];
+    [table registerForDraggedTypes:[NSArray arrayWithObject:NSStringPboardType]];
+    [table setDraggingSourceOperationMask:NSDragOperationMove forLocal:YES];
+    NSScrollView *scroll = [[[NSScrollView alloc] initWithFrame:NSMakeRect(10, 50, 380, 240)] autorelease];
+    [scroll setHasVerticalScroller:YES];
+    [scroll setDocumentView:table];
+    outside = [[[NSTextField alloc] initWithFrame:NSMakeRect(10, 10, 200, 24)] autorelease];
+    [[window contentView] addSubview:scroll];
+    [[window contentView] addSubview:outside];
+    [table reloadData];
+}
+
+void TableWindow::Parts::postMouse(NSEventType type, NSPoint place, int clicks, NSUInteger modifiers) const {
+    [NSApp postEvent:[NSEvent mouseEventWithType:type
+                                        location:place
+                                   modifierFlags:modifiers
+                                       timestamp:0
+                                    windowNumber:[window windowNumber]
+                                         context:nil
+                                     eventNumber:0
+                                      clickCount:clicks
+                                        pressure:1]
+             atStart:NO];
+}
+
+void TableWindow::Parts::clickInWindow(NSPoint place, int clicks, NSUInteger modifiers) const {
+    @autoreleasepool {
+        for (int click = 1; click <= clicks; ++click) {
+            postMouse(NSEventTypeLeftMouseDown, place, click, modifiers);
+            postMouse(NSEventTypeLeftMouseUp, place, click, modifiers);
+        }
+        settle();
+    }
+}
+
+void TableWindow::Parts::drag(NSPoint start, NSPoint end, int stepsAtEnd) const {
+    @autoreleasepool {
+        postMouse(NSEventTypeLeftMouseDown, start, 1);
+        for (int step = 1; step <= dragSteps + stepsAtEnd; ++step) {
+            const double part = step < dragSteps ? static_cast<double>(step) / dragSteps : 1;
+            // A point to and fro: a mouse at rest reports nothing.
+            const double shake = step > dragSteps && step % 2 == 1 ? 1 : 0;
+            postMouse(NSEventTypeLeftMouseDragged,
+                NSMakePoint(start.x + (end.x - start.x) * part + shake, start.y + (end.y - start.y) * part),
+                1);
+        }
+        postMouse(NSEventTypeLeftMouseUp, end, 1);
+        settle();
+    }
+}
+
+void TableWindow::Parts::postKey(NSString *characters) const {
+    @autoreleasepool {
+        for (const auto type : {NSEventTypeKeyDown, NSEventTypeKeyUp}) {
+            [NSApp postEvent:[NSEvent keyEventWithType:type
+                                                    location:NSZeroPoint
+                                               modifierFlags:0
+                                                   timestamp:0
+                                                windowNumber:[window windowNumber]
+                                                     context:nil
+                                                  characters:characters
+                                 charactersIgnoringModifiers:characters
+                                                   isARepeat:NO
+                                                     keyCode:0]
+                     atStart:NO];
+        }
+        settle();
+    }
+}
+
+TableWindow::TableWindow(long rows) : parts_(std::make_unique<Parts>()) {
+    @autoreleasepool {
+        TNPrepareProcess(0, nullptr);
+        [NSApp finishLaunching];
+        parts_->build(rows);
+        [parts_->window makeKeyAndOrderFront:nil];
+        [NSApp activateIgnoringOtherApps:YES];
+        waitUntil([this] { return [parts_->window isKeyWindow] && [NSApp isActive]; });
+        settle();
+    }
+}
+
+TableWindow::~TableWindow() {
+    [parts_->table setDelegate:nil];
+    [parts_->table setDataSource:nil];
+    [parts_->window close];
+    [parts_->model release];
+}
+
+void TableWindow::click(long row, Column column, int clicks) {
+    const NSRect frame = [parts_->table frameOfCellAtColumn:column row:row];
+    const double inset = column == check ? 13 : 30;
+    parts_->clickInWindow(parts_->placeInWindow(NSMakePoint(NSMinX(frame) + inset, NSMidY(frame))), clicks);
+}
+
+void TableWindow::clickWithCommand(long row) {
+    parts_->clickInWindow(parts_->middleOfRow(row), 1, NSEventModifierFlagCommand);
+}
+
+void TableWindow::clickWithShift(long row) {
+    parts_->clickInWindow(parts_->middleOfRow(row), 1, NSEventModifierFlagShift);
+}
+
+void TableWindow::clickEmptySpace(int clicks) {
+    const NSRect visible = [parts_->table visibleRect];
+    parts_->clickInWindow(parts_->placeInWindow(NSMakePoint(grip, NSMaxY(visible) - 4)), clicks);
+}
+
+void TableWindow::clickFieldOutside() {
+    parts_->clickInWindow(NSMakePoint(60, 20), 1);
+}
+
+void TableWindow::press(TableKey key) {
+    const unichar characters[] = {
+        NSCarriageReturnCharacter, NSTabCharacter, 0x1B, NSUpArrowFunctionKey, NSDownArrowFunctionKey};
+    parts_->postKey([NSString stringWithCharacters:&characters[static_cast<int>(key)] length:1]);
+}
+
+void TableWindow::type(const std::string &text) {
+    NSString *characters = [NSString stringWithUTF8String:text.c_str()];
+    for (NSUInteger index = 0; index < [characters length]; ++index) {
+        parts_->postKey([characters substringWithRange:NSMakeRange(index, 1)]);
+    }
+}
+
+void TableWindow::dragIntoGap(long row, long gap) {
+    const double edge = static_cast<double>(gap) * [parts_->table rowHeight];
+    parts_->drag(parts_->middleOfRow(row),
+        parts_->placeInWindow(NSMakePoint(grip, gap == 0 ? edge + 2 : edge - 2)), 0);
+}
+
+void TableWindow::dragOnto(long row, long target) {
+    parts_->drag(parts_->middleOfRow(row), parts_->middleOfRow(target), 0);
+}
+
+void TableWindow::dragToLowerEdge(long row, int steps) {
+    const NSRect visible = [parts_->table visibleRect];
+    parts_->drag(
+        parts_->middleOfRow(row), parts_->placeInWindow(NSMakePoint(grip, NSMaxY(visible) - 4)), steps);
+}
+
+void TableWindow::scrollToRow(long row) {
+    [parts_->table scrollRowToVisible:row];
+    settle();
+}
+
+void TableWindow::reload() {
+    [parts_->table reloadData];
+    settle();
+}
+
+void TableWindow::refuseEndOfEditing(bool refuse) {
+    parts_->model->refusesEndOfEditing = refuse;
+}
+
+void TableWindow::retargetDropsOnRows() {
+    parts_->model->retargetsDrops = YES;
+}
+
+void TableWindow::allowMultipleSelection() {
+    [parts_->table setAllowsMultipleSelection:YES];
+}
+
+std::vector<std::string> TableWindow::takeEvents() {
+    return std::exchange(parts_->model->events, {});
+}
+
+long TableWindow::selectedRow() const {
+    return [parts_->table selectedRow];
+}
+
+std::vector<long> TableWindow::selectedRows() const {
+    std::vector<long> rows;
+    NSIndexSet *selection = [parts_->table selectedRowIndexes];
+    for (NSUInteger row = [selection firstIndex]; row != NSNotFound;
+         row = [selection indexGreaterThanIndex:row]) {
+        rows.push_back(static_cast<long>(row));
+    }
+    return rows;
+}
+
+bool TableWindow::isEditing() const {
+    id responder = [parts_->window firstResponder];
+    return [responder isKindOfClass:[NSText class]] && [[responder delegate] isDescendantOf:parts_->table];
+}
+
+std::string TableWindow::editedText() const {
+    return isEditing() ? [[(id)[parts_->window firstResponder] string] UTF8String] : "";
+}
+
+std::vector<std::string> TableWindow::names() const {
+    return parts_->model->names;
+}
+
+long TableWindow::builtRows() const {
+    long rows = 0;
+    for (NSInteger row = 0; row < [parts_->table numberOfRows]; ++row) {
+        rows += [parts_->table viewAtColumn:name row:row makeIfNecessary:NO] ? 1 : 0;
+    }
+    return rows;
+}
+
+long TableWindow::viewsMade() const {
+    return parts_->model->viewsMade;
+}
+
+double TableWindow::rowHeight() const {
+    return [parts_->table rowHeight];
+}
+
+int TableWindow::dropMarks() const {
+    return [parts_->model dropMarks];
+}
+
+int TableWindow::dropMarksSeen() const {
+    return parts_->model->marksSeen;
+}
+
+double TableWindow::scrolledBy() const {
+    return NSMinY([parts_->table visibleRect]);
+}
+
+std::string TableWindow::placeOfControl(long row, Column column) const {
+    NSView *control = controlIn([parts_->table viewAtColumn:column row:row makeIfNecessary:NO]);
+    return std::to_string([parts_->table rowForView:control]) + " " +
+           std::to_string([parts_->table columnForView:control]);
+}
+
+std::string TableWindow::widthsOfNameCell(long row) const {
+    NSView *cell = [parts_->table viewAtColumn:name row:row makeIfNecessary:NO];
+    return std::to_string(std::lround(NSWidth([cell frame]))) + " " +
+           std::to_string(std::lround(NSWidth([controlIn(cell) frame])));
+}
+
+} // namespace tarnwick::probe
