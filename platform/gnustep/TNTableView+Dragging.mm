@@ -15,15 +15,19 @@ constexpr CGFloat scrollMargin = 16;
 
 } // namespace
 
-/// The line in the gap where a drop would go.
-@interface TNDropLine : NSView
+/// Where a drop would go: a line in a gap, or a frame around a row.
+@interface TNDropMark : NSView
 @end
 
-@implementation TNDropLine
+@implementation TNDropMark
 
 - (void)drawRect:(NSRect)rect {
     [TNThemeCurrentColors()->accent set];
-    NSRectFill([self bounds]);
+    if (NSHeight([self bounds]) > lineHeight) {
+        NSFrameRectWithWidth([self bounds], lineHeight);
+    } else {
+        NSRectFill([self bounds]);
+    }
 }
 
 - (NSView *)hitTest:(NSPoint)point {
@@ -95,15 +99,13 @@ constexpr CGFloat scrollMargin = 16;
     if (![source respondsToSelector:@selector(tableView:validateDrop:proposedRow:proposedDropOperation:)]) {
         return NSDragOperationNone;
     }
-    const NSPoint place = [self convertPoint:[info draggingLocation] fromView:nil];
-    [self scrollTowards:place];
-    [self proposeDropAt:place];
+    [self proposeDropAt:[self convertPoint:[info draggingLocation] fromView:nil]];
     const NSDragOperation answer = [source tableView:self
                                                 validateDrop:info
                                                  proposedRow:_dropRow
                                        proposedDropOperation:_dropOperation] &
                                    [info draggingSourceOperationMask];
-    [self showDropLine:answer != NSDragOperationNone && _dropOperation == NSTableViewDropAbove];
+    [self showDropMark:answer != NSDragOperationNone];
     return answer;
 }
 
@@ -117,33 +119,42 @@ constexpr CGFloat scrollMargin = 16;
     }
 }
 
-- (void)showDropLine:(BOOL)shown {
-    if (!shown) {
-        [_dropLine removeFromSuperview];
-        return;
-    }
-    if (!_dropLine) {
-        _dropLine = [[TNDropLine alloc] initWithFrame:NSZeroRect];
+- (NSRect)frameOfDropMark {
+    if (_dropOperation == NSTableViewDropOn) {
+        // Row -1 stands for the whole table.
+        return _dropRow < 0 ? [self visibleRect] : [self rectOfRow:_dropRow];
     }
     const CGFloat middle = static_cast<CGFloat>(_dropRow) * [self rowHeight];
-    const CGFloat top = std::max(0.0, middle - lineHeight / 2);
-    [_dropLine setFrame:NSMakeRect(0, top, NSWidth([self bounds]), lineHeight)];
-    if ([_dropLine superview] != self || [[self subviews] lastObject] != _dropLine) {
-        [self addSubview:_dropLine];
+    return NSMakeRect(0, std::max(0.0, middle - lineHeight / 2), NSWidth([self bounds]), lineHeight);
+}
+
+- (void)showDropMark:(BOOL)shown {
+    if (!shown) {
+        [_dropMark removeFromSuperview];
+        return;
     }
-    [_dropLine setNeedsDisplay:YES];
+    if (!_dropMark) {
+        _dropMark = [[TNDropMark alloc] initWithFrame:NSZeroRect];
+    }
+    [_dropMark setFrame:[self frameOfDropMark]];
+    if ([_dropMark superview] != self || [[self subviews] lastObject] != _dropMark) {
+        [self addSubview:_dropMark];
+    }
+    [_dropMark setNeedsDisplay:YES];
 }
 
 - (NSDragOperation)draggingEntered:(id<NSDraggingInfo>)info {
     return [self validateDrag:info];
 }
 
+/// Comes also while the mouse rests.
 - (NSDragOperation)draggingUpdated:(id<NSDraggingInfo>)info {
+    [self scrollTowards:[self convertPoint:[info draggingLocation] fromView:nil]];
     return [self validateDrag:info];
 }
 
 - (void)draggingExited:(id<NSDraggingInfo>)info {
-    [self showDropLine:NO];
+    [self showDropMark:NO];
 }
 
 - (BOOL)prepareForDragOperation:(id<NSDraggingInfo>)info {
@@ -151,14 +162,14 @@ constexpr CGFloat scrollMargin = 16;
 }
 
 - (BOOL)performDragOperation:(id<NSDraggingInfo>)info {
-    [self showDropLine:NO];
+    [self showDropMark:NO];
     id source = [self dataSource];
     return [source respondsToSelector:@selector(tableView:acceptDrop:row:dropOperation:)] &&
            [source tableView:self acceptDrop:info row:_dropRow dropOperation:_dropOperation];
 }
 
 - (void)concludeDragOperation:(id<NSDraggingInfo>)info {
-    [self showDropLine:NO];
+    [self showDropMark:NO];
 }
 
 @end

@@ -34,7 +34,7 @@ NSArray *deferringModes() {
     [[NSNotificationCenter defaultCenter] removeObserver:self];
     [NSObject cancelPreviousPerformRequestsWithTarget:self];
     [self dropRowViews];
-    [_dropLine release];
+    [_dropMark release];
     [super dealloc];
 }
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 using namespace tarnwick::probe;
 using Events = std::vector<std::string>;
 
@@ -38,4 +40,14 @@ TEST(TableDragging, TheDataSourceMaySendADropElsewhere) {
     table.retargetDropsOnRows();
     table.dragOnto(3, 1);
     EXPECT_EQ(table.takeEvents().back(), "drop 3 above 1");
+}
+
+TEST(TableDragging, TheTableScrollsWhileARowIsHeldAtItsEdge) {
+    TableWindow table(100);
+    table.retargetDropsOnRows();
+    table.dragAtLowerEdge(0, 300);
+    EXPECT_GE(table.scrolledBy(), 300);
+    // Seven rows are on screen, and ten have come up from below.
+    const auto names = table.names();
+    EXPECT_GE(std::find(names.begin(), names.end(), "row0") - names.begin(), 16);
 }

@@ -30,8 +30,9 @@ public:
     void type(const std::string& text);
     void dragIntoGap(long row, long gap);
     void dragOnto(long row, long target);
-    /// Presses on the row, moves to just inside the table's lower edge, stays there for some steps, lets go.
-    void dragToLowerEdge(long row, int steps);
+    /// Drags the row to just inside the table's lower edge and lets go once the table has scrolled so far, or
+    /// after ten seconds.
+    void dragAtLowerEdge(long row, double wantedScroll);
     void scrollToRow(long row);
     void reload();
     /// As if the text were wrong: the delegate refuses to end an edit from now on.

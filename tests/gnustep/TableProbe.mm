@@ -4,9 +4,40 @@
 
 #import "TNStartUp.h"
 
+#import <GNUstepGUI/GSDisplayServer.h>
+
 #include <cmath>
 #include <functional>
 #include <utility>
+
+/// Ends a drag, whose loop lets nothing else run, from a timer.
+@interface TNLettingGo : NSObject {
+@public
+    std::function<bool()> condition;
+    std::function<void()> letGo;
+    int patience;
+}
+- (void)wait;
+@end
+
+@implementation TNLettingGo
+
+- (void)wait {
+    [self performSelector:@selector(look)
+               withObject:nil
+               afterDelay:0.02
+                  inModes:[NSArray arrayWithObject:NSEventTrackingRunLoopMode]];
+}
+
+- (void)look {
+    if (condition() || ++patience == 500) {
+        letGo();
+    } else {
+        [self wait];
+    }
+}
+
+@end
 
 namespace tarnwick::probe {
 
@@ -71,7 +102,7 @@ struct TableWindow::Parts {
     [[nodiscard]] NSPoint middleOfRow(long row) const {
         return placeInWindow(NSMakePoint(grip, NSMidY([table rectOfRow:row])));
     }
-    void drag(NSPoint start, NSPoint end, int stepsAtEnd) const;
+    void drag(NSPoint start, NSPoint end) const;
     void postKey(NSString *characters) const;
 };
 
@@ -135,16 +166,13 @@ void TableWindow::Parts::clickInWindow(NSPoint place, int clicks, NSUInteger mod
     }
 }
 
-void TableWindow::Parts::drag(NSPoint start, NSPoint end, int stepsAtEnd) const {
+void TableWindow::Parts::drag(NSPoint start, NSPoint end) const {
     @autoreleasepool {
         postMouse(NSEventTypeLeftMouseDown, start, 1);
-        for (int step = 1; step <= dragSteps + stepsAtEnd; ++step) {
-            const double part = step < dragSteps ? static_cast<double>(step) / dragSteps : 1;
-            // A point to and fro: a mouse at rest reports nothing.
-            const double shake = step > dragSteps && step % 2 == 1 ? 1 : 0;
+        for (int step = 1; step <= dragSteps; ++step) {
+            const double part = static_cast<double>(step) / dragSteps;
             postMouse(NSEventTypeLeftMouseDragged,
-                NSMakePoint(start.x + (end.x - start.x) * part + shake, start.y + (end.y - start.y) * part),
-                1);
+                NSMakePoint(start.x + (end.x - start.x) * part, start.y + (end.y - start.y) * part), 1);
         }
         postMouse(NSEventTypeLeftMouseUp, end, 1);
         settle();
@@ -227,18 +255,29 @@ void TableWindow::type(const std::string &text) {
 
 void TableWindow::dragIntoGap(long row, long gap) {
     const double edge = static_cast<double>(gap) * [parts_->table rowHeight];
-    parts_->drag(parts_->middleOfRow(row),
-        parts_->placeInWindow(NSMakePoint(grip, gap == 0 ? edge + 2 : edge - 2)), 0);
+    parts_->drag(
+        parts_->middleOfRow(row), parts_->placeInWindow(NSMakePoint(grip, gap == 0 ? edge + 2 : edge - 2)));
 }
 
 void TableWindow::dragOnto(long row, long target) {
-    parts_->drag(parts_->middleOfRow(row), parts_->middleOfRow(target), 0);
+    parts_->drag(parts_->middleOfRow(row), parts_->middleOfRow(target));
 }
 
-void TableWindow::dragToLowerEdge(long row, int steps) {
-    const NSRect visible = [parts_->table visibleRect];
-    parts_->drag(
-        parts_->middleOfRow(row), parts_->placeInWindow(NSMakePoint(grip, NSMaxY(visible) - 4)), steps);
+void TableWindow::dragAtLowerEdge(long row, double wantedScroll) {
+    @autoreleasepool {
+        const NSPoint start = parts_->middleOfRow(row);
+        const NSRect visible = [parts_->table visibleRect];
+        const NSPoint edge = parts_->placeInWindow(NSMakePoint(grip, NSMaxY(visible) - 4));
+        TNLettingGo *end = [[[TNLettingGo alloc] init] autorelease];
+        end->condition = [this, wantedScroll] { return scrolledBy() >= wantedScroll; };
+        end->letGo = [this, edge] { parts_->postMouse(NSEventTypeLeftMouseUp, edge, 1); };
+        // During a drag GNUstep asks where the pointer really is.
+        [GSCurrentServer() setMouseLocation:[parts_->window convertBaseToScreen:edge] onScreen:0];
+        [end wait];
+        parts_->postMouse(NSEventTypeLeftMouseDown, start, 1);
+        parts_->postMouse(NSEventTypeLeftMouseDragged, edge, 1);
+        settle();
+    }
 }
 
 void TableWindow::scrollToRow(long row) {

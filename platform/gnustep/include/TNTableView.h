@@ -12,7 +12,7 @@
 @interface TNTableView : NSTableView {
 @private
     std::map<NSInteger, std::vector<NSView *>> _rowViews;
-    NSView *_dropLine;
+    NSView *_dropMark;
     NSInteger _dropRow;
     NSTableViewDropOperation _dropOperation;
     BOOL _alternatesRows;
