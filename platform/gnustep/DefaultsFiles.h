@@ -1,5 +1,6 @@
 #pragma once
 
+@class NSDictionary;
 @class NSString;
 
 /// The folder of the defaults files, without touching NSUserDefaults.
@@ -8,5 +9,6 @@ NSString *TNDefaultsFolder();
 /// Removes the lock that a killed program has left behind, when it is too old to be somebody's at work.
 void TNRemoveStaleDefaultsLock();
 
-/// Moves a file that is there but holds no property list dictionary to `<file>.damaged-<n>`, with a log line.
-void TNMoveDamagedFileAside(NSString *path);
+/// The content of a settings file; nil without one. A file that is there but holds no property list
+/// dictionary is moved to `<file>.damaged-<n>`, with a log line, and counts as none.
+NSDictionary *TNReadSettingsFile(NSString *path);

@@ -3,6 +3,8 @@
 
 #import "DefaultsFiles.h"
 
+#import "PropertyListValues.h"
+
 #import <Foundation/Foundation.h>
 
 #include <cerrno>
@@ -27,18 +29,15 @@ NSString *freeDamagedName(NSString *path) {
     }
 }
 
-bool holdsDictionary(NSData *content) {
-    id propertyList = nil;
-    @try {
-        propertyList = [NSPropertyListSerialization propertyListWithData:content
-                                                                 options:NSPropertyListImmutable
-                                                                  format:nullptr
-                                                                   error:nullptr];
-    } @catch (NSException *) {
-        // The parser raises for some of the contents that it refuses.
-        propertyList = nil;
+void moveAside(NSString *path) {
+    NSString *aside = freeDamagedName(path);
+    if (std::rename([path fileSystemRepresentation], [aside fileSystemRepresentation]) == 0) {
+        std::fprintf(stderr, "Settings file %s cannot be read; moved to %s\n",
+            [path fileSystemRepresentation], [aside fileSystemRepresentation]);
+    } else {
+        std::fprintf(stderr, "Settings file %s cannot be read, and not moved either: %s\n",
+            [path fileSystemRepresentation], std::strerror(errno));
     }
-    return [propertyList isKindOfClass:[NSDictionary class]];
 }
 
 } // namespace
@@ -56,21 +55,14 @@ void TNRemoveStaleDefaultsLock() {
     }
 }
 
-void TNMoveDamagedFileAside(NSString *path) {
+NSDictionary *TNReadSettingsFile(NSString *path) {
     struct stat status;
     if (stat([path fileSystemRepresentation], &status) != 0) {
-        return;
+        return nil;
     }
-    NSData *content = [NSData dataWithContentsOfFile:path];
-    if (content && holdsDictionary(content)) {
-        return;
+    NSDictionary *content = TNDictionaryInFile(path);
+    if (!content) {
+        moveAside(path);
     }
-    NSString *aside = freeDamagedName(path);
-    if (std::rename([path fileSystemRepresentation], [aside fileSystemRepresentation]) == 0) {
-        std::fprintf(stderr, "Settings file %s cannot be read; moved to %s\n",
-            [path fileSystemRepresentation], [aside fileSystemRepresentation]);
-    } else {
-        std::fprintf(stderr, "Settings file %s cannot be read, and not moved either: %s\n",
-            [path fileSystemRepresentation], std::strerror(errno));
-    }
+    return content;
 }

@@ -19,7 +19,8 @@ NSString *const processName = @"org.halvane.Tarnwick";
 void prepareDefaultsFile() {
     TNRemoveStaleDefaultsLock();
     NSString *name = [processName stringByAppendingPathExtension:@"plist"];
-    TNMoveDamagedFileAside([TNDefaultsFolder() stringByAppendingPathComponent:name]);
+    // Only to have a damaged file out of the way before it would be overwritten.
+    TNReadSettingsFile([TNDefaultsFolder() stringByAppendingPathComponent:name]);
 }
 
 void registerInitialDefaults() {

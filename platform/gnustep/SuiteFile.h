@@ -7,6 +7,7 @@
 @interface TNSuiteFile : NSObject {
 @private
     NSString *_path;
+    NSDictionary *_content;
     unsigned long _device;
     unsigned long _inode;
     long _modifiedSeconds;

@@ -1,6 +1,7 @@
 #import "SuiteFile.h"
 
 #import "DefaultsFiles.h"
+#import "PropertyListValues.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -98,6 +99,7 @@ void makeFolder(NSString *path) {
 
 - (void)dealloc {
     [_path release];
+    [_content release];
     [super dealloc];
 }
 
@@ -120,55 +122,63 @@ void makeFolder(NSString *path) {
     return YES;
 }
 
-/// Under the lock.
-- (NSDictionary *)readContent {
-    TNMoveDamagedFileAside(_path);
-    NSData *content = [NSData dataWithContentsOfFile:_path];
-    id dictionary = [content length] == 0
-                        ? nil
-                        : [NSPropertyListSerialization propertyListWithData:content
-                                                                    options:NSPropertyListImmutable
-                                                                     format:nullptr
-                                                                      error:nullptr];
-    return [dictionary isKindOfClass:[NSDictionary class]] ? dictionary : [NSDictionary dictionary];
+- (void)keepContent:(NSDictionary *)content {
+    [_content autorelease];
+    _content = [content copy];
+}
+
+/// Reads the file if it is another one than before; NO when it is not. Under the lock.
+- (BOOL)updateContent {
+    if (![self noteVersion]) {
+        return NO;
+    }
+    NSDictionary *content = TNReadSettingsFile(_path);
+    [self keepContent:content ? content : [NSDictionary dictionary]];
+    // It may have been moved aside.
+    [self noteVersion];
+    return YES;
 }
 
 - (NSDictionary *)changedContent {
     struct stat status = {};
     if (stat([_path fileSystemRepresentation], &status) != 0) {
         // No lock file beside a file that nobody has written.
-        return [self noteVersion] ? [NSDictionary dictionary] : nil;
+        return [self updateContent] ? _content : nil;
     }
     const FileLock lock(_path);
-    if (![self noteVersion]) {
-        return nil;
-    }
-    NSDictionary *content = [self readContent];
-    [self noteVersion];
-    return content;
+    return [self updateContent] ? _content : nil;
 }
 
 - (NSDictionary *)contentByMerging:(NSDictionary *)changes {
     makeFolder(_path);
     const FileLock lock(_path);
-    NSDictionary *before = [self readContent];
-    NSMutableDictionary *after = [[before mutableCopy] autorelease];
+    [self updateContent];
+    NSMutableDictionary *merged = [[_content mutableCopy] autorelease];
+    bool differs = false;
     for (NSString *key in changes) {
         id value = [changes objectForKey:key];
-        if (value == [NSNull null]) {
-            [after removeObjectForKey:key];
+        id wanted = value == [NSNull null] ? nil : value;
+        if (TNIsSamePropertyList(wanted, [merged objectForKey:key])) {
+            continue;
+        }
+        differs = true;
+        if (wanted) {
+            [merged setObject:wanted forKey:key];
         } else {
-            [after setObject:value forKey:key];
+            [merged removeObjectForKey:key];
         }
     }
-    // Not isEqual:, for which a boolean equals a number.
-    NSData *content = serialised(after);
-    if (!content || (![content isEqual:serialised(before)] && !replaceFile(_path, content))) {
+    if (!differs) {
+        return _content;
+    }
+    NSData *file = serialised(merged);
+    if (!file || !replaceFile(_path, file)) {
         NSLog(@"Settings file %@ cannot be written: %s", _path, std::strerror(errno));
         return nil;
     }
     [self noteVersion];
-    return after;
+    [self keepContent:merged];
+    return _content;
 }
 
 @end

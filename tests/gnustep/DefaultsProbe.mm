@@ -68,6 +68,20 @@ bool synchronizeSuite(const std::string &suite) {
     }
 }
 
+bool writeRecords(const std::string &name, int count, MarkKind kind) {
+    @autoreleasepool {
+        NSNumber *mark = kind == MarkKind::boolean ? @YES : @1;
+        NSMutableArray *records = [NSMutableArray array];
+        for (int number = 0; number < count; ++number) {
+            NSString *path = [NSString stringWithFormat:@"/home/user/folder %d", number];
+            [records addObject:[NSDictionary dictionaryWithObjectsAndKeys:path, @"realPath", @"1", @"enable",
+                                             mark, @"mark", nil]];
+        }
+        [suiteNamed(name) setObject:records forKey:@"list"];
+        return [suiteNamed(name) synchronize];
+    }
+}
+
 std::string suiteString(const std::string &suite, const std::string &key) {
     @autoreleasepool {
         NSString *value = [suiteNamed(suite) stringForKey:text(key)];

@@ -28,6 +28,10 @@ void setSuiteString(const std::string& suite, const std::string& key, const std:
 void setSuiteBoolean(const std::string& suite, const std::string& key, bool value);
 void removeSuiteKey(const std::string& suite, const std::string& key);
 bool synchronizeSuite(const std::string& suite);
+/// Sets and writes a list of so many records under "list"; they are equal for equal marks. A mark may be a
+/// number or a boolean, see `MarkKind`.
+enum class MarkKind { integer, boolean };
+bool writeRecords(const std::string& suite, int count, MarkKind kind);
 /// From a new handle; "(none)" when there is no such string.
 std::string suiteString(const std::string& suite, const std::string& key);
 /// Runs the run loop until the file exists, for at most ten seconds.

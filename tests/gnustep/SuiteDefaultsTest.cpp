@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <sys/stat.h>
 
 using namespace tarnwick::probe;
@@ -56,6 +57,13 @@ TEST(SuiteDefaults, WritesUnsynchronizedChangesAfterAWhile) {
     EXPECT_NE(contentOf(suiteFile()).find("<string>value</string>"), std::string::npos);
 }
 
+TEST(SuiteDefaults, WritesUnsynchronizedChangesAtTheEndOfTheProgram) {
+    outputOf(std::string(TARNWICK_SUITE_WRITER) + " --exit " + suite + " key value");
+    EXPECT_NE(contentOf(suiteFile()).find("<string>value</string>"), std::string::npos);
+    const auto standard = contentOf(defaultsFolder() + "/org.halvane.Tarnwick.plist");
+    EXPECT_NE(standard.find("<string>value</string>"), std::string::npos);
+}
+
 TEST(SuiteDefaults, MergesTheChangesOfTwoPrograms) {
     setSuiteString(suite, "mine", "1");
     setSuiteString(suite, "contested", "mine");
@@ -104,6 +112,25 @@ TEST(SuiteDefaults, WritesABooleanOverAnEqualNumber) {
     setSuiteBoolean(suite, "on", true);
     ASSERT_TRUE(synchronizeSuite(suite));
     EXPECT_NE(contentOf(suiteFile()).find("<true/>"), std::string::npos);
+}
+
+TEST(SuiteDefaults, WritesAListOnlyWhenSomethingInItHasChanged) {
+    ASSERT_TRUE(writeRecords(suite, 3, MarkKind::integer));
+    const auto before = inodeOf(suiteFile());
+    ASSERT_TRUE(writeRecords(suite, 3, MarkKind::integer));
+    EXPECT_EQ(inodeOf(suiteFile()), before);
+    ASSERT_TRUE(writeRecords(suite, 3, MarkKind::boolean));
+    EXPECT_NE(contentOf(suiteFile()).find("<true/>"), std::string::npos);
+    EXPECT_EQ(contentOf(suiteFile()).find("<integer>"), std::string::npos);
+}
+
+TEST(SuiteDefaults, WritesAHundredThousandRecordsInSeconds) {
+    const auto begin = std::chrono::steady_clock::now();
+    ASSERT_TRUE(writeRecords(suite, 100000, MarkKind::integer));
+    ASSERT_TRUE(writeRecords(suite, 100000, MarkKind::boolean));
+    const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - begin;
+    EXPECT_LT(taken.count(), 20);
+    EXPECT_EQ(outputOf("grep -c '<true/>' " + suiteFile()), "100000\n");
 }
 
 TEST(SuiteDefaults, MovesADamagedFileAsideInsteadOfOverwritingIt) {
