@@ -164,12 +164,24 @@ bool extends(NSUInteger modifiers) {
     [super viewWillMoveToWindow:window];
     NSNotificationCenter *center = [NSNotificationCenter defaultCenter];
     [center removeObserver:self name:NSControlTextDidEndEditingNotification object:nil];
+    for (NSString *name in
+        [NSArray arrayWithObjects:NSWindowDidBecomeKeyNotification, NSWindowDidResignKeyNotification, nil]) {
+        [center removeObserver:self name:name object:nil];
+        if (window) {
+            [center addObserver:self selector:@selector(keyWindowChanged:) name:name object:window];
+        }
+    }
     if (window) {
         [center addObserver:self
                    selector:@selector(fieldEndedEditing:)
                        name:NSControlTextDidEndEditingNotification
                      object:nil];
     }
+}
+
+/// The selection has another colour in a window that is not the key one.
+- (void)keyWindowChanged:(NSNotification *)notification {
+    [self setNeedsDisplay:YES];
 }
 
 /// After Return or Tab the table takes over: the field would otherwise begin a second edit.

@@ -1,16 +1,9 @@
-// View-based tables. GNUstep GUI 0.29 draws cells alone: no view for a cell, no height from the delegate,
-// stripes that are never drawn, and columns that do not share the width. Views exist for the rows on screen
-// alone.
+// Missing: view-based tables, as of GNUstep GUI 0.29, which has no view for a cell and takes no height from the
+// delegate. Views exist for the rows on screen alone.
 
 #import "TNTableView.h"
 
-#import "TNTheme.h"
-
-#include <algorithm>
-
 namespace {
-
-constexpr CGFloat minimumColumnWidth = 40;
 
 NSArray *deferringModes() {
     return [NSArray
@@ -260,95 +253,6 @@ NSArray *deferringModes() {
 - (void)clipViewResized:(NSNotification *)notification {
     [self fillWidth];
     [self syncRowViews];
-}
-
-- (void)sizeToFit {
-    [self fillWidth];
-}
-
-/// What GNUstep does of its own when the width changes: the last column alone would gain or lose.
-- (void)sizeLastColumnToFit {
-    [self fillWidth];
-}
-
-/// Gives the columns that resize with the table equal shares of what is gained or lost.
-- (void)fillWidth {
-    NSView *clip = [self superview];
-    if (!clip || _isFillingWidth || [self numberOfColumns] == 0) {
-        return;
-    }
-    CGFloat used = 0;
-    NSMutableArray *flexible = [NSMutableArray array];
-    for (NSTableColumn *column in [self tableColumns]) {
-        used += [column width];
-        if (([column resizingMask] & NSTableColumnAutoresizingMask) != 0) {
-            [flexible addObject:column];
-        }
-    }
-    const CGFloat available = NSWidth([clip bounds]);
-    if ([flexible count] == 0 || available <= 0 || used == available) {
-        return;
-    }
-    _isFillingWidth = YES;
-    CGFloat rest = available - used;
-    NSUInteger left = [flexible count];
-    for (NSTableColumn *column in flexible) {
-        const CGFloat share = std::floor(rest / static_cast<CGFloat>(left));
-        const CGFloat width = std::max({minimumColumnWidth, [column minWidth], [column width] + share});
-        rest -= width - [column width];
-        --left;
-        [column setWidth:width];
-    }
-    _isFillingWidth = NO;
-    [self tile];
-    [[self headerView] setNeedsDisplay:YES];
-}
-
-#pragma mark Drawing
-
-- (void)setGridStyleMask:(NSTableViewGridLineStyle)mask {
-    [super setGridStyleMask:mask];
-    [self setDrawsGrid:mask != NSTableViewGridNone];
-}
-
-- (void)setUsesAlternatingRowBackgroundColors:(BOOL)flag {
-    _alternatesRows = flag;
-    [self setNeedsDisplay:YES];
-}
-
-- (BOOL)usesAlternatingRowBackgroundColors {
-    return _alternatesRows;
-}
-
-- (void)drawBackgroundInClipRect:(NSRect)clip {
-    [[self backgroundColor] set];
-    NSRectFill(clip);
-    if (!_alternatesRows) {
-        return;
-    }
-    const CGFloat height = [self rowHeight];
-    [TNThemeCurrentColors()->alternateRow set];
-    for (auto stripe = static_cast<NSInteger>(NSMinY(clip) / height);
-         static_cast<CGFloat>(stripe) * height < NSMaxY(clip); ++stripe) {
-        if (stripe % 2 == 1) {
-            NSRectFill(NSIntersectionRect(clip,
-                NSMakeRect(NSMinX(clip), static_cast<CGFloat>(stripe) * height, NSWidth(clip), height)));
-        }
-    }
-}
-
-- (void)highlightSelectionInClipRect:(NSRect)clip {
-    const auto *colors = TNThemeCurrentColors();
-    [([[self window] isKeyWindow] ? colors->selectedRow : colors->selectedRowInactive) set];
-    NSIndexSet *selection = [self selectedRowIndexes];
-    for (NSUInteger row = [selection firstIndex]; row != NSNotFound;
-         row = [selection indexGreaterThanIndex:row]) {
-        NSRectFill(NSIntersectionRect(clip, [self rectOfRow:static_cast<NSInteger>(row)]));
-    }
-}
-
-/// Views draw the cells.
-- (void)drawRow:(NSInteger)row clipRect:(NSRect)clip {
 }
 
 @end

@@ -1,5 +1,6 @@
 #include "TableProbe.h"
 
+#include "Driving.h"
 #include "TableModel.h"
 
 #import "TNStartUp.h"
@@ -7,80 +8,17 @@
 #import <GNUstepGUI/GSDisplayServer.h>
 
 #include <cmath>
-#include <functional>
 #include <utility>
-
-/// Ends a drag, whose loop lets nothing else run, from a timer.
-@interface TNLettingGo : NSObject {
-@public
-    std::function<bool()> condition;
-    std::function<void()> letGo;
-    int patience;
-}
-- (void)wait;
-@end
-
-@implementation TNLettingGo
-
-- (void)wait {
-    [self performSelector:@selector(look)
-               withObject:nil
-               afterDelay:0.02
-                  inModes:[NSArray arrayWithObject:NSEventTrackingRunLoopMode]];
-}
-
-- (void)look {
-    if (condition() || ++patience == 500) {
-        letGo();
-    } else {
-        [self wait];
-    }
-}
-
-@end
 
 namespace tarnwick::probe {
 
 namespace {
 
-constexpr double patienceSeconds = 10;
 constexpr int dragSteps = 12;
 /// Left of every control in the name column's cells but inside its text field.
 constexpr double grip = 70;
 
 NSString *const identifiers[] = {@"check", @"name", @"path"};
-
-void pumpOnce() {
-    @autoreleasepool {
-        NSEvent *event = [NSApp nextEventMatchingMask:NSEventMaskAny
-                                            untilDate:[NSDate dateWithTimeIntervalSinceNow:0.005]
-                                               inMode:NSDefaultRunLoopMode
-                                              dequeue:YES];
-        if (event) {
-            [NSApp sendEvent:event];
-        }
-        [NSApp updateWindows];
-    }
-}
-
-/// Handles what is queued and what that deferred.
-void settle() {
-    for (int idleRounds = 0; idleRounds < 3;) {
-        NSEvent *waiting = [NSApp nextEventMatchingMask:NSEventMaskAny
-                                              untilDate:nil
-                                                 inMode:NSDefaultRunLoopMode
-                                                dequeue:NO];
-        idleRounds = waiting ? 0 : idleRounds + 1;
-        pumpOnce();
-    }
-}
-
-void waitUntil(const std::function<bool()> &condition) {
-    NSDate *end = [NSDate dateWithTimeIntervalSinceNow:patienceSeconds];
-    while (!condition() && [end timeIntervalSinceNow] > 0) {
-        pumpOnce();
-    }
-}
 
 /// The only control in a cell.
 NSView *controlIn(NSView *cell) {
@@ -96,14 +34,12 @@ struct TableWindow::Parts {
     TNTableModel *model = nil;
 
     void build(long rows);
-    void postMouse(NSEventType type, NSPoint place, int clicks, NSUInteger modifiers = 0) const;
     void clickInWindow(NSPoint place, int clicks, NSUInteger modifiers = 0) const;
     [[nodiscard]] NSPoint placeInWindow(NSPoint place) const { return [table convertPoint:place toView:nil]; }
     [[nodiscard]] NSPoint middleOfRow(long row) const {
         return placeInWindow(NSMakePoint(grip, NSMidY([table rectOfRow:row])));
     }
     void drag(NSPoint start, NSPoint end) const;
-    void postKey(NSString *characters) const;
 };
 
 void TableWindow::Parts::build(long rows) {
@@ -143,24 +79,11 @@ void TableWindow::Parts::build(long rows) {
     [table reloadData];
 }
 
-void TableWindow::Parts::postMouse(NSEventType type, NSPoint place, int clicks, NSUInteger modifiers) const {
-    [NSApp postEvent:[NSEvent mouseEventWithType:type
-                                        location:place
-                                   modifierFlags:modifiers
-                                       timestamp:0
-                                    windowNumber:[window windowNumber]
-                                         context:nil
-                                     eventNumber:0
-                                      clickCount:clicks
-                                        pressure:1]
-             atStart:NO];
-}
-
 void TableWindow::Parts::clickInWindow(NSPoint place, int clicks, NSUInteger modifiers) const {
     @autoreleasepool {
         for (int click = 1; click <= clicks; ++click) {
-            postMouse(NSEventTypeLeftMouseDown, place, click, modifiers);
-            postMouse(NSEventTypeLeftMouseUp, place, click, modifiers);
+            postMouse(window, NSEventTypeLeftMouseDown, place, click, modifiers);
+            postMouse(window, NSEventTypeLeftMouseUp, place, click, modifiers);
         }
         settle();
     }
@@ -168,32 +91,13 @@ void TableWindow::Parts::clickInWindow(NSPoint place, int clicks, NSUInteger mod
 
 void TableWindow::Parts::drag(NSPoint start, NSPoint end) const {
     @autoreleasepool {
-        postMouse(NSEventTypeLeftMouseDown, start, 1);
+        postMouse(window, NSEventTypeLeftMouseDown, start, 1);
         for (int step = 1; step <= dragSteps; ++step) {
             const double part = static_cast<double>(step) / dragSteps;
-            postMouse(NSEventTypeLeftMouseDragged,
+            postMouse(window, NSEventTypeLeftMouseDragged,
                 NSMakePoint(start.x + (end.x - start.x) * part, start.y + (end.y - start.y) * part), 1);
         }
-        postMouse(NSEventTypeLeftMouseUp, end, 1);
-        settle();
-    }
-}
-
-void TableWindow::Parts::postKey(NSString *characters) const {
-    @autoreleasepool {
-        for (const auto type : {NSEventTypeKeyDown, NSEventTypeKeyUp}) {
-            [NSApp postEvent:[NSEvent keyEventWithType:type
-                                                    location:NSZeroPoint
-                                               modifierFlags:0
-                                                   timestamp:0
-                                                windowNumber:[window windowNumber]
-                                                     context:nil
-                                                  characters:characters
-                                 charactersIgnoringModifiers:characters
-                                                   isARepeat:NO
-                                                     keyCode:0]
-                     atStart:NO];
-        }
+        postMouse(window, NSEventTypeLeftMouseUp, end, 1);
         settle();
     }
 }
@@ -243,13 +147,13 @@ void TableWindow::clickFieldOutside() {
 void TableWindow::press(TableKey key) {
     const unichar characters[] = {
         NSCarriageReturnCharacter, NSTabCharacter, 0x1B, NSUpArrowFunctionKey, NSDownArrowFunctionKey};
-    parts_->postKey([NSString stringWithCharacters:&characters[static_cast<int>(key)] length:1]);
+    postKey(parts_->window, [NSString stringWithCharacters:&characters[static_cast<int>(key)] length:1]);
 }
 
 void TableWindow::type(const std::string &text) {
     NSString *characters = [NSString stringWithUTF8String:text.c_str()];
     for (NSUInteger index = 0; index < [characters length]; ++index) {
-        parts_->postKey([characters substringWithRange:NSMakeRange(index, 1)]);
+        postKey(parts_->window, [characters substringWithRange:NSMakeRange(index, 1)]);
     }
 }
 
@@ -270,12 +174,12 @@ void TableWindow::dragAtLowerEdge(long row, double wantedScroll) {
         const NSPoint edge = parts_->placeInWindow(NSMakePoint(grip, NSMaxY(visible) - 4));
         TNLettingGo *end = [[[TNLettingGo alloc] init] autorelease];
         end->condition = [this, wantedScroll] { return scrolledBy() >= wantedScroll; };
-        end->letGo = [this, edge] { parts_->postMouse(NSEventTypeLeftMouseUp, edge, 1); };
+        end->letGo = [this, edge] { postMouse(parts_->window, NSEventTypeLeftMouseUp, edge, 1); };
         // During a drag GNUstep asks where the pointer really is.
         [GSCurrentServer() setMouseLocation:[parts_->window convertBaseToScreen:edge] onScreen:0];
         [end wait];
-        parts_->postMouse(NSEventTypeLeftMouseDown, start, 1);
-        parts_->postMouse(NSEventTypeLeftMouseDragged, edge, 1);
+        postMouse(parts_->window, NSEventTypeLeftMouseDown, start, 1);
+        postMouse(parts_->window, NSEventTypeLeftMouseDragged, edge, 1);
         settle();
     }
 }

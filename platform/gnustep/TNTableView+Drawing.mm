@@ -1,0 +1,55 @@
+// The look of view-based tables. GNUstep GUI 0.29 never draws stripes, selects in a dark colour whether or
+// not the window is the key one, and draws cells.
+
+#import "TNTableView.h"
+
+#import "TNTheme.h"
+
+@implementation TNTableView (Drawing)
+
+- (void)setGridStyleMask:(NSTableViewGridLineStyle)mask {
+    [super setGridStyleMask:mask];
+    [self setDrawsGrid:mask != NSTableViewGridNone];
+}
+
+- (void)setUsesAlternatingRowBackgroundColors:(BOOL)flag {
+    _alternatesRows = flag;
+    [self setNeedsDisplay:YES];
+}
+
+- (BOOL)usesAlternatingRowBackgroundColors {
+    return _alternatesRows;
+}
+
+- (void)drawBackgroundInClipRect:(NSRect)clip {
+    [[self backgroundColor] set];
+    NSRectFill(clip);
+    if (!_alternatesRows) {
+        return;
+    }
+    const CGFloat height = [self rowHeight];
+    [TNThemeCurrentColors()->alternateRow set];
+    for (auto stripe = static_cast<NSInteger>(NSMinY(clip) / height);
+         static_cast<CGFloat>(stripe) * height < NSMaxY(clip); ++stripe) {
+        if (stripe % 2 == 1) {
+            NSRectFill(NSIntersectionRect(clip,
+                NSMakeRect(NSMinX(clip), static_cast<CGFloat>(stripe) * height, NSWidth(clip), height)));
+        }
+    }
+}
+
+- (void)highlightSelectionInClipRect:(NSRect)clip {
+    const auto *colors = TNThemeCurrentColors();
+    [([[self window] isKeyWindow] ? colors->selectedRow : colors->selectedRowInactive) set];
+    NSIndexSet *selection = [self selectedRowIndexes];
+    for (NSUInteger row = [selection firstIndex]; row != NSNotFound;
+         row = [selection indexGreaterThanIndex:row]) {
+        NSRectFill(NSIntersectionRect(clip, [self rectOfRow:static_cast<NSInteger>(row)]));
+    }
+}
+
+/// Views draw the cells.
+- (void)drawRow:(NSInteger)row clipRect:(NSRect)clip {
+}
+
+@end
