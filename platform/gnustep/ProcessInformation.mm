@@ -4,6 +4,7 @@
 
 #include <cstdio>
 #include <sys/utsname.h>
+#include <tuple>
 
 @implementation NSProcessInfo (TNOperatingSystemVersion)
 
@@ -17,6 +18,13 @@
         (void)std::sscanf(system.release, "%d.%d.%d", &major, &minor, &patch);
     }
     return {major, minor, patch};
+}
+
+- (BOOL)isOperatingSystemAtLeastVersion:(NSOperatingSystemVersion)version {
+    const auto numbers = [](const NSOperatingSystemVersion &value) {
+        return std::tuple(value.majorVersion, value.minorVersion, value.patchVersion);
+    };
+    return numbers([self operatingSystemVersion]) >= numbers(version);
 }
 
 @end

@@ -35,6 +35,7 @@ void registerInitialDefaults() {
     [values setObject:bold forKey:@"NSBoldFont"];
     [values setObject:bold forKey:@"NSTitleBarFont"];
     [values setObject:@"13" forKey:@"NSFontSize"];
+    [values setObject:@"12" forKey:@"NSToolTipsFontSize"];
     [values setObject:@"YES" forKey:@"GSScrollViewNoInnerBorder"];
     [values setObject:@"YES" forKey:@"GSSuppressAppIcon"];
     [values setObject:@"NSMacintoshInterfaceStyle" forKey:@"NSInterfaceStyleDefault"];

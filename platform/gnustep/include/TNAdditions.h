@@ -7,6 +7,8 @@
 
 @class CALayer;
 
+typedef NSString *NSKeyValueChangeKey;
+
 // Layers.mm
 @interface NSView (TNLayers)
 - (void)setWantsLayer:(BOOL)wantsLayer;
@@ -24,6 +26,23 @@
 // ViewControllers.mm
 @interface NSViewController (TNViewDidLoad)
 - (void)viewDidLoad;
+- (BOOL)isViewLoaded;
+/// Nil as long as the view is not loaded.
+- (NSView *)viewIfLoaded;
+@end
+
+// TextPlaceholders.mm
+@interface NSTextField (TNPlaceholders)
+/// Shown while the field is empty and not being edited.
+- (void)setPlaceholderString:(NSString *)text;
+- (NSString *)placeholderString;
+@end
+
+// Alerts.mm
+@interface NSAlert (TNSheets)
+/// Runs the alert for the whole application; the handler may be nil.
+- (void)beginSheetModalForWindow:(NSWindow *)window
+               completionHandler:(void (^)(NSModalResponse answer))handler;
 @end
 
 // FolderLocations.mm
@@ -48,4 +67,5 @@ typedef struct {
 @interface NSProcessInfo (TNOperatingSystemVersion)
 /// The kernel's version.
 - (NSOperatingSystemVersion)operatingSystemVersion;
+- (BOOL)isOperatingSystemAtLeastVersion:(NSOperatingSystemVersion)version;
 @end

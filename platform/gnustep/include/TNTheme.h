@@ -12,6 +12,7 @@ struct TNThemeColors {
     NSColor *selectedRowInactive;
     NSColor *text;
     NSColor *secondaryText;
+    NSColor *placeholderText;
     NSColor *border;
     NSColor *control;
     NSColor *controlPressed;
