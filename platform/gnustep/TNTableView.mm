@@ -1,5 +1,5 @@
-// Missing: view-based tables, as of GNUstep GUI 0.29, which has no view for a cell and takes no height from the
-// delegate. Views exist for the rows on screen alone.
+// Missing: view-based tables, as of GNUstep GUI 0.29, which has no view for a cell and takes no height from
+// the delegate. Views exist for the rows on screen alone.
 
 #import "TNTableView.h"
 
