@@ -26,5 +26,13 @@ TEST(BigList, ARowFarDownIsRemovedAndTheRestStays) {
         "['Folder 6999', 'Folder 7001', 'Folder 9999']");
 }
 
+TEST(BigList, ACommonFolderIsDraggedToAnotherPlace) {
+    scrollToRow(RuleCategory::commonPath, 0);
+    dragRowIntoGap(RuleCategory::commonPath, 3, 1);
+    EXPECT_EQ(shared("[r['displayName'] for r in d['arrOfCommonPath']][:4]"),
+        "['Folder 0', 'Folder 3', 'Folder 1', 'Folder 2']");
+    EXPECT_EQ(selectedRow(RuleCategory::commonPath), -1);
+}
+
 } // namespace
 } // namespace tarnwick::gui
