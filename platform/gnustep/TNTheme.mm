@@ -3,6 +3,7 @@
 
 #import "TNTheme.h"
 
+#import "MethodReplacement.h"
 #import "TNStartUp.h"
 
 #include <algorithm>
@@ -24,6 +25,10 @@ bool isDefaultButton(NSCell *cell) {
 bool isPressed(GSThemeControlState state) {
     return state == GSThemeHighlightedState || state == GSThemeHighlightedFirstResponderState ||
            state == GSThemeSelectedState || state == GSThemeSelectedFirstResponderState;
+}
+
+BOOL dimsImageWhenDisabled(id, SEL) {
+    return YES;
 }
 
 } // namespace
@@ -267,6 +272,11 @@ NSBezierPath *TNThemeHairline(NSRect rect, CGFloat radius) {
 @end
 
 @implementation NSButtonCell (TNTheme)
+
+/// A check box that cannot be changed looks like one, as on macOS; GNUstep has this off from the start.
++ (void)load {
+    TNReplaceMethod(self, @selector(imageDimsWhenDisabled), dimsImageWhenDisabled);
+}
 
 - (NSColor *)textColor {
     const auto *colors = TNThemeCurrentColors();

@@ -7,23 +7,6 @@ namespace {
 
 constexpr CGFloat boxSize = 16;
 
-void install(NSString *name, NSImage *image) {
-    // A name that is taken is refused.
-    NSImage *old = [NSImage imageNamed:name];
-    [old setName:nil];
-    [image setName:name];
-}
-
-NSImage *draw(CGFloat size, void (^drawing)(NSRect bounds)) {
-    NSImage *image = [[NSImage alloc] initWithSize:NSMakeSize(size, size)];
-    [image lockFocus];
-    [[NSColor clearColor] set];
-    NSRectFillUsingOperation(NSMakeRect(0, 0, size, size), NSCompositeClear);
-    drawing(NSMakeRect(0, 0, size, size));
-    [image unlockFocus];
-    return image;
-}
-
 void fillShape(NSBezierPath *path, bool on) {
     const auto *colors = TNThemeCurrentColors();
     [(on ? colors->accent : colors->control) set];
@@ -33,8 +16,8 @@ void fillShape(NSBezierPath *path, bool on) {
     [path stroke];
 }
 
-NSImage *makeCheckBox(bool on) {
-    return draw(boxSize, ^(NSRect bounds) {
+void installCheckBox(NSString *name, bool on) {
+    TNThemeInstallImage(name, NSMakeSize(boxSize, boxSize), ^(NSRect bounds) {
         fillShape([NSBezierPath bezierPathWithRoundedRect:NSInsetRect(bounds, 1.5, 1.5)
                                                   xRadius:3.5
                                                   yRadius:3.5],
@@ -53,8 +36,8 @@ NSImage *makeCheckBox(bool on) {
     });
 }
 
-NSImage *makeRadioButton(bool on) {
-    return draw(boxSize, ^(NSRect bounds) {
+void installRadioButton(NSString *name, bool on) {
+    TNThemeInstallImage(name, NSMakeSize(boxSize, boxSize), ^(NSRect bounds) {
         fillShape([NSBezierPath bezierPathWithOvalInRect:NSInsetRect(bounds, 1.5, 1.5)], on);
         if (on) {
             [TNThemeCurrentColors()->accentText set];
@@ -65,13 +48,33 @@ NSImage *makeRadioButton(bool on) {
 
 } // namespace
 
+void TNThemeInstallImage(NSString *name, NSSize size, void (^drawing)(NSRect bounds)) {
+    const NSRect bounds = NSMakeRect(0, 0, size.width, size.height);
+    NSImage *canvas = [[[NSImage alloc] initWithSize:size] autorelease];
+    [canvas lockFocus];
+    NSRectFillUsingOperation(bounds, NSCompositingOperationClear);
+    drawing(bounds);
+    // Pixels: only they can be scaled and kept in files.
+    NSBitmapImageRep *pixels = [[[NSBitmapImageRep alloc] initWithFocusedViewRect:bounds] autorelease];
+    [canvas unlockFocus];
+    // It stays for the whole run.
+    NSImage *image = [[NSImage alloc] initWithSize:size];
+    [image addRepresentation:pixels];
+    // A name that is taken is refused.
+    NSImage *old = [NSImage imageNamed:name];
+    [old setName:nil];
+    [image setName:name];
+}
+
 void TNThemeInstallImages() {
-    install(@"GSSwitch", makeCheckBox(false));
-    install(@"GSSwitchSelected", makeCheckBox(true));
-    install(@"GSRadio", makeRadioButton(false));
-    install(@"GSRadioSelected", makeRadioButton(true));
+    installCheckBox(@"GSSwitch", false);
+    installCheckBox(@"GSSwitchSelected", true);
+    installRadioButton(@"GSRadio", false);
+    installRadioButton(@"GSRadioSelected", true);
     for (NSString *name in [NSArray arrayWithObjects:@"common_ret", @"common_retH", nil]) {
-        install(name, draw(1, ^(NSRect){
-                           }));
+        TNThemeInstallImage(name, NSMakeSize(1, 1),
+            ^(NSRect){
+            });
     }
+    TNThemeInstallPanelImages();
 }

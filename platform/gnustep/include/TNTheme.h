@@ -36,6 +36,10 @@ void TNThemeUseAppearance(TNThemeAppearance appearance);
 /// Draws the pictures of check boxes, radio buttons and window buttons in the current colours, under the
 /// names by which GNUstep asks for them.
 void TNThemeInstallImages();
+/// Those of the open panel and of pop-up buttons; part of the above.
+void TNThemeInstallPanelImages();
+/// Draws a picture and puts it in the place of GNUstep's of that name.
+void TNThemeInstallImage(NSString *name, NSSize size, void (^drawing)(NSRect bounds));
 /// The system's named colours in the current appearance; autoreleased.
 NSColorList *TNThemeMakeColorList();
 

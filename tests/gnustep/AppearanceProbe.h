@@ -1,0 +1,16 @@
+#pragma once
+
+/// What the layer's look comes down to in pixels, from a program that has started up.
+namespace tarnwick::probe {
+
+/// The share of a text field's pixels that differ from its background, 0 to 1.
+double inkOfField(const char* text, const char* placeholder);
+/// The same of a tab view of the kind that has neither tabs nor border.
+double inkOfBareTabView();
+/// How dark a ticked check box without title is, 0 to 1.
+double darknessOfCheckBox(bool enabled);
+/// Whether a folder's picture has its colours and a transparent corner once scaled and kept as a file would
+/// be.
+bool folderPictureSurvivesScaling();
+
+} // namespace tarnwick::probe

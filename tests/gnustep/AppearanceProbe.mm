@@ -1,0 +1,114 @@
+#include "AppearanceProbe.h"
+
+#import "TNStartUp.h"
+
+#import <AppKit/AppKit.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace tarnwick::probe {
+
+namespace {
+
+constexpr double side = 40;
+
+/// A window with just this view, which is displayed, and the view's pixels.
+NSBitmapImageRep *pixelsOf(NSView *view) {
+    NSWindow *window = [[NSWindow alloc] initWithContentRect:NSMakeRect(50, 50, 200, 100)
+                                                   styleMask:NSWindowStyleMaskBorderless
+                                                     backing:NSBackingStoreBuffered
+                                                       defer:NO];
+    [[window contentView] addSubview:view];
+    [window orderFront:nil];
+    [window display];
+    [view lockFocus];
+    NSBitmapImageRep *pixels = [[[NSBitmapImageRep alloc] initWithFocusedViewRect:[view bounds]] autorelease];
+    [view unlockFocus];
+    return pixels;
+}
+
+NSColor *colorAt(NSBitmapImageRep *pixels, NSInteger column, NSInteger row) {
+    return [[pixels colorAtX:column y:row] colorUsingColorSpaceName:NSCalibratedRGBColorSpace];
+}
+
+double brightness(NSColor *color) {
+    return ([color redComponent] + [color greenComponent] + [color blueComponent]) / 3;
+}
+
+/// Leaves out a border of two pixels.
+double ink(NSBitmapImageRep *pixels) {
+    const double background = brightness(colorAt(pixels, 3, [pixels pixelsHigh] - 4));
+    int different = 0;
+    int all = 0;
+    for (NSInteger row = 2; row < [pixels pixelsHigh] - 2; ++row) {
+        for (NSInteger column = 2; column < [pixels pixelsWide] - 2; ++column) {
+            ++all;
+            different += std::abs(brightness(colorAt(pixels, column, row)) - background) > 0.02 ? 1 : 0;
+        }
+    }
+    return static_cast<double>(different) / all;
+}
+
+} // namespace
+
+double inkOfField(const char *text, const char *placeholder) {
+    @autoreleasepool {
+        TNPrepareProcess(0, nullptr);
+        NSTextField *field = [[[NSTextField alloc] initWithFrame:NSMakeRect(10, 10, 150, 24)] autorelease];
+        [field setStringValue:[NSString stringWithUTF8String:text]];
+        [field setPlaceholderString:[NSString stringWithUTF8String:placeholder]];
+        return ink(pixelsOf(field));
+    }
+}
+
+double inkOfBareTabView() {
+    @autoreleasepool {
+        TNPrepareProcess(0, nullptr);
+        NSTabView *tabs = [[[NSTabView alloc] initWithFrame:NSMakeRect(10, 10, 150, 80)] autorelease];
+        [tabs setTabViewType:NSNoTabsNoBorder];
+        for (NSString *label in [NSArray arrayWithObjects:@"One", @"Two", nil]) {
+            NSTabViewItem *item = [[[NSTabViewItem alloc] initWithIdentifier:label] autorelease];
+            [item setLabel:label];
+            [tabs addTabViewItem:item];
+        }
+        return ink(pixelsOf(tabs));
+    }
+}
+
+double darknessOfCheckBox(bool enabled) {
+    @autoreleasepool {
+        TNPrepareProcess(0, nullptr);
+        NSButton *box = [[[NSButton alloc] initWithFrame:NSMakeRect(10, 10, 18, 18)] autorelease];
+        [box setButtonType:NSButtonTypeSwitch];
+        [box setTitle:@""];
+        [box setState:NSControlStateValueOn];
+        [box setEnabled:enabled];
+        NSBitmapImageRep *pixels = pixelsOf(box);
+        double darkest = 0;
+        for (NSInteger column = 0; column < [pixels pixelsWide]; ++column) {
+            darkest = std::max(darkest, 1 - brightness(colorAt(pixels, column, 9)));
+        }
+        return darkest;
+    }
+}
+
+bool folderPictureSurvivesScaling() {
+    @autoreleasepool {
+        TNPrepareProcess(0, nullptr);
+        NSImage *icon = [[NSWorkspace sharedWorkspace] iconForFile:@"/usr"];
+        NSImage *small = [[[NSImage alloc] initWithSize:NSMakeSize(side, side)] autorelease];
+        [small lockFocus];
+        [icon drawInRect:NSMakeRect(0, 0, side, side)
+                fromRect:NSZeroRect
+               operation:NSCompositingOperationCopy
+                fraction:1];
+        [small unlockFocus];
+        NSBitmapImageRep *pixels = [NSBitmapImageRep imageRepWithData:[small TIFFRepresentation]];
+        NSColor *middle = colorAt(pixels, 20, 22);
+        return [middle blueComponent] > [middle redComponent] + 0.2 && [middle alphaComponent] == 1 &&
+               [colorAt(pixels, 0, 0) alphaComponent] == 0;
+    }
+}
+
+} // namespace tarnwick::probe
