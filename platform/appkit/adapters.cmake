@@ -17,4 +17,8 @@ add_library(tarnwick_appkit_adapters OBJECT
     WorkspaceAdapter.mm)
 target_link_libraries(tarnwick_appkit_adapters PUBLIC tarnwick_appkit_flags tarnwick_prefs)
 
-add_subdirectory(../gnustep/adapters ${CMAKE_CURRENT_BINARY_DIR}/adapters)
+if(APPLE)
+    add_subdirectory(../macos ${CMAKE_CURRENT_BINARY_DIR}/adapters)
+else()
+    add_subdirectory(../gnustep/adapters ${CMAKE_CURRENT_BINARY_DIR}/adapters)
+endif()

@@ -1,0 +1,8 @@
+#include "platform/SystemServices.h"
+
+namespace tarnwick {
+
+/// The system prepares its own processes.
+void prepareProcess(int, char *[]) {}
+
+} // namespace tarnwick
