@@ -8,6 +8,12 @@
 
 #include <string>
 
+/// Actions that the responder chain answers without any header saying so.
+@protocol UndoActions
+- (void)undo:(id)sender;
+- (void)redo:(id)sender;
+@end
+
 namespace tarnwick {
 namespace {
 

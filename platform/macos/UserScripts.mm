@@ -31,7 +31,10 @@ public:
     explicit AppleScriptTask(ObjectPointer<NSUserAppleScriptTask> task) : task_(std::move(task)) {}
 
     void execute(const HandlerCallEvent &event) override {
-        [task_.get() executeWithAppleEvent:appleEvent(event) completionHandler:nil];
+        [task_.get() executeWithAppleEvent:appleEvent(event)
+                         completionHandler:^(NSAppleEventDescriptor *, NSError *){
+                             // What the script gives or fails with is nobody's business.
+                         }];
     }
 
 private:

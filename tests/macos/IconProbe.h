@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+namespace tarnwick::standins {
+
+/// What the icon of a file is made of, and its width.
+struct IconFacts {
+    std::string origin;
+    double width = 0;
+};
+IconFacts iconOf(const std::string& path);
+
+} // namespace tarnwick::standins

@@ -1,0 +1,15 @@
+#include "IconProbe.h"
+
+#import "platform/appkit/ImageConversion.h"
+#import "platform/appkit/StringConversion.h"
+
+namespace tarnwick::standins {
+
+IconFacts iconOf(const std::string &path) {
+    @autoreleasepool {
+        StandInImage *icon = iconOfFileAtPath(toNSString(path));
+        return {toString([icon origin]), [icon size].width};
+    }
+}
+
+} // namespace tarnwick::standins

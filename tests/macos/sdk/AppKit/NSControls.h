@@ -1,0 +1,81 @@
+#pragma once
+
+#import <AppKit/NSEvent.h>
+#import <AppKit/NSView.h>
+
+#pragma clang assume_nonnull begin
+
+@class NSImage;
+
+typedef NSInteger NSControlStateValue;
+enum : NSControlStateValue { NSControlStateValueOff = 0, NSControlStateValueOn = 1 };
+typedef TN_ENUM(NSUInteger, NSImageScaling){
+    NSImageScaleProportionallyDown = 0, NSImageScaleProportionallyUpOrDown = 3};
+typedef TN_ENUM(NSUInteger, NSCellImagePosition){NSImageLeft = 2};
+typedef TN_ENUM(NSUInteger, NSButtonType){NSButtonTypeSwitch = 3};
+typedef TN_ENUM(NSUInteger, NSBezelStyle){NSBezelStyleRounded = 1};
+
+@interface NSCell : NSObject <NSCopying>
+@property (copy) NSString *stringValue;
+@property NSTextAlignment alignment;
+@property NSLineBreakMode lineBreakMode;
+@property BOOL wraps;
+@end
+
+@interface NSControl : NSView
+@property (nullable, strong) id cell;
+@property (nullable, assign) id target;
+@property (nullable) SEL action;
+@property NSInteger tag;
+@property (getter=isEnabled) BOOL enabled;
+@property (copy) NSString *stringValue;
+@property NSTextAlignment alignment;
+@property (nullable, strong) NSFont *font;
+- (void)performClick:(nullable id)sender;
+- (void)sizeToFit;
+@end
+
+@interface NSText : NSView
+- (void)cut:(nullable id)sender;
+- (void)copy:(nullable id)sender;
+- (void)paste:(nullable id)sender;
+- (void)selectAll:(nullable id)sender;
+@end
+
+@protocol NSControlTextEditingDelegate <NSObject>
+@optional
+- (BOOL)control:(NSControl *)control textShouldEndEditing:(NSText *)fieldEditor;
+@end
+
+@protocol NSTextFieldDelegate <NSControlTextEditingDelegate>
+@end
+
+@interface NSTextField : NSControl
+@property (nullable, assign) id<NSTextFieldDelegate> delegate;
+@property (getter=isBezeled) BOOL bezeled;
+@property (getter=isBordered) BOOL bordered;
+@property (getter=isEditable) BOOL editable;
+@property (getter=isSelectable) BOOL selectable;
+@property BOOL drawsBackground;
+@property (nullable, copy) NSColor *textColor;
+@end
+
+@interface NSButton : NSControl
+@property (copy) NSString *title;
+@property (copy) NSAttributedString *attributedTitle;
+@property (nullable, strong) NSImage *image;
+@property NSCellImagePosition imagePosition;
+@property (getter=isBordered) BOOL bordered;
+@property NSBezelStyle bezelStyle;
+@property NSControlStateValue state;
+@property (copy) NSString *keyEquivalent;
+@property NSEventModifierFlags keyEquivalentModifierMask;
+- (void)setButtonType:(NSButtonType)type;
+@end
+
+@interface NSImageView : NSControl
+@property (nullable, strong) NSImage *image;
+@property NSImageScaling imageScaling;
+@end
+
+#pragma clang assume_nonnull end

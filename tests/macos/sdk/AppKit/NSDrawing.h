@@ -1,0 +1,72 @@
+#pragma once
+
+#import <AppKit/NSResponder.h>
+
+#pragma clang assume_nonnull begin
+
+@class NSGraphicsContext;
+
+typedef TN_ENUM(NSUInteger, NSCompositingOperation){NSCompositingOperationSourceOver = 2};
+typedef TN_ENUM(NSInteger, NSTextAlignment) {
+    NSTextAlignmentLeft = 0,
+#if __aarch64__
+    NSTextAlignmentCenter = 1,
+#else
+    NSTextAlignmentCenter = 2,
+#endif
+};
+typedef TN_ENUM(NSUInteger, NSLineBreakMode){NSLineBreakByWordWrapping = 0, NSLineBreakByTruncatingTail = 4};
+
+extern "C" {
+void NSRectFill(NSRect rect);
+extern NSString *const NSFontAttributeName;
+extern NSString *const NSForegroundColorAttributeName;
+extern NSString *const NSParagraphStyleAttributeName;
+}
+
+@interface NSColor : NSObject <NSCopying>
+@property (class, readonly, strong) NSColor *controlTextColor;
+@property (class, readonly, strong) NSColor *disabledControlTextColor;
+@property (class, readonly, strong) NSColor *textBackgroundColor;
+@property (class, readonly, strong) NSColor *windowBackgroundColor;
+@property (readonly) CGColorRef CGColor;
++ (NSColor *)colorWithDeviceRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha;
+- (void)set;
+@end
+
+@interface NSFont : NSObject <NSCopying>
++ (NSFont *)systemFontOfSize:(CGFloat)size;
++ (NSFont *)boldSystemFontOfSize:(CGFloat)size;
+@end
+
+@interface NSParagraphStyle : NSObject <NSCopying>
+@end
+@interface NSMutableParagraphStyle : NSParagraphStyle
+@property NSTextAlignment alignment;
+@end
+
+@interface NSImage : NSObject <NSCopying>
+@property NSSize size;
+@property (readonly, getter=isValid) BOOL valid;
+@property (nullable, readonly, copy) NSData *TIFFRepresentation;
++ (nullable NSImage *)imageNamed:(NSString *)name;
+- (instancetype)initWithSize:(NSSize)size;
+- (nullable instancetype)initWithData:(NSData *)data;
+- (nullable instancetype)initWithContentsOfFile:(NSString *)path;
+- (instancetype)initWithCGImage:(CGImageRef)image size:(NSSize)size;
+- (nullable CGImageRef)CGImageForProposedRect:(nullable NSRect *)rect
+                                      context:(nullable NSGraphicsContext *)context
+                                        hints:(nullable NSDictionary<NSString *, id> *)hints;
+- (void)lockFocus;
+- (void)unlockFocus;
+- (void)drawInRect:(NSRect)rect
+          fromRect:(NSRect)from
+         operation:(NSCompositingOperation)operation
+          fraction:(CGFloat)fraction;
+@end
+
+@interface NSString (NSStringDrawing)
+- (NSSize)sizeWithAttributes:(nullable NSDictionary<NSString *, id> *)attributes;
+@end
+
+#pragma clang assume_nonnull end

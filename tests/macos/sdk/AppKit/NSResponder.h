@@ -1,0 +1,29 @@
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+#pragma clang assume_nonnull begin
+
+@class NSApplication, NSButton, NSEvent, NSMenuItem, NSTabView, NSTableView, NSText, NSTextField, NSView,
+    NSWindow;
+
+@interface NSResponder : NSObject
+- (void)keyDown:(NSEvent *)event;
+- (BOOL)becomeFirstResponder;
+@end
+
+@interface NSObject (NSNibAwaking)
+- (void)awakeFromNib;
+@end
+
+@protocol NSUserInterfaceItemIdentification
+@property (nullable, copy) NSString *identifier;
+@end
+
+@interface NSViewController : NSResponder
+@property (strong) NSView *view;
+- (nullable instancetype)initWithNibName:(nullable NSString *)name bundle:(nullable NSBundle *)bundle;
+- (void)viewDidLoad TN_SINCE(10.10);
+@end
+
+#pragma clang assume_nonnull end

@@ -1,0 +1,37 @@
+#pragma once
+
+#import <AppKit/NSView.h>
+
+#pragma clang assume_nonnull begin
+
+typedef TN_OPTIONS(NSUInteger, NSWindowStyleMask){
+    NSWindowStyleMaskTitled = 1,
+    NSWindowStyleMaskClosable = 2,
+    NSWindowStyleMaskMiniaturizable = 4,
+    NSWindowStyleMaskResizable = 8,
+};
+typedef TN_ENUM(NSUInteger, NSBackingStoreType){NSBackingStoreBuffered = 2};
+extern "C" NSString *const NSWindowDidUpdateNotification;
+
+@interface NSWindow : NSResponder
+@property (copy) NSString *title;
+@property (nullable, strong) __kindof NSView *contentView;
+@property NSSize contentMinSize;
+@property (getter=isReleasedWhenClosed) BOOL releasedWhenClosed;
+@property (getter=isMovableByWindowBackground) BOOL movableByWindowBackground;
+@property (nullable, readonly, assign) NSResponder *firstResponder;
+@property (nullable, assign) NSView *initialFirstResponder;
+- (instancetype)initWithContentRect:(NSRect)rect
+                          styleMask:(NSWindowStyleMask)style
+                            backing:(NSBackingStoreType)backing
+                              defer:(BOOL)defer;
+- (void)center;
+- (BOOL)setFrameAutosaveName:(NSString *)name;
+- (BOOL)makeFirstResponder:(nullable NSResponder *)responder;
+- (void)makeKeyAndOrderFront:(nullable id)sender;
+- (void)performClose:(nullable id)sender;
+- (void)performMiniaturize:(nullable id)sender;
+- (void)performZoom:(nullable id)sender;
+@end
+
+#pragma clang assume_nonnull end

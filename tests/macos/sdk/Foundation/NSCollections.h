@@ -1,0 +1,53 @@
+#pragma once
+
+#import "NSObject.h"
+
+#pragma clang assume_nonnull begin
+
+typedef struct {
+    unsigned long state;
+    id __unsafe_unretained _Nullable *_Nullable itemsPtr;
+    unsigned long *_Nullable mutationsPtr;
+    unsigned long extra[5];
+} NSFastEnumerationState;
+
+@protocol NSFastEnumeration
+- (NSUInteger)countByEnumeratingWithState:(NSFastEnumerationState *)state
+                                  objects:(id __unsafe_unretained _Nullable[_Nonnull])buffer
+                                    count:(NSUInteger)count;
+@end
+
+@interface NSArray<ObjectType> : NSObject <NSCopying, NSFastEnumeration>
+@property (readonly) NSUInteger count;
+@property (nullable, readonly) ObjectType firstObject;
+- (ObjectType)objectAtIndex:(NSUInteger)index;
+- (NSUInteger)indexOfObjectIdenticalTo:(ObjectType)object;
++ (instancetype)array;
++ (instancetype)arrayWithObject:(ObjectType)object;
++ (instancetype)arrayWithObjects:(ObjectType)first, ... __attribute__((sentinel(0, 1)));
+@end
+
+@interface NSMutableArray<ObjectType> : NSArray <ObjectType>
++ (instancetype)arrayWithCapacity:(NSUInteger)count;
+- (void)addObject:(ObjectType)object;
+@end
+
+@interface NSDictionary<KeyType, ObjectType> : NSObject <NSCopying, NSFastEnumeration>
+@property (readonly) NSUInteger count;
+- (nullable ObjectType)objectForKey:(KeyType)key;
++ (instancetype)dictionaryWithObject:(ObjectType)object forKey:(KeyType)key;
++ (instancetype)dictionaryWithObjectsAndKeys:(id)first, ... __attribute__((sentinel(0, 1)));
+@end
+
+@interface NSMutableDictionary<KeyType, ObjectType> : NSDictionary <KeyType, ObjectType>
++ (instancetype)dictionaryWithCapacity:(NSUInteger)count;
+- (void)setObject:(ObjectType)object forKey:(KeyType)key;
+@end
+
+@interface NSIndexSet : NSObject <NSCopying>
+@property (readonly) NSUInteger count;
+@property (readonly) NSUInteger firstIndex;
++ (instancetype)indexSetWithIndex:(NSUInteger)index;
+@end
+
+#pragma clang assume_nonnull end

@@ -1,0 +1,37 @@
+#pragma once
+
+#import "NSObject.h"
+
+#pragma clang assume_nonnull begin
+
+@class NSData;
+
+typedef unsigned short unichar;
+typedef NSUInteger NSStringEncoding;
+enum : NSStringEncoding { NSUTF8StringEncoding = 4 };
+
+@interface NSString : NSObject <NSCopying>
+@property (readonly) NSUInteger length;
+@property (readonly, copy) NSString *stringByDeletingLastPathComponent;
+@property (readonly, copy) NSString *pathExtension;
+@property (readonly, copy) NSString *lastPathComponent;
+- (unichar)characterAtIndex:(NSUInteger)index;
+- (nullable instancetype)initWithBytes:(const void *)bytes
+                                length:(NSUInteger)length
+                              encoding:(NSStringEncoding)encoding;
+- (nullable NSData *)dataUsingEncoding:(NSStringEncoding)encoding allowLossyConversion:(BOOL)lossy;
+- (BOOL)isEqualToString:(NSString *)other;
+- (NSString *)stringByAppendingString:(NSString *)other;
+- (NSString *)stringByAppendingPathComponent:(NSString *)other;
+@end
+
+@interface NSMutableString : NSString
++ (instancetype)string;
+- (void)appendString:(NSString *)other;
+@end
+
+@interface NSAttributedString : NSObject <NSCopying>
+- (instancetype)initWithString:(NSString *)text attributes:(nullable NSDictionary *)attributes;
+@end
+
+#pragma clang assume_nonnull end

@@ -1,0 +1,14 @@
+#pragma once
+
+#if __OBJC_BOOL_IS_BOOL
+typedef bool BOOL;
+#else
+typedef signed char BOOL;
+#endif
+#define YES __objc_yes
+#define NO __objc_no
+#define nil nullptr
+#define Nil nullptr
+
+typedef long NSInteger;
+typedef unsigned long NSUInteger;
