@@ -33,13 +33,14 @@
 - (NSTextField *)Version;
 - (NSTabView *)tabView;
 - (NSButton *)createNewFileButton;
-- (NSButton *)copyFilesToButton;
+/// Not a copy, whatever its name begins with.
+- (NSButton *)copyFilesToButton NS_RETURNS_NOT_RETAINED;
 - (NSButton *)commonPathToButton;
 - (NSButton *)customIconButton;
 - (NSButton *)otherOptionButton;
 - (NSButton *)moreAppButton;
 - (NSTableView *)createNewFileTableView;
-- (NSTableView *)copyFilesToTableView;
+- (NSTableView *)copyFilesToTableView NS_RETURNS_NOT_RETAINED;
 - (NSTableView *)commonPathTableView;
 - (NSTableView *)customIconTableView;
 - (NSTableView *)othersTableView;

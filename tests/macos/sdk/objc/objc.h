@@ -12,3 +12,5 @@ typedef signed char BOOL;
 
 typedef long NSInteger;
 typedef unsigned long NSUInteger;
+
+#define NS_RETURNS_NOT_RETAINED __attribute__((ns_returns_not_retained))
