@@ -1,5 +1,6 @@
 #import "platform/appkit/ObjectPointer.h"
 #import "platform/appkit/StringConversion.h"
+#import "platform/gnustep/DefaultsFiles.h"
 
 #include "platform/SystemServices.h"
 #include "platform/UserScript.h"
@@ -9,19 +10,12 @@
 namespace tarnwick {
 namespace {
 
-NSString *absoluteUserFolder(NSString *folder) {
-    return [folder isAbsolutePath] ? folder : [NSHomeDirectory() stringByAppendingPathComponent:folder];
-}
-
 /// The folders in which the script finds the user's settings, as this process finds them.
 NSDictionary *scriptEnvironment() {
     NSMutableDictionary *environment =
         [NSMutableDictionary dictionaryWithDictionary:[[NSProcessInfo processInfo] environment]];
-    NSString *defaults = [GNUstepConfig(nil) objectForKey:@"GNUSTEP_USER_DEFAULTS_DIR"];
     NSArray *libraries = NSSearchPathForDirectoriesInDomains(NSLibraryDirectory, NSUserDomainMask, YES);
-    if (defaults) {
-        [environment setObject:absoluteUserFolder(defaults) forKey:@"TARNWICK_DEFAULTS_DIR"];
-    }
+    [environment setObject:TNDefaultsFolder() forKey:@"TARNWICK_DEFAULTS_DIR"];
     if ([libraries count] > 0) {
         [environment setObject:[libraries objectAtIndex:0] forKey:@"TARNWICK_LIBRARY_DIR"];
     }
