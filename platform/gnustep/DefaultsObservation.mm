@@ -1,9 +1,11 @@
 // Missing: observation of single keys of NSUserDefaults, as of GNUstep Base 1.28: setting and removing
-// objects tells no observer. All typed setters go through these two.
+// objects tells no observer, and a value that is equal to the one there but of another kind, such as the
+// number 1 in place of a boolean, is not taken. All typed setters go through these two.
 
 #import <Foundation/Foundation.h>
 
 #import "MethodReplacement.h"
+#import "PropertyListValues.h"
 
 namespace {
 
@@ -20,6 +22,9 @@ bool changes(id defaults, id value, NSString *key) {
 
 void setObject(id self, SEL command, id value, NSString *key) {
     if (!changes(self, value, key)) {
+        if (!TNIsSamePropertyList([self objectForKey:key], value)) {
+            nativeRemoveObject(self, @selector(removeObjectForKey:), key);
+        }
         nativeSetObject(self, command, value, key);
         return;
     }
