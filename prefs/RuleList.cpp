@@ -20,6 +20,8 @@ PlistValue RuleList::toPlist() const {
 
 PlistValue RuleList::enabledToPlist() const {
     PlistArray array;
+    // Nearly all records are enabled as a rule.
+    array.reserve(records_.size());
     for (const auto& record : records_) {
         if (record.isEnabled()) {
             array.push_back(record.toPlist());

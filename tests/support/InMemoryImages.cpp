@@ -1,5 +1,7 @@
 #include "tests/support/InMemoryImages.h"
 
+#include <algorithm>
+
 namespace tarnwick::testing {
 
 std::string textOf(const ImagePointer& image) {
@@ -11,8 +13,8 @@ PlistData tiffOf(const std::string& text) {
     return PlistData({text.begin(), text.end()});
 }
 
-ImagePointer InMemoryImages::make(std::string text) const {
-    return std::make_shared<const InMemoryImage>(std::move(text), size);
+ImagePointer InMemoryImages::make(const std::string& text) const {
+    return std::make_shared<const InMemoryImage>(tiffOf(text), size);
 }
 
 ImagePointer InMemoryImages::named(std::string_view name) {
@@ -20,8 +22,9 @@ ImagePointer InMemoryImages::named(std::string_view name) {
 }
 
 ImagePointer InMemoryImages::fromData(const PlistData& data) {
-    std::string text(data.bytes(), data.bytes() + data.size());
-    return text.rfind("tiff", 0) == 0 ? make(std::move(text)) : nullptr;
+    constexpr std::string_view mark = "tiff";
+    const auto isPicture = data.size() >= mark.size() && std::equal(mark.begin(), mark.end(), data.bytes());
+    return isPicture ? std::make_shared<const InMemoryImage>(data, size) : nullptr;
 }
 
 ImagePointer InMemoryImages::fromFile(const std::string& path) {

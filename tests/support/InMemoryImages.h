@@ -8,16 +8,16 @@
 
 namespace tarnwick::testing {
 
-/// A picture that is nothing but its text and its size.
+/// A picture that is nothing but its bytes, shared with the data it was read from, and its size.
 class InMemoryImage final : public Image {
 public:
-    InMemoryImage(std::string text, ImageSize size) : text_(std::move(text)), size_(size) {}
-    [[nodiscard]] const std::string& text() const { return text_; }
+    InMemoryImage(PlistData bytes, ImageSize size) : bytes_(std::move(bytes)), size_(size) {}
+    [[nodiscard]] std::string text() const { return {bytes_.bytes(), bytes_.bytes() + bytes_.size()}; }
     ImageSize size() const override { return size_; }
-    PlistData tiff() const override { return PlistData({text_.begin(), text_.end()}); }
+    PlistData tiff() const override { return bytes_; }
 
 private:
-    std::string text_;
+    PlistData bytes_;
     ImageSize size_;
 };
 
@@ -41,7 +41,7 @@ public:
     ImagePointer iconOfFile(const std::string& path) override;
 
 private:
-    ImagePointer make(std::string text) const;
+    ImagePointer make(const std::string& text) const;
 };
 
 } // namespace tarnwick::testing

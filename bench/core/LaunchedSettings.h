@@ -1,0 +1,25 @@
+#pragma once
+
+#include "tests/support/InMemoryPlatform.h"
+#include "tests/support/InMemoryWindow.h"
+#include "ui/SettingsViewController.h"
+
+#include <cstddef>
+
+namespace tarnwick::bench {
+
+/// The controller over the in-memory platform with one long list of icons, as a launch leaves it.
+class LaunchedSettings {
+public:
+    LaunchedSettings(std::size_t records, std::size_t imageBytes);
+    [[nodiscard]] SettingsViewController& controller() { return controller_; }
+    /// The platform's log grows with every call; forgotten after each operation.
+    void forgetCalls() { platform_.log.clear(); }
+
+private:
+    testing::InMemoryPlatform platform_;
+    testing::InMemoryWindow window_;
+    SettingsViewController controller_;
+};
+
+} // namespace tarnwick::bench
