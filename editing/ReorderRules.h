@@ -21,7 +21,9 @@ enum class DropPlace { above, on };
     return place == DropPlace::above ? dragOperationEvery : dragOperationNone;
 }
 
-/// Moves a dragged row to another place in its list.
+enum class MoveDirection { up, down };
+
+/// Moves a row to another place in its list.
 class ReorderRules {
 public:
     explicit ReorderRules(RulePages& pages) : pages_(pages) {}
@@ -30,9 +32,15 @@ public:
     /// Nothing happens unless target and source are the same table, nor for a fixed Others action. A record
     /// moved down lands one place further than the gap, except below the last row. An insertion index
     /// outside the list leaves the record where it is and saves nothing. Order: list, store without
-    /// synchronising, publish, reload, deselect.
-    void acceptDrop(
+    /// synchronising, publish, reload, deselect. Gives the record's new index; nothing when nothing happened.
+    std::optional<long> acceptDrop(
         std::optional<RuleCategory> target, std::optional<RuleCategory> source, long from, long to);
+
+    /// Whether the table has a selected row with another one on that side of it.
+    [[nodiscard]] bool canMoveSelection(RuleCategory category, MoveDirection direction) const;
+    /// Drops the selected row into the gap above the row before it, or above the row after it, whatever that
+    /// drop does, and selects the record again where it landed.
+    void moveSelection(RuleCategory category, MoveDirection direction);
 
 private:
     RulePages& pages_;

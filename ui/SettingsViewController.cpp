@@ -153,6 +153,11 @@ bool SettingsViewController::acceptDrop(
     return true;
 }
 
+void SettingsViewController::moveSelectedRule(RuleCategory category, MoveDirection direction) {
+    reorderRules_.moveSelection(category, direction);
+    updateRemoveButton(category);
+}
+
 bool SettingsViewController::controlTextShouldEndEditing(
     std::string_view identifier, long row, std::string_view text) {
     editText_.endEditing(identifier, row, text);

@@ -116,6 +116,10 @@ public:
     /// Always true, also when nothing was moved.
     bool acceptDrop(
         std::optional<RuleCategory> target, std::optional<RuleCategory> source, long from, long to);
+    [[nodiscard]] bool canMoveSelectedRule(RuleCategory category, MoveDirection direction) const {
+        return reorderRules_.canMoveSelection(category, direction);
+    }
+    void moveSelectedRule(RuleCategory category, MoveDirection direction);
     /// Always true: editing ends, whatever the text.
     bool controlTextShouldEndEditing(std::string_view identifier, long row, std::string_view text);
     void selectPath(long row) { choosePath_.selectPath(row); }

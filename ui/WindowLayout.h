@@ -50,6 +50,9 @@ struct PageLayout {
     /// The title of the switch above the table that turns every rule on or off; empty: there is none.
     std::string_view enableAllTitle;
     std::string_view addTitle;
+    /// What stands in the table while it has no rows: what belongs there, and how to add the first.
+    std::string_view emptyTitle;
+    std::string_view emptyHint;
 };
 
 /// In page order.

@@ -67,7 +67,11 @@ NSMenu *makeFileMenu(::SettingsViewController *controller) {
     return menu;
 }
 
-NSMenu *makeEditMenu() {
+NSString *keyOf(unichar character) {
+    return [NSString stringWithCharacters:&character length:1];
+}
+
+NSMenu *makeEditMenu(::SettingsViewController *controller) {
     NSMenu *menu = makeMenu("Edit");
     addItem(menu, "Undo", @selector(undo:), @"z");
     [addItem(menu, "Redo", @selector(redo:), @"z")
@@ -77,6 +81,12 @@ NSMenu *makeEditMenu() {
     addItem(menu, "Copy Text", @selector(copy:), @"c");
     addItem(menu, "Paste Text", @selector(paste:), @"v");
     addItem(menu, "Select All", @selector(selectAll:), @"a");
+    addSeparator(menu);
+    const NSUInteger optionCommand = NSEventModifierFlagOption | NSEventModifierFlagCommand;
+    [addItem(menu, "Move Up", @selector(moveSelectedRuleUp:), keyOf(NSUpArrowFunctionKey), controller)
+        setKeyEquivalentModifierMask:optionCommand];
+    [addItem(menu, "Move Down", @selector(moveSelectedRuleDown:), keyOf(NSDownArrowFunctionKey), controller)
+        setKeyEquivalentModifierMask:optionCommand];
     return menu;
 }
 
@@ -122,7 +132,7 @@ void installMainMenu(::SettingsViewController *controller) {
     NSMenu *windows = makeWindowMenu();
     addSubmenu(bar, makeApplicationMenu(controller));
     addSubmenu(bar, makeFileMenu(controller));
-    addSubmenu(bar, makeEditMenu());
+    addSubmenu(bar, makeEditMenu(controller));
     addSubmenu(bar, makeViewMenu(controller));
     addSubmenu(bar, windows);
     addSubmenu(bar, makeHelpMenu(controller));

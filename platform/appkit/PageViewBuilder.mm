@@ -96,6 +96,25 @@ RuleTableView *makeTable(const PageLayout &layout, const RulePageActions &action
     return table;
 }
 
+/// Two centred lines for a table without rows.
+NSView *makeEmptyHint(const PageLayout &layout, CGFloat width) {
+    constexpr CGFloat titleHeight = 22;
+    constexpr CGFloat hintHeight = 18;
+    NSView *hint =
+        [[[NSView alloc] initWithFrame:NSMakeRect(0, 0, width, titleHeight + hintHeight)] autorelease];
+    const auto addLine = [&](std::string_view text, NSFont *font, NSColor *color, CGFloat bottom,
+                             CGFloat height) {
+        NSTextField *line = makeLabel(localizedText(text), font, color);
+        [line setAlignment:NSTextAlignmentCenter];
+        [line setFrame:NSMakeRect(0, bottom, width, height)];
+        [hint addSubview:line];
+    };
+    addLine(layout.emptyTitle, [NSFont boldSystemFontOfSize:14], [NSColor controlTextColor], hintHeight,
+        titleHeight);
+    addLine(layout.emptyHint, [NSFont systemFontOfSize:12], secondaryTextColor(), 0, hintHeight);
+    return hint;
+}
+
 NSScrollView *makeScrollView(NSTableView *table, NSRect frame) {
     NSScrollView *scroll = [[[NSScrollView alloc] initWithFrame:frame] autorelease];
     [scroll setBorderType:NSBezelBorder];
@@ -155,6 +174,7 @@ NSView *makeRulePage(
         makeTable(layout, actions, controller, NSMakeRect(0, 0, NSWidth(frame), NSHeight(frame)));
     column.place(makeScrollView(table, frame), frame, NSViewWidthSizable | NSViewHeightSizable);
     [table sizeToFit];
+    [table setEmptyHint:makeEmptyHint(layout, NSWidth(frame) - 2 * margin)];
 
     ChooseFolderButton *chooseFolder =
         layout.category == RuleCategory::copyFilesTo ? makeChooseFolderButton(controller, table) : nil;

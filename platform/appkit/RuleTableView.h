@@ -9,11 +9,15 @@
     NSButton *_removeButton;
     NSString *_nameColumn;
     NSString *_switchColumn;
+    NSView *_emptyHint;
 }
 
 /// Not retained: the button stands beside the table in the same window.
 - (void)setRemoveButton:(NSButton *)button;
 /// The identifiers of the columns that Return and Space act on; nil where there is none.
 - (void)setNameColumn:(NSString *)nameColumn switchColumn:(NSString *)switchColumn;
+
+/// Shown in the middle of the table while that has no rows.
+- (void)setEmptyHint:(NSView *)hint;
 
 @end

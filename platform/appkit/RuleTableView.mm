@@ -36,6 +36,25 @@ NSControl *controlIn(NSView *cell, Class wanted) {
     _switchColumn = [switchColumn copy];
 }
 
+- (void)setEmptyHint:(NSView *)hint {
+    _emptyHint = hint;
+    const NSSize size = [hint frame].size;
+    [hint setFrameOrigin:NSMakePoint((NSWidth([self bounds]) - size.width) / 2,
+                             (NSHeight([self bounds]) - size.height) / 2)];
+    [hint setAutoresizingMask:NSViewMinXMargin | NSViewMaxXMargin | NSViewMinYMargin | NSViewMaxYMargin];
+    [self addSubview:hint];
+    [self showOrHideEmptyHint];
+}
+
+- (void)showOrHideEmptyHint {
+    [_emptyHint setHidden:[self numberOfRows] > 0];
+}
+
+- (void)reloadData {
+    [super reloadData];
+    [self showOrHideEmptyHint];
+}
+
 - (NSControl *)selectedControlInColumn:(NSString *)identifier ofClass:(Class)wanted {
     const NSInteger row = [self selectedRow];
     const NSInteger column = identifier ? [self columnWithIdentifier:identifier] : -1;

@@ -2,9 +2,12 @@
 #import "platform/appkit/SettingsOutlets.h"
 #import "platform/appkit/SettingsViewController.h"
 
+#include "ui/SettingsViewController.h"
 #include "ui/WindowLayout.h"
 
 #include <optional>
+
+using tarnwick::MoveDirection;
 
 namespace {
 
@@ -26,12 +29,37 @@ std::optional<tarnwick::RuleCategory> shownCategory(NSTabView *tabView) {
     }
 }
 
+- (void)moveSelectedRule:(MoveDirection)direction {
+    if (const auto category = shownCategory([[self outlets] tabView])) {
+        [self controller]->moveSelectedRule(*category, direction);
+    }
+}
+
+- (BOOL)canMoveSelectedRule:(MoveDirection)direction {
+    const auto category = shownCategory([[self outlets] tabView]);
+    return category && [self controller]->canMoveSelectedRule(*category, direction);
+}
+
+- (void)moveSelectedRuleUp:(id)sender {
+    [self moveSelectedRule:MoveDirection::up];
+}
+
+- (void)moveSelectedRuleDown:(id)sender {
+    [self moveSelectedRule:MoveDirection::down];
+}
+
 - (BOOL)validateMenuItem:(NSMenuItem *)item {
     if ([item action] == @selector(doInstallScript)) {
         [item setState:[self checkScriptInstalled] ? NSControlStateValueOn : NSControlStateValueOff];
     }
     if ([item action] == @selector(addRuleOfCurrentPage:)) {
         return shownCategory([[self outlets] tabView]).has_value();
+    }
+    if ([item action] == @selector(moveSelectedRuleUp:)) {
+        return [self canMoveSelectedRule:MoveDirection::up];
+    }
+    if ([item action] == @selector(moveSelectedRuleDown:)) {
+        return [self canMoveSelectedRule:MoveDirection::down];
     }
     return YES;
 }

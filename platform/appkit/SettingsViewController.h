@@ -109,7 +109,10 @@ struct Platform;
 
 /// Presses the add button of the page that is shown; the page of further apps has none.
 - (void)addRuleOfCurrentPage:(id)sender;
-/// Marks the script helper's item while the script is installed.
+/// One place up or down in the list of the page that is shown.
+- (void)moveSelectedRuleUp:(id)sender;
+- (void)moveSelectedRuleDown:(id)sender;
+/// Marks the script helper's item while the script is installed; disables what cannot be done just now.
 - (BOOL)validateMenuItem:(NSMenuItem *)item;
 
 @end

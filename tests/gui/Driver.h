@@ -38,6 +38,8 @@ void dragRowOntoRow(RuleCategory table, long row, long target);
 void press(Key key);
 /// With the Command key.
 void pressCommand(char key);
+/// With the Option and Command keys.
+void pressOptionCommand(Key key);
 void type(const std::string& text);
 
 [[nodiscard]] int shownPage();
@@ -58,6 +60,8 @@ void scrollToRow(RuleCategory table, long row);
 [[nodiscard]] bool buttonIsEnabled(const std::string& title);
 /// Whether the visible check box with this title is on.
 [[nodiscard]] bool buttonIsOn(const std::string& title);
+/// Whether a text field with just this text can be seen on the page that is shown.
+[[nodiscard]] bool showsText(const std::string& text);
 /// Whether a text field of the window is being edited.
 [[nodiscard]] bool isEditing();
 /// What the alert said whose button was pressed last.

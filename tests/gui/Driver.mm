@@ -157,6 +157,22 @@ NSButton *visibleButton(const std::string &title) {
     return visibleButton([window() contentView], tarnwick::toNSString(title));
 }
 
+bool showsText(NSView *view, NSString *text) {
+    if ([view isHidden]) {
+        return false;
+    }
+    if ([view isKindOfClass:[NSTextField class]] &&
+        [[static_cast<NSTextField *>(view) stringValue] isEqualToString:text]) {
+        return true;
+    }
+    for (NSView *inner in [view subviews]) {
+        if (showsText(inner, text)) {
+            return true;
+        }
+    }
+    return false;
+}
+
 /// Presses down on a row, moves in small steps to the place, lets go.
 void drag(NSTableView *table, long row, NSPoint place) {
     const NSPoint start = pointInTable(table, NSMakePoint(120, NSMidY([table rectOfRow:row])));
@@ -320,6 +336,10 @@ void pressCommand(char key) {
     postKey([NSString stringWithFormat:@"%c", key], NSEventModifierFlagCommand);
 }
 
+void pressOptionCommand(Key key) {
+    postKey(charactersOf(key), NSEventModifierFlagOption | NSEventModifierFlagCommand);
+}
+
 void type(const std::string &text) {
     NSString *characters = toNSString(text);
     for (NSUInteger index = 0; index < [characters length]; ++index) {
@@ -376,6 +396,11 @@ bool buttonIsEnabled(const std::string &title) {
 
 bool buttonIsOn(const std::string &title) {
     return [visibleButton(title) state] == NSControlStateValueOn;
+}
+
+bool showsText(const std::string &text) {
+    NSView *page = [[[outlets() tabView] selectedTabViewItem] view];
+    return ::showsText(page, toNSString(text));
 }
 
 bool isEditing() {

@@ -28,6 +28,18 @@ TEST(Pages, EveryPageButtonShowsItsPage) {
     }
 }
 
+TEST(Pages, AnEmptyTableSaysHowToAddTheFirstRowUntilThereIsOne) {
+    clickPageButton(Page::copyFilesTo);
+    EXPECT_TRUE(showsText("No folders to copy or move to"));
+    clickButton("Reset List");
+    EXPECT_GT(rowCount(RuleCategory::copyFilesTo), 0);
+    EXPECT_FALSE(showsText("No folders to copy or move to"));
+    clickPageButton(Page::commonPath);
+    EXPECT_TRUE(showsText("No common folders"));
+    clickPageButton(Page::customIcon);
+    EXPECT_FALSE(showsText("No pictures"));
+}
+
 TEST(Pages, CommandWithADigitShowsThePage) {
     for (int page = 5; page >= 0; --page) {
         pressCommand(static_cast<char>('1' + page));

@@ -53,5 +53,22 @@ TEST(Reordering, AnOthersItemMovesAndAFixedOneDoesNot) {
     EXPECT_EQ(shared("d['arrOfOthers'][16]['Action']"), "'Translate by Google'");
 }
 
+TEST(Reordering, OptionCommandAndAnArrowMoveTheSelectedRowWhichStaysSelected) {
+    clickPageButton(Page::createNewFile);
+    clickButton("Reset List");
+    clickCell(RuleCategory::createNewFile, 1, "Extension");
+    pressOptionCommand(Key::down);
+    EXPECT_EQ(names("arrOfCreateNewFile", 4), "['TXT', 'XML', 'RTF', 'Word']");
+    EXPECT_EQ(selectedRow(RuleCategory::createNewFile), 2);
+    EXPECT_TRUE(removeButtonIsEnabled(RuleCategory::createNewFile));
+    pressOptionCommand(Key::up);
+    pressOptionCommand(Key::up);
+    EXPECT_EQ(names("arrOfCreateNewFile", 4), "['RTF', 'TXT', 'XML', 'Word']");
+    EXPECT_EQ(selectedRow(RuleCategory::createNewFile), 0);
+    pressOptionCommand(Key::up);
+    EXPECT_EQ(names("arrOfCreateNewFile", 4), "['RTF', 'TXT', 'XML', 'Word']");
+    EXPECT_EQ(selectedRow(RuleCategory::createNewFile), 0);
+}
+
 } // namespace
 } // namespace tarnwick::gui

@@ -39,6 +39,15 @@ TEST_F(WindowLayoutTest, EveryOptionSwitchStandsOnExactlyOnePage) {
     EXPECT_EQ(keys, expected);
 }
 
+TEST_F(WindowLayoutTest, EveryListSaysWhatIsMissingWhileItIsEmptyAndNamesItsAddButton) {
+    std::set<std::string_view> titles;
+    for (const auto& page : pageLayouts()) {
+        EXPECT_EQ(page.category.has_value(), !page.emptyTitle.empty()) << page.title;
+        EXPECT_NE(page.emptyHint.find(page.addTitle), std::string_view::npos) << page.title;
+        EXPECT_TRUE(titles.insert(page.emptyTitle).second) << page.title;
+    }
+}
+
 TEST_F(WindowLayoutTest, ExactlyTheListsWithAnEnableAllBooleanHaveThatSwitch) {
     for (const auto& page : pageLayouts()) {
         const auto hasBoolean = page.category && !factsOf(*page.category).enableAllKey.empty();

@@ -20,6 +20,7 @@ enum : NSStringEncoding { NSUTF8StringEncoding = 4 };
                                 length:(NSUInteger)length
                               encoding:(NSStringEncoding)encoding;
 - (nullable NSData *)dataUsingEncoding:(NSStringEncoding)encoding allowLossyConversion:(BOOL)lossy;
++ (instancetype)stringWithCharacters:(const unichar *)characters length:(NSUInteger)length;
 - (BOOL)isEqualToString:(NSString *)other;
 - (NSString *)stringByAppendingString:(NSString *)other;
 - (NSString *)stringByAppendingPathComponent:(NSString *)other;
