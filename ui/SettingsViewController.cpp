@@ -10,6 +10,8 @@
 #include "platform/RunningApplications.h"
 #include "platform/SystemLog.h"
 #include "platform/Workspace.h"
+#include "ui/RowLabels.h"
+#include "ui/WindowLayout.h"
 
 namespace tarnwick {
 namespace {
@@ -133,6 +135,13 @@ CellView SettingsViewController::viewForTableColumn(
         break;
     }
     return rowViews_.tableViewForOthers(column, index);
+}
+
+std::string SettingsViewController::accessibilityLabel(
+    RuleCategory table, std::string_view column, long row) const {
+    const auto cell = viewForTableColumn(table, layoutOf(table).nameColumn, row);
+    const auto* name = std::get_if<TextFieldCell>(&cell.control);
+    return rowControlLabel(platform_.bundle, column, name ? std::string_view(name->text) : "", row);
 }
 
 void SettingsViewController::updateRemoveButton(RuleCategory category) {

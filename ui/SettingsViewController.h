@@ -62,6 +62,9 @@ public:
     /// An index that the list does not have gives an empty cell.
     [[nodiscard]] CellView viewForTableColumn(RuleCategory table, std::string_view column, long row) const;
 
+    /// What that cell's control says of itself to those who do not see it.
+    [[nodiscard]] std::string accessibilityLabel(RuleCategory table, std::string_view column, long row) const;
+
     // A click in a table: its remove button is enabled exactly while a removable row is selected.
     void createNewFileViewClick() { updateRemoveButton(RuleCategory::createNewFile); }
     void copyFilesToViewClick() { updateRemoveButton(RuleCategory::copyFilesTo); }

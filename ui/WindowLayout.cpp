@@ -81,30 +81,38 @@ constexpr std::array<SwitchLayout, 4> othersSwitches{{
 constexpr std::array<PageLayout, pageCount> layouts{{
     {Page::createNewFile, "page-createNewFile", "New File",
         "Templates that the menu offers for creating a new file in the folder at hand.",
-        RuleCategory::createNewFile, createNewFileColumns, createNewFileSwitches, "Enable all templates",
-        "Add Templates\u2026", "No templates",
+        RuleCategory::createNewFile, createNewFileColumns, "NewFileDisplayName", "Enable",
+        createNewFileSwitches, "Enable all templates", "Add Templates\u2026", "No templates",
         "Choose \u201CAdd Templates\u2026\u201D and pick a file: the menu then offers new files like it."},
     {Page::copyFilesTo, "page-copyFilesTo", "Copy & Move To",
         "Folders that the selected files can be copied or moved to.", RuleCategory::copyFilesTo,
-        copyFilesToColumns, copyFilesToSwitches, "", "Add Folders\u2026", "No folders to copy or move to",
+        copyFilesToColumns, "Note", "Enable", copyFilesToSwitches, "", "Add Folders\u2026",
+        "No folders to copy or move to",
         "Choose \u201CAdd Folders\u2026\u201D and pick a folder: the menu then copies or moves files there."},
     {Page::commonPath, "page-commonPath", "Common Folders", "Folders that are one click away in every menu.",
-        RuleCategory::commonPath, commonPathColumns, commonPathSwitches, "", "Add Folders\u2026",
-        "No common folders",
+        RuleCategory::commonPath, commonPathColumns, "commonPathDisplayName", "", commonPathSwitches, "",
+        "Add Folders\u2026", "No common folders",
         "Choose \u201CAdd Folders\u2026\u201D and pick a folder: the menu then opens it from anywhere."},
     {Page::customIcon, "page-customIcon", "Custom Icons",
         "Pictures that the selected files and folders can be given as their icon.", RuleCategory::customIcon,
-        customIconColumns, customIconSwitches, "Enable all icons", "Add Pictures\u2026", "No pictures",
+        customIconColumns, "CustomIconName", "Enable", customIconSwitches, "Enable all icons",
+        "Add Pictures\u2026", "No pictures",
         "Choose \u201CAdd Pictures\u2026\u201D and pick a PNG file: the menu then offers it as an icon."},
     {Page::others, "page-others", "More Items",
         "Further actions of the menu, and applications to open files with.", RuleCategory::others,
-        othersColumns, othersSwitches, "Enable all items", "Add Items\u2026", "No items",
+        othersColumns, "OthersDisplayName", "OthersEnable", othersSwitches, "Enable all items",
+        "Add Items\u2026", "No items",
         "Choose \u201CAdd Items\u2026\u201D and pick an application: the menu then opens files with it."},
     {Page::moreApps, "page-moreApps", "More Apps", "Other applications by the makers of Tarnwick.",
-        std::nullopt, {}, {}, "", "", "", ""},
+        std::nullopt, {}, "", "", {}, "", "", "", ""},
 }};
 
 } // namespace
+
+const PageLayout& layoutOf(RuleCategory category) {
+    // The lists have the first five pages, in their own order.
+    return layouts[static_cast<std::size_t>(category)];
+}
 
 std::span<const PageLayout, pageCount> pageLayouts() {
     return layouts;

@@ -46,6 +46,9 @@ struct PageLayout {
     /// Nothing on the page of further applications.
     std::optional<RuleCategory> category;
     std::span<const ColumnLayout> columns;
+    /// The columns that hold a rule's name, and its switch; empty: none.
+    std::string_view nameColumn;
+    std::string_view switchColumn;
     std::span<const SwitchLayout> switches;
     /// The title of the switch above the table that turns every rule on or off; empty: there is none.
     std::string_view enableAllTitle;
@@ -55,6 +58,8 @@ struct PageLayout {
     std::string_view emptyHint;
 };
 
+/// The page of a category's list.
+[[nodiscard]] const PageLayout& layoutOf(RuleCategory category);
 /// In page order.
 [[nodiscard]] std::span<const PageLayout, pageCount> pageLayouts();
 

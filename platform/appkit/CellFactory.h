@@ -6,8 +6,8 @@ namespace tarnwick {
 
 struct CellView;
 
-/// Builds exactly the control that the core decided on; autoreleased. `controller` becomes the target of
-/// check boxes and the delegate of editable fields.
-[[nodiscard]] NSView* makeCell(const CellView& cell, id controller);
+/// Builds exactly the control that the core decided on, which calls itself `label` to those who do not see
+/// it; autoreleased. `controller` becomes the target of check boxes and the delegate of editable fields.
+[[nodiscard]] NSView *makeCell(const CellView &cell, NSString *label, id controller);
 
 } // namespace tarnwick

@@ -87,8 +87,9 @@ NSView *makeControl(const CellView &cell, id controller) {
 
 } // namespace
 
-NSView *makeCell(const CellView &cell, id controller) {
+NSView *makeCell(const CellView &cell, NSString *label, id controller) {
     NSView *control = makeControl(cell, controller);
+    [control setAccessibilityLabel:label];
     if (cell.bare) {
         return control;
     }

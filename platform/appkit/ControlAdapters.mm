@@ -1,5 +1,6 @@
 #import "platform/appkit/ControlAdapters.h"
 
+#import "platform/appkit/KeyViewLoop.h"
 #import "platform/appkit/StringConversion.h"
 
 #import <QuartzCore/QuartzCore.h>
@@ -91,6 +92,7 @@ public:
     void selectTab(int index) override {
         NSTabViewItem *item = [tabView_ tabViewItemAtIndex:index];
         [tabView_ selectTabViewItem:item];
+        linkKeyViews(tabView_);
         [[tabView_ window] makeFirstResponder:tableIn([item view])];
     }
 

@@ -45,11 +45,15 @@ NSView *makeTile(const Tile &facts, CGFloat width, ::SettingsViewController *con
         initWithFrame:NSMakeRect(tilePadding, middle - imageSize / 2, imageSize, imageSize)] autorelease];
     [picture setImage:resourceImage(facts.image)];
     [picture setImageScaling:NSImageScaleProportionallyUpOrDown];
+    [picture setAccessibilityLabel:localizedText(facts.name)];
     [content addSubview:picture];
 
     NSButton *button = [LinkButton buttonWithTitle:localizedText(facts.buttonTitle)
                                            address:facts.address
                                         controller:controller];
+    // Two of the buttons bear the same title.
+    [button setAccessibilityLabel:[NSString stringWithFormat:@"%@, %@", localizedText(facts.name),
+                                            localizedText(facts.buttonTitle)]];
     const CGFloat buttonLeft = contentWidth - tilePadding - NSWidth([button frame]);
     [button setFrameOrigin:NSMakePoint(buttonLeft, middle - NSHeight([button frame]) / 2)];
     [button setAutoresizingMask:NSViewMinXMargin];

@@ -88,7 +88,8 @@ RuleTableView *makeTable(const PageLayout &layout, const RulePageActions &action
     [table setGridStyleMask:NSTableViewGridNone];
     [table setUsesAlternatingRowBackgroundColors:YES];
     [table setColumnAutoresizingStyle:NSTableViewUniformColumnAutoresizingStyle];
-    [table setNameColumn:actions.nameColumn switchColumn:actions.switchColumn];
+    [table setNameColumn:toNSString(layout.nameColumn) switchColumn:toNSString(layout.switchColumn)];
+    [table setAccessibilityLabel:localizedText(layout.title)];
     [table setTarget:controller];
     [table setAction:actions.click];
     [table setDataSource:controller];

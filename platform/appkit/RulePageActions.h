@@ -13,9 +13,6 @@ struct RulePageActions {
     SEL remove;
     SEL reset;
     SEL enableAll;
-    /// The columns that the keyboard acts on; nil: none.
-    NSString *nameColumn;
-    NSString *switchColumn;
 };
 
 [[nodiscard]] RulePageActions actionsOf(RuleCategory category);

@@ -10,32 +10,29 @@ RulePageActions actionsOf(RuleCategory category) {
         return {
             @selector(createNewFileViewClick:), @selector(addCreateNewFileRule:),
                 @selector(removeCreateNewFileRule:), @selector(resetCreateNewFileRule:),
-                @selector(enableAllOfCreateNewFilesClick:), @"NewFileDisplayName", @"Enable"
+                @selector(enableAllOfCreateNewFilesClick:)
         };
     case RuleCategory::copyFilesTo:
         return {
             @selector(copyFilesToViewClick:), @selector(addSendFilesToRule:),
-                @selector(removeCopyFilesToRule:), @selector(resetCopyFilesToRule:), nullptr, @"Note",
-                @"Enable"
+                @selector(removeCopyFilesToRule:), @selector(resetCopyFilesToRule:), nullptr
         };
     case RuleCategory::commonPath:
         return {
             @selector(commonPathViewClick:), @selector(addCommonPathRule:), @selector(removeCommondPathRule:),
-                nullptr, nullptr, @"commonPathDisplayName", nil
+                nullptr, nullptr
         };
     case RuleCategory::customIcon:
         return {
             @selector(customIconViewClick:), @selector(addCustomIconRule:), @selector(removeCustomIconRule:),
-                @selector(resetCustomIconRule:), @selector(enableAllOfCustomIconClick:), @"CustomIconName",
-                @"Enable"
+                @selector(resetCustomIconRule:), @selector(enableAllOfCustomIconClick:)
         };
     case RuleCategory::others:
         break;
     }
     return {
         @selector(othersViewClick:), @selector(addOthersRule:), @selector(removeOthersRule:),
-            @selector(resetOthersRule:), @selector(enableAllOfOthersClick:), @"OthersDisplayName",
-            @"OthersEnable"
+            @selector(resetOthersRule:), @selector(enableAllOfOthersClick:)
     };
 }
 

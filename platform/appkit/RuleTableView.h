@@ -14,7 +14,7 @@
 
 /// Not retained: the button stands beside the table in the same window.
 - (void)setRemoveButton:(NSButton *)button;
-/// The identifiers of the columns that Return and Space act on; nil where there is none.
+/// The identifiers of the columns that Return and Space act on; empty where there is none.
 - (void)setNameColumn:(NSString *)nameColumn switchColumn:(NSString *)switchColumn;
 
 /// Shown in the middle of the table while that has no rows.

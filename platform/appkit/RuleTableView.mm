@@ -57,7 +57,7 @@ NSControl *controlIn(NSView *cell, Class wanted) {
 
 - (NSControl *)selectedControlInColumn:(NSString *)identifier ofClass:(Class)wanted {
     const NSInteger row = [self selectedRow];
-    const NSInteger column = identifier ? [self columnWithIdentifier:identifier] : -1;
+    const NSInteger column = [identifier length] > 0 ? [self columnWithIdentifier:identifier] : -1;
     if (row < 0 || column < 0) {
         return nil;
     }

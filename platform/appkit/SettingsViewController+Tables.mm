@@ -56,7 +56,8 @@ long firstDraggedRow(NSPasteboard *pasteboard) {
 - (NSView *)tableView:(NSTableView *)tableView viewForTableColumn:(NSTableColumn *)column row:(NSInteger)row {
     const auto identifier = tarnwick::toString([column identifier]);
     const auto category = categoryOf(tableView, [self outlets]);
-    return tarnwick::makeCell([self controller]->viewForTableColumn(category, identifier, row), self);
+    return tarnwick::makeCell([self controller]->viewForTableColumn(category, identifier, row),
+        tarnwick::toNSString([self controller]->accessibilityLabel(category, identifier, row)), self);
 }
 
 /// Also after a selection by keyboard, for which a table sends no action.

@@ -2,6 +2,7 @@
 #include "prefs/PreferenceKeys.h"
 #include "tests/support/SettingsFixture.h"
 
+#include <algorithm>
 #include <set>
 
 namespace tarnwick::testing {
@@ -12,6 +13,19 @@ class WindowLayoutTest : public SettingsFixture {};
 TEST_F(WindowLayoutTest, ThePagesStandInTheOrderOfTheTabView) {
     for (std::size_t index = 0; index < pageCount; ++index) {
         EXPECT_EQ(static_cast<std::size_t>(pageLayouts()[index].page), index);
+    }
+}
+
+TEST_F(WindowLayoutTest, EachListHasItsPageWithItsNameAndSwitchAmongTheColumns) {
+    for (const auto category : allRuleCategories) {
+        const auto& page = layoutOf(category);
+        EXPECT_EQ(page.category, category);
+        const auto holds = [&page](std::string_view identifier) {
+            return std::any_of(page.columns.begin(), page.columns.end(),
+                [identifier](const auto& column) { return column.identifier == identifier; });
+        };
+        EXPECT_TRUE(holds(page.nameColumn)) << page.title;
+        EXPECT_EQ(holds(page.switchColumn), category != RuleCategory::commonPath) << page.title;
     }
 }
 

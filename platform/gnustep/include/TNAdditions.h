@@ -23,6 +23,13 @@ typedef NSString *NSKeyValueChangeKey;
 - (NSString *)identifier;
 @end
 
+// Accessibility.mm
+@interface NSView (TNAccessibility)
+/// Kept for whoever asks; no assistive technology does.
+- (void)setAccessibilityLabel:(NSString *)label;
+- (NSString *)accessibilityLabel;
+@end
+
 // ViewControllers.mm
 @interface NSViewController (TNViewDidLoad)
 - (void)viewDidLoad;

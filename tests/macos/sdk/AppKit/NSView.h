@@ -23,6 +23,7 @@ typedef TN_OPTIONS(NSUInteger, NSAutoresizingMaskOptions){
 @property (copy) NSArray<__kindof NSView *> *subviews;
 @property NSRect frame;
 @property (readonly) NSRect bounds;
+@property (readonly) NSRect visibleRect;
 @property NSAutoresizingMaskOptions autoresizingMask;
 @property BOOL needsDisplay;
 @property (getter=isHidden) BOOL hidden;
@@ -31,7 +32,10 @@ typedef TN_OPTIONS(NSUInteger, NSAutoresizingMaskOptions){
 @property (nullable, copy) NSString *toolTip;
 @property (readonly) NSInteger tag;
 @property (nullable, assign) NSView *nextKeyView;
+- (NSRect)convertRect:(NSRect)rect toView:(nullable NSView *)view;
 - (instancetype)initWithFrame:(NSRect)frame;
+- (void)setAccessibilityLabel:(nullable NSString *)label;
+- (nullable NSString *)accessibilityLabel;
 - (void)setFrameSize:(NSSize)size;
 - (void)setFrameOrigin:(NSPoint)origin;
 - (void)addSubview:(NSView *)view;

@@ -21,6 +21,7 @@ enum : NSStringEncoding { NSUTF8StringEncoding = 4 };
                               encoding:(NSStringEncoding)encoding;
 - (nullable NSData *)dataUsingEncoding:(NSStringEncoding)encoding allowLossyConversion:(BOOL)lossy;
 + (instancetype)stringWithCharacters:(const unichar *)characters length:(NSUInteger)length;
++ (instancetype)stringWithFormat:(NSString *)format, ... __attribute__((format(__NSString__, 1, 2)));
 - (BOOL)isEqualToString:(NSString *)other;
 - (NSString *)stringByAppendingString:(NSString *)other;
 - (NSString *)stringByAppendingPathComponent:(NSString *)other;

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+/// What the window's controls say of themselves, and the order in which the Tab key visits them.
+namespace tarnwick::gui {
+
+struct ControlFacts {
+    /// "button", "check box", "field", "text", "image", "table" or "other".
+    std::string kind;
+    /// What assistive technology would read: the control's label, else its own title or text.
+    std::string label;
+
+    bool operator==(const ControlFacts&) const = default;
+};
+
+/// Every control that can be seen, from the sidebar to the end of the page that is shown.
+[[nodiscard]] std::vector<ControlFacts> visibleControls();
+/// The controls that the Tab key visits, beginning with the first page button, until it is back there.
+[[nodiscard]] std::vector<ControlFacts> tabOrder();
+
+} // namespace tarnwick::gui

@@ -1,0 +1,114 @@
+#include "tests/gui/Controls.h"
+
+#include "tests/gui/Driver.h"
+
+#import "platform/appkit/StringConversion.h"
+
+#import <AppKit/AppKit.h>
+
+namespace {
+
+using tarnwick::toString;
+using tarnwick::gui::ControlFacts;
+
+NSWindow *settingsWindow() {
+    for (NSWindow *window in [NSApp windows]) {
+        if ([[window title] isEqualToString:@"Tarnwick"] && [window isVisible]) {
+            return window;
+        }
+    }
+    return nil;
+}
+
+std::string kindOf(NSView *view) {
+    if ([view isKindOfClass:[NSTableView class]]) {
+        return "table";
+    }
+    if ([view isKindOfClass:[NSImageView class]]) {
+        return "image";
+    }
+    if ([view isKindOfClass:[NSTextField class]]) {
+        return [static_cast<NSTextField *>(view) isEditable] ? "field" : "text";
+    }
+    if ([view isKindOfClass:[NSButton class]]) {
+        // A check box keeps its state's picture; a push button has none of another state.
+        return [[static_cast<NSButton *>(view) cell] alternateImage] ? "check box" : "button";
+    }
+    return "other";
+}
+
+ControlFacts controlFacts(NSView *view) {
+    NSString *label = [view accessibilityLabel];
+    if ([label length] == 0 && [view isKindOfClass:[NSButton class]]) {
+        label = [static_cast<NSButton *>(view) title];
+    }
+    if ([label length] == 0 && [view isKindOfClass:[NSTextField class]]) {
+        label = [static_cast<NSTextField *>(view) stringValue];
+    }
+    return {kindOf(view), toString(label)};
+}
+
+bool isControl(NSView *view) {
+    return [view isKindOfClass:[NSControl class]] && ![view isKindOfClass:[NSScroller class]];
+}
+
+void collect(NSView *view, std::vector<ControlFacts> &found) {
+    if ([view isHidden]) {
+        return;
+    }
+    if (isControl(view)) {
+        found.push_back(controlFacts(view));
+    }
+    for (NSView *inner in [view subviews]) {
+        collect(inner, found);
+    }
+}
+
+/// The control that has the keyboard, also while its text is being edited.
+NSView *keyboardView() {
+    NSResponder *responder = [settingsWindow() firstResponder];
+    if ([responder isKindOfClass:[NSText class]] && [static_cast<NSText *>(responder) isFieldEditor]) {
+        responder = (NSResponder *)[static_cast<NSText *>(responder) delegate];
+    }
+    return [responder isKindOfClass:[NSView class]] ? static_cast<NSView *>(responder) : nil;
+}
+
+NSView *firstButton(NSView *view) {
+    if ([view isKindOfClass:[NSButton class]]) {
+        return view;
+    }
+    for (NSView *inner in [view subviews]) {
+        if (NSView *found = firstButton(inner)) {
+            return found;
+        }
+    }
+    return nil;
+}
+
+} // namespace
+
+namespace tarnwick::gui {
+
+std::vector<ControlFacts> visibleControls() {
+    std::vector<ControlFacts> found;
+    collect([settingsWindow() contentView], found);
+    return found;
+}
+
+std::vector<ControlFacts> tabOrder() {
+    NSView *first = firstButton([settingsWindow() contentView]);
+    [settingsWindow() makeFirstResponder:first];
+    std::vector<ControlFacts> order{controlFacts(first)};
+    constexpr std::size_t more = 40;
+    while (order.size() < more) {
+        press(Key::tab);
+        NSView *view = keyboardView();
+        if (view == first) {
+            return order;
+        }
+        order.push_back(controlFacts(view));
+    }
+    return order;
+}
+
+} // namespace tarnwick::gui
