@@ -162,6 +162,20 @@ bool SettingsViewController::acceptDrop(
     return true;
 }
 
+std::vector<std::string> SettingsViewController::droppablePaths(
+    RuleCategory category, const std::vector<DroppedItem>& items) const {
+    if (category == RuleCategory::others) {
+        return {};
+    }
+    return choosablePaths(addRules_.chooser(category), items);
+}
+
+bool SettingsViewController::addDroppedItems(RuleCategory category, const std::vector<DroppedItem>& items) {
+    const auto paths = droppablePaths(category, items);
+    addRules_.addPaths(category, paths);
+    return !paths.empty();
+}
+
 void SettingsViewController::moveSelectedRule(RuleCategory category, MoveDirection direction) {
     reorderRules_.moveSelection(category, direction);
     updateRemoveButton(category);

@@ -2,6 +2,7 @@
 
 #include "editing/AddRules.h"
 #include "editing/ChoosePath.h"
+#include "editing/DropFiles.h"
 #include "editing/EditText.h"
 #include "editing/RemoveRule.h"
 #include "editing/ReorderRules.h"
@@ -78,6 +79,13 @@ public:
     void addCommonPathRule() { addRules_.add(RuleCategory::commonPath); }
     void addCustomIconRule() { addRules_.add(RuleCategory::customIcon); }
     void addOthersRule() { addRules_.add(RuleCategory::others); }
+
+    /// The paths of a drop from the file manager that the category's list takes: what its chooser would let
+    /// be chosen; nothing for the further items.
+    [[nodiscard]] std::vector<std::string> droppablePaths(
+        RuleCategory category, const std::vector<DroppedItem>& items) const;
+    /// Adds them as if chosen, without touching the remembered folder; false when there are none.
+    bool addDroppedItems(RuleCategory category, const std::vector<DroppedItem>& items);
 
     // Removing
     void removeCreateNewFileRule() { removeRule_.remove(RuleCategory::createNewFile); }

@@ -2,6 +2,7 @@
 
 #import "platform/appkit/ChooseFolderButton.h"
 #import "platform/appkit/ControlMaking.h"
+#import "platform/appkit/PageDropView.h"
 #import "platform/appkit/PageFrame.h"
 #import "platform/appkit/PreferenceSwitch.h"
 #import "platform/appkit/RulePageActions.h"
@@ -163,7 +164,10 @@ NSButton *addButtonBar(PageFrame &column, const PageLayout &layout, const RulePa
 NSView *makeRulePage(
     const PageLayout &layout, NSSize size, ::SettingsViewController *controller, SettingsOutlets *outlets) {
     const auto actions = actionsOf(*layout.category);
-    NSView *page = makeEmptyPage(size);
+    PageDropView *page = [[[PageDropView alloc] initWithFrame:NSMakeRect(0, 0, size.width, size.height)
+                                                     category:*layout.category
+                                                   controller:controller] autorelease];
+    [page setAutoresizingMask:NSViewWidthSizable | NSViewHeightSizable];
     PageFrame column(page, size);
     column.addHeading(layout);
     addSwitches(column, layout);
@@ -173,7 +177,9 @@ NSView *makeRulePage(
     const NSRect frame = NSMakeRect(margin, bottom, column.width(), column.top() - bottom);
     RuleTableView *table =
         makeTable(layout, actions, controller, NSMakeRect(0, 0, NSWidth(frame), NSHeight(frame)));
-    column.place(makeScrollView(table, frame), frame, NSViewWidthSizable | NSViewHeightSizable);
+    NSScrollView *scroll = makeScrollView(table, frame);
+    column.place(scroll, frame, NSViewWidthSizable | NSViewHeightSizable);
+    [page setMarkedView:scroll];
     [table sizeToFit];
     [table setEmptyHint:makeEmptyHint(layout, NSWidth(frame) - 2 * margin)];
 

@@ -35,6 +35,8 @@ void clickButton(const std::string& title);
 void dragRowIntoGap(RuleCategory table, long row, long gap);
 /// Drags a row onto the middle of another.
 void dragRowOntoRow(RuleCategory table, long row, long target);
+/// Drags files in from outside and lets them go over the middle of the table.
+void dropFiles(RuleCategory table, const std::vector<std::string>& paths);
 void press(Key key);
 /// With the Command key.
 void pressCommand(char key);

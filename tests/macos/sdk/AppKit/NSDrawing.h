@@ -27,6 +27,7 @@ extern NSString *const NSParagraphStyleAttributeName;
 @interface NSColor : NSObject <NSCopying>
 @property (class, readonly, strong) NSColor *controlTextColor;
 @property (class, readonly, strong) NSColor *disabledControlTextColor;
+@property (class, readonly, strong) NSColor *alternateSelectedControlColor;
 @property (class, readonly, strong) NSColor *textBackgroundColor;
 @property (class, readonly, strong) NSColor *windowBackgroundColor;
 @property (readonly) CGColorRef CGColor;

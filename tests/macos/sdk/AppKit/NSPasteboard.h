@@ -21,6 +21,7 @@ typedef TN_OPTIONS(NSUInteger, NSDragOperation){
 @protocol NSDraggingInfo <NSObject>
 @property (readonly, strong) NSPasteboard *draggingPasteboard;
 @property (nullable, readonly, strong) id draggingSource;
+@property (readonly) NSDragOperation draggingSourceOperationMask;
 @end
 
 @protocol NSDraggingDestination <NSObject>
@@ -29,6 +30,7 @@ typedef TN_OPTIONS(NSUInteger, NSDragOperation){
 - (NSDragOperation)draggingUpdated:(id<NSDraggingInfo>)sender;
 - (void)draggingExited:(nullable id<NSDraggingInfo>)sender;
 - (void)draggingEnded:(id<NSDraggingInfo>)sender;
+- (BOOL)prepareForDragOperation:(id<NSDraggingInfo>)sender;
 - (BOOL)performDragOperation:(id<NSDraggingInfo>)sender;
 - (void)concludeDragOperation:(nullable id<NSDraggingInfo>)sender;
 @end

@@ -10,6 +10,7 @@ extern "C" NSString *const NSWorkspaceDidDeactivateApplicationNotification;
 @interface NSWorkspace : NSObject
 @property (class, readonly, strong) NSWorkspace *sharedWorkspace;
 @property (readonly, strong) NSNotificationCenter *notificationCenter;
+- (BOOL)isFilePackageAtPath:(NSString *)path;
 - (BOOL)openURL:(NSURL *)url;
 - (NSImage *)iconForFile:(NSString *)path;
 - (BOOL)launchApplication:(NSString *)name TN_DEPRECATED(10.0, 10.15);
