@@ -1,4 +1,4 @@
-#include "tests/support/SettingsFixture.h"
+#include "tests/editing/LetterLists.h"
 
 namespace tarnwick::testing {
 namespace {
@@ -6,32 +6,13 @@ namespace {
 constexpr auto up = MoveDirection::up;
 constexpr auto down = MoveDirection::down;
 
-class MoveSelectionTest : public SettingsFixture {
+class MoveSelectionTest : public LetterListTest {
 protected:
-    void storeLetters(RuleCategory category, const std::string& letters) {
-        std::vector<RuleRecord> records;
-        for (const auto letter : letters) {
-            const std::string name(1, letter);
-            records.push_back(makeRecord({{"enable", 1}, {"displayName", name}, {"Action", name}}));
-        }
-        storeList(category, records);
-    }
     void launchWithPaths(const std::string& letters, long selected) {
         storeLetters(RuleCategory::commonPath, letters);
         launch();
         window_.table(RuleCategory::commonPath).selected = selected;
         platform_.log.clear();
-    }
-    [[nodiscard]] std::string names(RuleCategory category, const std::string& column) const {
-        std::string found;
-        for (long row = 0; row < controller_.numberOfRows(category); ++row) {
-            const auto cell = controller_.viewForTableColumn(category, column, row);
-            found += std::get_if<TextFieldCell>(&cell.control)->text;
-        }
-        return found;
-    }
-    [[nodiscard]] std::string paths() const {
-        return names(RuleCategory::commonPath, "commonPathDisplayName");
     }
     [[nodiscard]] long selected(RuleCategory category = RuleCategory::commonPath) {
         return window_.table(category).selected;
@@ -95,19 +76,19 @@ TEST_F(MoveSelectionTest, NothingMovesWithoutASelectionOrPastTheEnds) {
 
 TEST_F(MoveSelectionTest, AFixedItemStaysWhereItIsAndSelected) {
     launch();
-    const auto others = RuleCategory::others;
-    const auto before = names(others, "OthersDisplayName");
-    auto& table = window_.table(others);
-    for (table.selected = 0; controller_.canMoveSelectedRule(others, down); ++table.selected) {
-        const auto cell = controller_.viewForTableColumn(others, "OthersDisplayName", table.selected);
+    constexpr auto category = RuleCategory::others;
+    const auto before = others();
+    auto& table = window_.table(category);
+    for (table.selected = 0; controller_.canMoveSelectedRule(category, down); ++table.selected) {
+        const auto cell = controller_.viewForTableColumn(category, "OthersDisplayName", table.selected);
         if (std::get_if<TextFieldCell>(&cell.control)->text == "Translate by Google") {
             break;
         }
     }
     const auto row = table.selected;
     platform_.log.clear();
-    controller_.moveSelectedRule(others, up);
-    EXPECT_EQ(names(others, "OthersDisplayName"), before);
+    controller_.moveSelectedRule(category, up);
+    EXPECT_EQ(others(), before);
     EXPECT_EQ(table.selected, row);
     EXPECT_TRUE(platform_.log.linesWith("local set").empty());
 }
@@ -115,13 +96,13 @@ TEST_F(MoveSelectionTest, AFixedItemStaysWhereItIsAndSelected) {
 TEST_F(MoveSelectionTest, AnOthersItemAboveTheNumberOfIconsIsDroppedWhereItWas) {
     storeLetters(RuleCategory::customIcon, "123");
     launch();
-    const auto others = RuleCategory::others;
-    const auto before = names(others, "OthersDisplayName");
-    window_.table(others).selected = 2;
-    controller_.moveSelectedRule(others, down);
+    constexpr auto category = RuleCategory::others;
+    const auto before = others();
+    window_.table(category).selected = 2;
+    controller_.moveSelectedRule(category, down);
     // The gap is counted against the custom icons: there it is the last one.
-    EXPECT_EQ(names(others, "OthersDisplayName"), before);
-    EXPECT_EQ(selected(others), 2);
+    EXPECT_EQ(others(), before);
+    EXPECT_EQ(selected(category), 2);
 }
 
 } // namespace

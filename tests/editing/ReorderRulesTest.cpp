@@ -1,31 +1,10 @@
-#include "tests/support/SettingsFixture.h"
+#include "tests/editing/LetterLists.h"
 
 namespace tarnwick::testing {
 namespace {
 
-class ReorderRulesTest : public SettingsFixture {
+class ReorderRulesTest : public LetterListTest {
 protected:
-    /// A list of as many enabled records as the text has letters, each named by its letter.
-    void storeLetters(RuleCategory category, const std::string& letters) {
-        std::vector<RuleRecord> records;
-        for (const auto letter : letters) {
-            const std::string name(1, letter);
-            records.push_back(makeRecord({{"enable", 1}, {"displayName", name}, {"Action", name}}));
-        }
-        storeList(category, records);
-    }
-    /// The letters of the list as the table shows it.
-    [[nodiscard]] std::string letters(RuleCategory category, const std::string& column) const {
-        std::string found;
-        for (long row = 0; row < controller_.numberOfRows(category); ++row) {
-            const auto cell = controller_.viewForTableColumn(category, column, row);
-            found += std::get_if<TextFieldCell>(&cell.control)->text;
-        }
-        return found;
-    }
-    [[nodiscard]] std::string paths() const {
-        return letters(RuleCategory::commonPath, "commonPathDisplayName");
-    }
     bool drop(RuleCategory category, long from, long to) {
         return controller_.acceptDrop(category, category, from, to);
     }
@@ -41,7 +20,6 @@ protected:
         }
         platform_.log.clear();
     }
-    [[nodiscard]] std::string others() const { return letters(RuleCategory::others, "OthersDisplayName"); }
 };
 
 TEST_F(ReorderRulesTest, MovingUpLandsExactlyInTheGap) {
