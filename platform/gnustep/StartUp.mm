@@ -7,6 +7,7 @@
 #import "DefaultsSchedule.h"
 #import "EventPump.h"
 #import "Exceptions.h"
+#import "Languages.h"
 #import "SuiteDefaults.h"
 #import "TNApplication.h"
 
@@ -61,6 +62,7 @@ void TNPrepareProcess(int, char **) {
         [[NSProcessInfo processInfo] setProcessName:processName];
         prepareDefaultsFile();
         registerInitialDefaults();
+        TNUseLanguagesOfUser();
         TNWriteDefaultsPromptly();
         std::atexit(writeDefaultsAtExit);
         [TNApplication sharedApplication];
@@ -68,7 +70,8 @@ void TNPrepareProcess(int, char **) {
         TNInstallExceptionReporting();
         // Before any text is drawn: a failed substitution of a Chinese character is remembered for the whole
         // run.
-        [NSFont setPreferredFontNames:[NSArray arrayWithObject:@"NotoSansCJKsc-Regular"]];
+        NSArray *languages = [[NSUserDefaults standardUserDefaults] stringArrayForKey:@"NSLanguages"];
+        [NSFont setPreferredFontNames:[NSArray arrayWithObject:TNHanFontForLanguages(languages)]];
         TNInstallTheme();
     }
 }
