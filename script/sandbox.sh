@@ -12,5 +12,5 @@ GNUSTEP_USER_DEFAULTS_DIR=$defaultsFolder
 GNUSTEP_USER_DIR_LIBRARY=$libraryFolder
 GNUSTEP_USER_CONFIG_FILE=
 CONF
-    export GNUSTEP_CONFIG_FILE=$sandbox/GNUstep.conf TMP=$sandbox/tmp TEMP=$sandbox/tmp
+    export LANGUAGE=en GNUSTEP_CONFIG_FILE=$sandbox/GNUstep.conf TMP=$sandbox/tmp TEMP=$sandbox/tmp
 }

@@ -12,5 +12,7 @@ void TNUseLanguagesOfUser();
 /// writes them: "zh_TW.UTF-8" gives "zh-Hant", "TraditionalChinese". English is always the last.
 NSArray *TNLanguagesForCodes(NSArray *codes);
 
-/// The font whose forms of Chinese characters the first of these languages uses.
+/// Whether the first of these languages is written in Chinese characters.
+bool TNLanguageUsesHanCharacters(NSArray *languages);
+/// The font, without its weight, whose forms of Chinese characters the first of these languages uses.
 NSString *TNHanFontForLanguages(NSArray *languages);

@@ -103,15 +103,21 @@ NSArray *TNLanguagesForCodes(NSArray *codes) {
     return languages;
 }
 
+bool TNLanguageUsesHanCharacters(NSArray *languages) {
+    NSString *first = [languages count] > 0 ? tableCode([languages objectAtIndex:0]) : @"";
+    return [first isEqualToString:@"ja"] || [first hasPrefix:@"zh"] || [first hasSuffix:@"chinese"] ||
+           [first isEqualToString:@"japanese"];
+}
+
 NSString *TNHanFontForLanguages(NSArray *languages) {
     NSString *first = [languages count] > 0 ? [languages objectAtIndex:0] : @"";
     if ([first isEqualToString:@"ja"] || [first isEqualToString:@"Japanese"]) {
-        return @"NotoSansCJKjp-Regular";
+        return @"NotoSansCJKjp";
     }
     if ([first isEqualToString:@"zh-Hant"] || [first isEqualToString:@"TraditionalChinese"]) {
-        return @"NotoSansCJKtc-Regular";
+        return @"NotoSansCJKtc";
     }
-    return @"NotoSansCJKsc-Regular";
+    return @"NotoSansCJKsc";
 }
 
 void TNUseLanguagesOfUser() {

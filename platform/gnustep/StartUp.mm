@@ -25,8 +25,13 @@ void prepareDefaultsFile() {
 }
 
 void registerInitialDefaults() {
-    NSString *regular = @"Inter-Regular";
-    NSString *bold = @"Inter-Bold";
+    NSArray *languages = [[NSUserDefaults standardUserDefaults] stringArrayForKey:@"NSLanguages"];
+    NSString *han = TNHanFontForLanguages(languages);
+    // Latin letters beside Chinese characters come from their font too: otherwise these would never be bold,
+    // and sit lower than the rest of the line.
+    const bool inHan = TNLanguageUsesHanCharacters(languages);
+    NSString *regular = inHan ? [han stringByAppendingString:@"-Regular"] : @"Inter-Regular";
+    NSString *bold = inHan ? [han stringByAppendingString:@"-Bold"] : @"Inter-Bold";
     NSMutableDictionary *values = [NSMutableDictionary dictionary];
     for (NSString *key in
         [NSArray arrayWithObjects:@"NSFont", @"NSLabelFont", @"NSMessageFont", @"NSMenuFont",
@@ -61,8 +66,8 @@ void TNPrepareProcess(int, char **) {
     @autoreleasepool {
         [[NSProcessInfo processInfo] setProcessName:processName];
         prepareDefaultsFile();
-        registerInitialDefaults();
         TNUseLanguagesOfUser();
+        registerInitialDefaults();
         TNWriteDefaultsPromptly();
         std::atexit(writeDefaultsAtExit);
         [TNApplication sharedApplication];
@@ -71,7 +76,8 @@ void TNPrepareProcess(int, char **) {
         // Before any text is drawn: a failed substitution of a Chinese character is remembered for the whole
         // run.
         NSArray *languages = [[NSUserDefaults standardUserDefaults] stringArrayForKey:@"NSLanguages"];
-        [NSFont setPreferredFontNames:[NSArray arrayWithObject:TNHanFontForLanguages(languages)]];
+        [NSFont setPreferredFontNames:[NSArray arrayWithObject:[TNHanFontForLanguages(languages)
+                                                                   stringByAppendingString:@"-Regular"]]];
         TNInstallTheme();
     }
 }

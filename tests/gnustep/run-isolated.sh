@@ -9,7 +9,7 @@ GNUSTEP_USER_DEFAULTS_DIR=$folder/defaults
 GNUSTEP_USER_DIR_LIBRARY=$folder/library
 GNUSTEP_USER_CONFIG_FILE=
 END
-export GNUSTEP_CONFIG_FILE="$folder/GNUstep.conf" TMP="$folder/tmp" TEMP="$folder/tmp" TMPDIR="$folder/tmp"
+export LANGUAGE=en GNUSTEP_CONFIG_FILE="$folder/GNUstep.conf" TMP="$folder/tmp" TEMP="$folder/tmp" TMPDIR="$folder/tmp"
 export TARNWICK_TEST_FOLDER="$folder" TARNWICK_STRICT_EXCEPTIONS=1 TARNWICK_OPENER=/bin/true
 case " $* " in
 # The list of tests needs no screen.
