@@ -4,7 +4,6 @@
 #import "TNTheme.h"
 
 #import "MethodReplacement.h"
-#import "TNStartUp.h"
 
 #include <algorithm>
 
@@ -287,9 +286,3 @@ NSBezierPath *TNThemeHairline(NSRect rect, CGFloat radius) {
 }
 
 @end
-
-void TNInstallTheme() {
-    TNTheme *theme = [[[TNTheme alloc] initWithBundle:[NSBundle bundleForClass:[GSTheme class]]] autorelease];
-    [GSTheme setTheme:theme];
-    TNThemeInstallImages();
-}

@@ -49,6 +49,7 @@ void installRadioButton(NSString *name, bool on) {
 } // namespace
 
 void TNThemeInstallImage(NSString *name, NSSize size, void (^drawing)(NSRect bounds)) {
+    static NSMutableDictionary *const drawn = [[NSMutableDictionary alloc] init];
     const NSRect bounds = NSMakeRect(0, 0, size.width, size.height);
     NSImage *canvas = [[[NSImage alloc] initWithSize:size] autorelease];
     [canvas lockFocus];
@@ -57,13 +58,21 @@ void TNThemeInstallImage(NSString *name, NSSize size, void (^drawing)(NSRect bou
     // Pixels: only they can be scaled and kept in files.
     NSBitmapImageRep *pixels = [[[NSBitmapImageRep alloc] initWithFocusedViewRect:bounds] autorelease];
     [canvas unlockFocus];
-    // It stays for the whole run.
-    NSImage *image = [[NSImage alloc] initWithSize:size];
+    NSImage *image = [drawn objectForKey:name];
+    if (image) {
+        // Buttons hold it: a change of appearance changes the picture, not the image.
+        [image removeRepresentation:[[image representations] objectAtIndex:0]];
+        [image addRepresentation:pixels];
+        [image recache];
+        return;
+    }
+    image = [[[NSImage alloc] initWithSize:size] autorelease];
     [image addRepresentation:pixels];
     // A name that is taken is refused.
     NSImage *old = [NSImage imageNamed:name];
     [old setName:nil];
     [image setName:name];
+    [drawn setObject:image forKey:name];
 }
 
 void TNThemeInstallImages() {
