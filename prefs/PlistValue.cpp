@@ -1,8 +1,17 @@
 #include "prefs/PlistValue.h"
 
+#include <cmath>
 #include <cstring>
 
 namespace tarnwick {
+namespace {
+
+/// A value that is no number is the same as itself: a value read back must equal the one stored.
+bool isSameNumber(double one, double other) {
+    return one == other || (std::isnan(one) && std::isnan(other));
+}
+
+} // namespace
 
 PlistData::PlistData(std::vector<std::uint8_t> bytes) {
     auto owned = std::make_shared<const std::vector<std::uint8_t>>(std::move(bytes));
@@ -41,6 +50,10 @@ std::shared_ptr<const PlistDictionary> PlistValue::sharedDictionary() const {
     return held ? *held : nullptr;
 }
 
+bool PlistDate::operator==(const PlistDate& other) const {
+    return isSameNumber(secondsSinceReferenceDate, other.secondsSinceReferenceDate);
+}
+
 bool PlistValue::operator==(const PlistValue& other) const {
     if (const auto* mine = dictionary()) {
         const auto* theirs = other.dictionary();
@@ -49,6 +62,10 @@ bool PlistValue::operator==(const PlistValue& other) const {
     if (const auto* mine = array()) {
         const auto* theirs = other.array();
         return theirs && (mine == theirs || *mine == *theirs);
+    }
+    if (const auto* mine = real()) {
+        const auto* theirs = other.real();
+        return theirs && isSameNumber(*mine, *theirs);
     }
     return value_ == other.value_;
 }

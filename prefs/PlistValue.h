@@ -40,7 +40,7 @@ private:
 /// A point in time, in seconds since 2001-01-01 00:00:00 UTC.
 struct PlistDate {
     double secondsSinceReferenceDate = 0;
-    bool operator==(const PlistDate&) const = default;
+    bool operator==(const PlistDate& other) const;
 };
 
 /// A property-list value: dictionary, array, string, integer, real, boolean, date or data.
@@ -84,7 +84,8 @@ public:
     /// The dictionary itself, shared; null when the value is of another kind.
     [[nodiscard]] std::shared_ptr<const PlistDictionary> sharedDictionary() const;
 
-    /// Equal kinds with equal contents: the integer 1, the real 1 and the boolean true are three values.
+    /// Equal kinds with equal contents: the integer 1, the real 1 and the boolean true are three values. A
+    /// real that is no number equals itself.
     bool operator==(const PlistValue& other) const;
 
 private:

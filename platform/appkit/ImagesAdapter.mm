@@ -7,6 +7,8 @@
 #include "platform/Images.h"
 #include "platform/appkit/Adapters.h"
 
+#include <cstring>
+
 namespace tarnwick {
 namespace {
 
@@ -43,11 +45,41 @@ NSImage *madeSafely(const Make &make) {
     }
 }
 
-ImagePointer imageAt(NSString *path) {
-    if (![[NSFileManager defaultManager] isReadableFileAtPath:path]) {
+bool beginsWith(NSData *data, std::string_view signature) {
+    return [data length] >= signature.size() &&
+           std::memcmp([data bytes], signature.data(), signature.size()) == 0;
+}
+
+/// The formats that lists and resources hold.
+bool isKnownFormat(NSData *data) {
+    using namespace std::string_view_literals;
+    for (const auto signature : {"II*\0"sv, "MM\0*"sv, "\x89PNG\r\n\x1a\n"sv}) {
+        if (beginsWith(data, signature)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// Known bitmaps alone: among the readers of images that a system has, some end the program over damaged
+/// ones.
+ImagePointer imageFromBitmap(NSData *data) {
+    if (!isKnownFormat(data)) {
         return nullptr;
     }
-    return adopt(madeSafely([path] { return [[NSImage alloc] initWithContentsOfFile:path]; }));
+    return adopt(madeSafely([data]() -> NSImage * {
+        NSArray *bitmaps = [NSBitmapImageRep imageRepsWithData:data];
+        if ([bitmaps count] == 0) {
+            return nil;
+        }
+        NSImage *image = [[NSImage alloc] initWithSize:[[bitmaps objectAtIndex:0] size]];
+        [image addRepresentations:bitmaps];
+        return image;
+    }));
+}
+
+ImagePointer imageAt(NSString *path) {
+    return imageFromBitmap([NSData dataWithContentsOfFile:path]);
 }
 
 class AppKitImages final : public Images {
@@ -66,12 +98,7 @@ public:
         }
         return imageAt([resources stringByAppendingPathComponent:file]);
     }
-    ImagePointer fromData(const PlistData &data) override {
-        if (data.empty()) {
-            return nullptr;
-        }
-        return adopt(madeSafely([&data] { return [[NSImage alloc] initWithData:toNSData(data)]; }));
-    }
+    ImagePointer fromData(const PlistData &data) override { return imageFromBitmap(toNSData(data)); }
     ImagePointer fromFile(const std::string &path) override { return imageAt(toNSString(path)); }
     ImagePointer iconOfFile(const std::string &path) override {
         return adopt([iconOfFileAtPath(toNSString(path)) retain]);

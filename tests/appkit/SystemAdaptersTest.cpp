@@ -56,6 +56,18 @@ TEST_F(SystemAdaptersTest, WhatIsNoPropertyListHasNoValue) {
         lists->read(file("damaged.plist", "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict><key>")));
 }
 
+TEST_F(SystemAdaptersTest, DamagedPicturesOfAnyFormatGiveNone) {
+    using namespace std::string_view_literals;
+    const auto images = makeImages();
+    for (const auto text :
+        {"P\xff\xff\xff no known format 6\n1 1\n255\nabc"sv, "II*\0\x08\0\0\0\x0a\0 cut off"sv, "MM\0*"sv,
+            "\x89PNG\r\n\x1a\n\0\0\0\x0dIHDR cut off"sv, "GIF89a\1\0\1\0\x80\0\0\0\0\0\x60,\0\1\xfa"sv,
+            "\xff\xd8\xff\xe4\xe4\xe4\xe4 past the end"sv, "II*\0 again"sv}) {
+        EXPECT_EQ(images->fromData(PlistData({text.begin(), text.end()})), nullptr);
+        EXPECT_EQ(images->fromFile(file("damaged.png", std::string(text))), nullptr);
+    }
+}
+
 TEST_F(SystemAdaptersTest, BytesThatAreNoPictureGiveNone) {
     const auto images = makeImages();
     EXPECT_FALSE(images->fromData(PlistData()));

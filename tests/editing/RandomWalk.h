@@ -4,9 +4,8 @@
 #include "tests/support/SettingsFixture.h"
 
 #include <array>
-#include <random>
+#include <functional>
 #include <string>
-#include <tuple>
 #include <vector>
 
 namespace tarnwick::testing {
@@ -15,11 +14,11 @@ namespace tarnwick::testing {
 /// paths, an Others list from before the editors, and a template whose file cannot be made.
 enum class Start { fresh, used };
 
-/// Random edits through the controller, each also done to the model.
-class RandomWalkTest : public SettingsFixture,
-                       public ::testing::WithParamInterface<std::tuple<Start, unsigned>> {
+/// Edits through the controller, each also done to the model. What is edited, and how, is asked of `pick`,
+/// which gives a number from 0 to below its argument.
+class RandomWalk : public SettingsFixture {
 protected:
-    RandomWalkTest();
+    RandomWalk(Start start, std::function<long(long below)> pick);
 
     void step();
     /// The lists on the screen, both stores and the template folder are what the model says.
@@ -42,7 +41,7 @@ private:
     void editNote();
     void choosePath();
 
-    long pick(long below) { return std::uniform_int_distribution<long>(0, below - 1)(random_); }
+    long pick(long below) { return pick_(below); }
     bool flip() { return pick(2) == 1; }
     std::string freshName() { return "N" + std::to_string(++names_); }
     [[nodiscard]] long rows(RuleCategory category) const {
@@ -52,7 +51,7 @@ private:
     long anyRow(RuleCategory category) { return pick(rows(category) + 2) - 1; }
     void noteSaved(RuleCategory category, bool saved);
 
-    std::mt19937 random_;
+    std::function<long(long below)> pick_;
     RuleModel model_;
     /// What was stored before the launch.
     std::vector<PlistValue> originals_;

@@ -35,7 +35,7 @@ std::size_t at(RuleCategory category) {
 
 } // namespace
 
-void RandomWalkTest::step() {
+void RandomWalk::step() {
     const auto category = allRuleCategories[static_cast<std::size_t>(pick(5))];
     switch (pick(10)) {
     case 0:
@@ -59,12 +59,12 @@ void RandomWalkTest::step() {
     }
 }
 
-void RandomWalkTest::noteSaved(RuleCategory category, bool saved) {
+void RandomWalk::noteSaved(RuleCategory category, bool saved) {
     stored_[at(category)] = stored_[at(category)] || saved;
     published_[at(category)] = published_[at(category)] || saved;
 }
 
-void RandomWalkTest::add(RuleCategory category) {
+void RandomWalk::add(RuleCategory category) {
     (controller_.*addActions[at(category)])();
     if (pick(4) == 0) {
         return platform_.openPanel.cancel();
@@ -99,7 +99,7 @@ void RandomWalkTest::add(RuleCategory category) {
     noteSaved(category, model_.addAction(name, tiff));
 }
 
-void RandomWalkTest::remove(RuleCategory category) {
+void RandomWalk::remove(RuleCategory category) {
     auto& table = window_.table(category);
     const auto row = std::min(anyRow(category), rows(category) - 1);
     table.selected = row;
@@ -111,14 +111,14 @@ void RandomWalkTest::remove(RuleCategory category) {
     EXPECT_EQ(table.selected, row > 0 ? row - 1 : newFirst);
 }
 
-void RandomWalkTest::reset(RuleCategory category) {
+void RandomWalk::reset(RuleCategory category) {
     if (const auto action = resetActions[at(category)]) {
         (controller_.*action)();
         noteSaved(category, model_.reset(category));
     }
 }
 
-void RandomWalkTest::toggle(RuleCategory category) {
+void RandomWalk::toggle(RuleCategory category) {
     const auto row = anyRow(category);
     const auto on = flip();
     switch (category) {
@@ -144,7 +144,7 @@ void RandomWalkTest::toggle(RuleCategory category) {
     noteSaved(category, model_.set(category, row, "enable", on));
 }
 
-void RandomWalkTest::enableAll(RuleCategory category) {
+void RandomWalk::enableAll(RuleCategory category) {
     if (const auto action = enableAllActions[at(category)]) {
         const auto on = flip();
         platform_.preferences.userSets(factsOf(category).enableAllKey, on);
@@ -153,14 +153,14 @@ void RandomWalkTest::enableAll(RuleCategory category) {
     }
 }
 
-void RandomWalkTest::drop(RuleCategory category) {
+void RandomWalk::drop(RuleCategory category) {
     const auto from = anyRow(category);
     const auto to = pick(rows(category) + 3) - 1;
     EXPECT_TRUE(controller_.acceptDrop(category, category, from, to));
     noteSaved(category, model_.drop(category, from, to));
 }
 
-void RandomWalkTest::rename(RuleCategory category) {
+void RandomWalk::rename(RuleCategory category) {
     const auto row = anyRow(category);
     const auto text =
         flip() ? freshName() : std::string(awkwardNames[static_cast<std::size_t>(pick(awkwardNames.size()))]);
@@ -168,14 +168,14 @@ void RandomWalkTest::rename(RuleCategory category) {
     noteSaved(category, model_.rename(category, row, nameMarks[at(category)], text));
 }
 
-void RandomWalkTest::editNote() {
+void RandomWalk::editNote() {
     const auto row = anyRow(RuleCategory::others);
     const auto text = freshName();
     EXPECT_TRUE(controller_.controlTextShouldEndEditing("OthersNote", row, text));
     noteSaved(RuleCategory::others, model_.editNote(row, text));
 }
 
-void RandomWalkTest::choosePath() {
+void RandomWalk::choosePath() {
     const auto row = anyRow(RuleCategory::copyFilesTo);
     controller_.selectPath(row);
     if (flip()) {

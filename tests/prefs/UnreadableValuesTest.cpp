@@ -1,6 +1,7 @@
 #include "tests/support/SettingsFixture.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace tarnwick::testing {
 namespace {
@@ -71,6 +72,13 @@ TEST_F(UnreadableValuesTest, AnOriginalIsNeverReplacedByALaterOne) {
 
 TEST_F(UnreadableValuesTest, TheSameOriginalIsKeptOnce) {
     store("arrOfCommonPath", "damaged");
+    controller_.awakeFromNib();
+    controller_.awakeFromNib();
+    EXPECT_FALSE(has("arrOfCommonPath.unreadable.2"));
+}
+
+TEST_F(UnreadableValuesTest, AnOriginalWithARealThatIsNoNumberIsKeptOnce) {
+    store("arrOfCommonPath", PlistArray{std::numeric_limits<double>::quiet_NaN()});
     controller_.awakeFromNib();
     controller_.awakeFromNib();
     EXPECT_FALSE(has("arrOfCommonPath.unreadable.2"));

@@ -16,6 +16,15 @@ TEST(PlistValueTest, IntegerRealAndBooleanAreThreeValues) {
     EXPECT_EQ(PlistValue(1), PlistValue(std::int64_t{1}));
 }
 
+TEST(PlistValueTest, ARealOrDateThatIsNoNumberEqualsItself) {
+    const auto none = std::numeric_limits<double>::quiet_NaN();
+    EXPECT_EQ(PlistValue(none), PlistValue(none));
+    EXPECT_NE(PlistValue(none), PlistValue(1.0));
+    EXPECT_NE(PlistValue(1.0), PlistValue(none));
+    EXPECT_EQ(PlistValue(PlistDate{none}), PlistValue(PlistDate{none}));
+    EXPECT_EQ(PlistValue(0.0), PlistValue(-0.0));
+}
+
 TEST(PlistValueTest, EachKindGivesItsContentsAndNullForTheOthers) {
     EXPECT_EQ(*PlistValue("text").string(), "text");
     EXPECT_EQ(*PlistValue(7).integer(), 7);

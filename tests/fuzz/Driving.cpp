@@ -1,0 +1,69 @@
+#include "tests/fuzz/Driving.h"
+
+#include "ui/WindowLayout.h"
+
+#include <algorithm>
+#include <string>
+
+namespace tarnwick::fuzz {
+namespace {
+
+bool holds(const PlistValue* container, const PlistValue& element) {
+    const auto* array = container ? container->array() : nullptr;
+    return array && std::find(array->begin(), array->end(), element) != array->end();
+}
+
+const PlistValue* valueAt(const PlistDictionary& store, const std::string& key) {
+    const auto found = store.find(key);
+    return found == store.end() ? nullptr : &found->second;
+}
+
+} // namespace
+
+Program::Program(testing::InMemoryPlatform& platform)
+    : platform_(platform), window_(platform.log), controller_(platform.ports()) {
+    controller_.connect(window_.outlets());
+    for (const auto category : allRuleCategories) {
+        window_.table(category).rowCount = [this, category] { return controller_.numberOfRows(category); };
+    }
+    platform_.preferences.observer = [this](std::string_view key, const PlistValue& value) {
+        controller_.observeValue(key, value);
+    };
+}
+
+void Program::launch() {
+    controller_.awakeFromNib();
+    platform_.runLoop.runMain();
+}
+
+void Program::showEverything() {
+    for (const auto& page : pageLayouts()) {
+        const auto rows = page.category ? controller_.numberOfRows(*page.category) : 0;
+        for (const auto& column : page.columns) {
+            for (long row = -1; row <= rows; ++row) {
+                static_cast<void>(controller_.viewForTableColumn(*page.category, column.identifier, row));
+            }
+        }
+    }
+}
+
+bool keepsEverything(const PlistDictionary& local, std::string_view listKey, const PlistValue& stored) {
+    const std::string key(listKey);
+    std::vector<const PlistValue*> places{valueAt(local, key)};
+    const auto firstKept = key + ".unreadable";
+    for (auto found = local.lower_bound(firstKept);
+         found != local.end() && found->first.rfind(firstKept, 0) == 0; ++found) {
+        places.push_back(&found->second);
+    }
+    if (std::any_of(
+            places.begin(), places.end(), [&](const auto* place) { return place && *place == stored; })) {
+        return true;
+    }
+    const auto* elements = stored.array();
+    return elements && std::all_of(elements->begin(), elements->end(), [&](const auto& element) {
+        return std::any_of(
+            places.begin(), places.end(), [&](const auto* place) { return holds(place, element); });
+    });
+}
+
+} // namespace tarnwick::fuzz
