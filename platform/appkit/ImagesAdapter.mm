@@ -6,8 +6,7 @@
 
 #include "platform/Images.h"
 #include "platform/appkit/Adapters.h"
-
-#include <cstring>
+#include "platform/appkit/PictureHeader.h"
 
 namespace tarnwick {
 namespace {
@@ -45,26 +44,10 @@ NSImage *madeSafely(const Make &make) {
     }
 }
 
-bool beginsWith(NSData *data, std::string_view signature) {
-    return [data length] >= signature.size() &&
-           std::memcmp([data bytes], signature.data(), signature.size()) == 0;
-}
-
-/// The formats that lists and resources hold.
-bool isKnownFormat(NSData *data) {
-    using namespace std::string_view_literals;
-    for (const auto signature : {"II*\0"sv, "MM\0*"sv, "\x89PNG\r\n\x1a\n"sv}) {
-        if (beginsWith(data, signature)) {
-            return true;
-        }
-    }
-    return false;
-}
-
-/// Known bitmaps alone: among the readers of images that a system has, some end the program over damaged
+/// Sound bitmaps alone: among the readers of images that a system has, some end the program over damaged
 /// ones.
 ImagePointer imageFromBitmap(NSData *data) {
-    if (!isKnownFormat(data)) {
+    if (!mayBePicture(static_cast<const std::uint8_t *>([data bytes]), [data length])) {
         return nullptr;
     }
     return adopt(madeSafely([data]() -> NSImage * {

@@ -18,6 +18,7 @@ namespace {
 
 /// Longer than any program holds it.
 constexpr time_t lockLifetime = 3;
+constexpr useconds_t pollMicroseconds = 20'000;
 
 NSString *freeDamagedName(NSString *path) {
     for (int number = 1;; ++number) {
@@ -50,8 +51,13 @@ void TNRemoveStaleDefaultsLock() {
     NSString *lock = [TNDefaultsFolder() stringByAppendingPathComponent:@".lck/.GNUstepDefaults.lck"];
     const char *path = [lock fileSystemRepresentation];
     struct stat status;
-    if (stat(path, &status) == 0 && std::time(nullptr) - status.st_mtime > lockLifetime) {
-        rmdir(path);
+    // Whoever holds it lets go, or turns out to be gone.
+    while (stat(path, &status) == 0) {
+        if (std::time(nullptr) - status.st_mtime > lockLifetime) {
+            rmdir(path);
+            return;
+        }
+        usleep(pollMicroseconds);
     }
 }
 

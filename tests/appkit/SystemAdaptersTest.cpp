@@ -68,6 +68,22 @@ TEST_F(SystemAdaptersTest, DamagedPicturesOfAnyFormatGiveNone) {
     }
 }
 
+TEST_F(SystemAdaptersTest, ASmallPictureThatClaimsALotIsNone) {
+    using namespace std::string_view_literals;
+    const auto images = makeImages();
+    const auto header = "II*\0\x08\0\0\0\x03\0"sv;
+    const auto wide = "\0\1\4\0\1\0\0\0\2\0\0\x24"sv;
+    const auto narrow = "\0\1\4\0\1\0\0\0\2\0\0\0"sv;
+    const auto high = "\1\1\4\0\1\0\0\0\2\0\0\0"sv;
+    const auto oneSample = "\x15\1\3\0\1\0\0\0\1\0\0\0"sv;
+    const auto manySamples = "\x15\1\3\0\1\0\0\0\4\x9b\0\0"sv;
+    for (const auto& fields : {std::string(wide).append(high).append(oneSample),
+             std::string(narrow).append(high).append(manySamples)}) {
+        const auto bytes = std::string(header).append(fields).append(64, '\0');
+        EXPECT_EQ(images->fromData(PlistData({bytes.begin(), bytes.end()})), nullptr);
+    }
+}
+
 TEST_F(SystemAdaptersTest, BytesThatAreNoPictureGiveNone) {
     const auto images = makeImages();
     EXPECT_FALSE(images->fromData(PlistData()));

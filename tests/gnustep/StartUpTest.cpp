@@ -65,6 +65,16 @@ TEST(StartUp, DoesNotWaitForTheLockOfAKilledProgram) {
     EXPECT_FALSE(exists(lock));
 }
 
+TEST(StartUp, WaitsShortlyForALockThatIsYoung) {
+    const auto lock = defaultsFolder() + "/.lck/.GNUstepDefaults.lck";
+    ASSERT_EQ(mkdir((defaultsFolder() + "/.lck").c_str(), 0700), 0);
+    ASSERT_EQ(mkdir(lock.c_str(), 0700), 0);
+    const auto begin = std::chrono::steady_clock::now();
+    startUp();
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(10));
+    EXPECT_FALSE(exists(lock));
+}
+
 TEST(StartUp, MakesTheMainQueueRunOnTheMainThread) {
     startUp();
     EXPECT_TRUE(mainQueueRunsOnMainThread());

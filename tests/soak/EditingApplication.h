@@ -1,0 +1,25 @@
+#pragma once
+
+#include "prefs/RuleCategory.h"
+#include "ui/SettingsViewController.h"
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+/// The real application over the real stores, edited from inside.
+namespace tarnwick::soak {
+
+/// Runs the application, and `edit` in its run loop until it says no; does not return.
+int runApplication(int argc, char* argv[], std::function<bool()> edit);
+
+/// While the application runs.
+[[nodiscard]] SettingsViewController& controller();
+void selectRow(RuleCategory category, long row);
+/// Every open panel that is begun from now on is left with OK and this path.
+void answerPanelsWith(const std::string& path);
+/// As a switch of the window writes it.
+void userSets(std::string_view key, bool on);
+[[nodiscard]] std::string userName();
+
+} // namespace tarnwick::soak

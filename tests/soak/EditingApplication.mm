@@ -1,0 +1,102 @@
+// What the plain C++ part needs of the toolkit: the application runs, and its open panels answer by
+// themselves.
+
+#import "tests/soak/EditingApplication.h"
+
+#import "platform/appkit/MainInterface.h"
+#import "platform/appkit/SettingsOutlets.h"
+#import "platform/appkit/SettingsViewController.h"
+#import "platform/appkit/StringConversion.h"
+
+#include "platform/SystemServices.h"
+
+#include <objc/runtime.h>
+
+namespace {
+
+const tarnwick::MainInterface *application = nullptr;
+NSArray *answer = nil;
+
+/// In place of the panel's own loop: OK at once.
+void answerPanel(id, SEL, id block) {
+    auto handler = (GSSavePanelCompletionHandler)block;
+    handler(NSModalResponseOK);
+}
+
+NSArray *chosen(id, SEL) {
+    return answer;
+}
+
+void replaceMethod(SEL selector, IMP implementation) {
+    method_setImplementation(class_getInstanceMethod([NSOpenPanel class], selector), implementation);
+}
+
+} // namespace
+
+@interface SoakRunner : NSObject {
+@private
+    std::function<bool()> *_edit;
+}
+- (id)initWithEdit:(std::function<bool()> *)edit;
+- (void)run:(id)sender;
+@end
+
+@implementation SoakRunner
+
+- (id)initWithEdit:(std::function<bool()> *)edit {
+    self = [super init];
+    if (self) {
+        _edit = edit;
+    }
+    return self;
+}
+
+/// Edit after edit, with the run loop in between: what is deferred happens, too.
+- (void)run:(id)sender {
+    if ((*_edit)()) {
+        [self performSelector:@selector(run:) withObject:nil afterDelay:0];
+    }
+}
+
+@end
+
+namespace tarnwick::soak {
+
+int runApplication(int argc, char *argv[], std::function<bool()> edit) {
+    @autoreleasepool {
+        prepareProcess(argc, argv);
+        [NSApplication sharedApplication];
+        replaceMethod(@selector(beginWithCompletionHandler:), (IMP)answerPanel);
+        replaceMethod(@selector(URLs), (IMP)chosen);
+        const MainInterface interface;
+        application = &interface;
+        SoakRunner *runner = [[[SoakRunner alloc] initWithEdit:&edit] autorelease];
+        [runner performSelector:@selector(run:) withObject:nil afterDelay:0.05];
+        return NSApplicationMain(argc, const_cast<const char **>(argv));
+    }
+}
+
+tarnwick::SettingsViewController &controller() {
+    return *[application->controller() controller];
+}
+
+void selectRow(RuleCategory category, long row) {
+    NSTableView *table = [[application->controller() outlets] tableOf:category];
+    [table selectRowIndexes:[NSIndexSet indexSetWithIndex:static_cast<NSUInteger>(row)]
+        byExtendingSelection:NO];
+}
+
+void answerPanelsWith(const std::string &path) {
+    [answer release];
+    answer = [[NSArray arrayWithObject:[NSURL fileURLWithPath:toNSString(path)]] retain];
+}
+
+void userSets(std::string_view key, bool on) {
+    [[NSUserDefaults standardUserDefaults] setBool:on forKey:toNSString(key)];
+}
+
+std::string userName() {
+    return toString(NSUserName());
+}
+
+} // namespace tarnwick::soak
