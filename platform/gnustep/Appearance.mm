@@ -4,6 +4,7 @@
 
 #import "TNTheme.h"
 
+#import "DefaultsFiles.h"
 #import "TNApplication.h"
 #import "TNStartUp.h"
 
@@ -15,6 +16,19 @@ NSString *const changed = @"AppleInterfaceThemeChangedNotification";
 TNThemeAppearance chosenAppearance() {
     NSString *style = [[NSUserDefaults standardUserDefaults] stringForKey:styleKey];
     return style ? TNThemeAppearance::dark : TNThemeAppearance::light;
+}
+
+/// What another program has written is seen only after this; and even then not that it has removed the last
+/// value of a domain, and with it the file.
+void rereadSettings() {
+    NSUserDefaults *defaults = [NSUserDefaults standardUserDefaults];
+    [defaults synchronize];
+    NSString *file = [[TNDefaultsFolder() stringByAppendingPathComponent:NSGlobalDomain]
+        stringByAppendingPathExtension:@"plist"];
+    if (![[NSFileManager defaultManager] fileExistsAtPath:file] &&
+        [defaults persistentDomainForName:NSGlobalDomain]) {
+        [defaults removePersistentDomainForName:NSGlobalDomain];
+    }
 }
 
 void redisplay(NSView *view) {
@@ -41,8 +55,7 @@ void redisplay(NSView *view) {
 }
 
 - (void)tnAppearanceChanged:(NSNotification *)notification {
-    // What another program has written is seen only then.
-    [[NSUserDefaults standardUserDefaults] synchronize];
+    rereadSettings();
     TNInstallTheme();
     for (NSWindow *window in [self windows]) {
         redisplay([[window contentView] superview]);

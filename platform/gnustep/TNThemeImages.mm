@@ -61,9 +61,11 @@ void TNThemeInstallImage(NSString *name, NSSize size, void (^drawing)(NSRect bou
     NSImage *image = [drawn objectForKey:name];
     if (image) {
         // Buttons hold it: a change of appearance changes the picture, not the image.
-        [image removeRepresentation:[[image representations] objectAtIndex:0]];
-        [image addRepresentation:pixels];
         [image recache];
+        for (NSImageRep *old in [[[image representations] copy] autorelease]) {
+            [image removeRepresentation:old];
+        }
+        [image addRepresentation:pixels];
         return;
     }
     image = [[[NSImage alloc] initWithSize:size] autorelease];

@@ -1,0 +1,44 @@
+#include "tests/gui/Driver.h"
+#include "tests/gui/Look.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+namespace tarnwick::gui {
+namespace {
+
+/// Another program changes the setting, then the session is told.
+void change(const std::string& command) {
+    ASSERT_EQ(std::system(("defaults " + command).c_str()), 0);
+    announceAppearance();
+}
+
+void turnDark() {
+    change("write NSGlobalDomain AppleInterfaceStyle Dark");
+}
+
+void turnLight() {
+    change("delete NSGlobalDomain AppleInterfaceStyle");
+}
+
+/// The average of the components that the page's dark background has.
+constexpr double darkPage = 0.12;
+constexpr double tolerance = 0.005;
+
+TEST(Appearance, TheOpenWindowFollowsTheSystemToDarkAndBack) {
+    ASSERT_TRUE(waitUntil([] { return brightnessOfPage() == 1; }));
+    const double lightCheckBox = brightnessOfEmptyCheckBox();
+    turnDark();
+    EXPECT_TRUE(waitUntil([] { return std::abs(brightnessOfPage() - darkPage) < tolerance; }));
+    EXPECT_TRUE(waitUntil([] { return brightnessOfSidebar() < 0.2; }));
+    EXPECT_TRUE(waitUntil([] { return brightestOfPageTitles() > 0.8; }));
+    EXPECT_LT(brightnessOfEmptyCheckBox(), 0.6 * lightCheckBox);
+    turnLight();
+    EXPECT_TRUE(waitUntil([] { return brightnessOfPage() == 1; }));
+    EXPECT_TRUE(waitUntil([] { return brightnessOfSidebar() > 0.9; }));
+    EXPECT_EQ(brightnessOfEmptyCheckBox(), lightCheckBox);
+}
+
+} // namespace
+} // namespace tarnwick::gui
