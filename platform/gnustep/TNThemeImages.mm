@@ -1,11 +1,40 @@
-// Pictures that GNUstep draws from files in its own look: check boxes, radio buttons and the arrow of the
-// default button. They are drawn here in the theme's colours and take over the names.
+// Pictures that GNUstep draws from files in its own look: check boxes, radio buttons, the marks of menu items
+// and the arrow of the default button. They are drawn here in the theme's colours and take over the names.
+// What the theme never shows is blank: reading GNUstep's own file of one picture takes longer than drawing
+// them all.
 
 #import "TNTheme.h"
+
+#include <cstring>
 
 namespace {
 
 constexpr CGFloat boxSize = 16;
+
+/// The image of that name is of these pixels from now on, for the whole run.
+void showUnderName(NSBitmapImageRep *pixels, NSString *name) {
+    static NSMutableDictionary *const drawn = [[NSMutableDictionary alloc] init];
+    NSImage *image = [drawn objectForKey:name];
+    if (image) {
+        // Buttons hold it: a change of appearance changes the picture, not the image.
+        [image recache];
+        for (NSImageRep *old in [[[image representations] copy] autorelease]) {
+            [image removeRepresentation:old];
+        }
+        [image addRepresentation:pixels];
+        return;
+    }
+    image = [[[NSImage alloc] initWithSize:[pixels size]] autorelease];
+    [image addRepresentation:pixels];
+    // A name that is taken is refused. Asking for the one who has it first would look for its file
+    // everywhere.
+    if (![image setName:name]) {
+        NSImage *holder = [NSImage imageNamed:name];
+        [holder setName:nil];
+        [image setName:name];
+    }
+    [drawn setObject:image forKey:name];
+}
 
 void fillShape(NSBezierPath *path, bool on) {
     const auto *colors = TNThemeCurrentColors();
@@ -46,10 +75,42 @@ void installRadioButton(NSString *name, bool on) {
     });
 }
 
+void installMenuMarks() {
+    constexpr CGFloat size = 10;
+    TNThemeInstallImage(@"GSMenuSelected", NSMakeSize(size, size), ^(NSRect) {
+        NSBezierPath *tick = [NSBezierPath bezierPath];
+        [tick moveToPoint:NSMakePoint(1.5, 5)];
+        [tick lineToPoint:NSMakePoint(4, 2)];
+        [tick lineToPoint:NSMakePoint(8.5, 8.5)];
+        [tick setLineWidth:1.6];
+        [TNThemeCurrentColors()->text set];
+        [tick stroke];
+    });
+    TNThemeInstallImage(@"GSMenuMixed", NSMakeSize(size, size), ^(NSRect) {
+        [TNThemeCurrentColors()->text set];
+        NSRectFill(NSMakeRect(1.5, 4, 7, 1.6));
+    });
+}
+
+/// Nothing but a name.
+void installBlank(NSString *name) {
+    NSBitmapImageRep *pixel = [[[NSBitmapImageRep alloc] initWithBitmapDataPlanes:nullptr
+                                                                       pixelsWide:1
+                                                                       pixelsHigh:1
+                                                                    bitsPerSample:8
+                                                                  samplesPerPixel:4
+                                                                         hasAlpha:YES
+                                                                         isPlanar:NO
+                                                                   colorSpaceName:NSCalibratedRGBColorSpace
+                                                                      bytesPerRow:4
+                                                                     bitsPerPixel:32] autorelease];
+    std::memset([pixel bitmapData], 0, 4);
+    showUnderName(pixel, name);
+}
+
 } // namespace
 
 void TNThemeInstallImage(NSString *name, NSSize size, void (^drawing)(NSRect bounds)) {
-    static NSMutableDictionary *const drawn = [[NSMutableDictionary alloc] init];
     const NSRect bounds = NSMakeRect(0, 0, size.width, size.height);
     NSImage *canvas = [[[NSImage alloc] initWithSize:size] autorelease];
     [canvas lockFocus];
@@ -58,23 +119,7 @@ void TNThemeInstallImage(NSString *name, NSSize size, void (^drawing)(NSRect bou
     // Pixels: only they can be scaled and kept in files.
     NSBitmapImageRep *pixels = [[[NSBitmapImageRep alloc] initWithFocusedViewRect:bounds] autorelease];
     [canvas unlockFocus];
-    NSImage *image = [drawn objectForKey:name];
-    if (image) {
-        // Buttons hold it: a change of appearance changes the picture, not the image.
-        [image recache];
-        for (NSImageRep *old in [[[image representations] copy] autorelease]) {
-            [image removeRepresentation:old];
-        }
-        [image addRepresentation:pixels];
-        return;
-    }
-    image = [[[NSImage alloc] initWithSize:size] autorelease];
-    [image addRepresentation:pixels];
-    // A name that is taken is refused.
-    NSImage *old = [NSImage imageNamed:name];
-    [old setName:nil];
-    [image setName:name];
-    [drawn setObject:image forKey:name];
+    showUnderName(pixels, name);
 }
 
 void TNThemeInstallImages() {
@@ -82,10 +127,13 @@ void TNThemeInstallImages() {
     installCheckBox(@"GSSwitchSelected", true);
     installRadioButton(@"GSRadio", false);
     installRadioButton(@"GSRadioSelected", true);
-    for (NSString *name in [NSArray arrayWithObjects:@"common_ret", @"common_retH", nil]) {
-        TNThemeInstallImage(name, NSMakeSize(1, 1),
-            ^(NSRect){
-            });
+    installMenuMarks();
+    // The arrow of the default button, and the parts of a scroller.
+    for (NSString *name in
+        [NSArray arrayWithObjects:@"common_ret", @"common_retH", @"common_ArrowUp", @"common_ArrowUpH",
+                 @"common_ArrowDown", @"common_ArrowDownH", @"common_ArrowLeft", @"common_ArrowLeftH",
+                 @"common_ArrowRight", @"common_ArrowRightH", @"common_Dimple", @"common_DimpleHoriz", nil]) {
+        installBlank(name);
     }
     TNThemeInstallPanelImages();
 }

@@ -1,0 +1,171 @@
+#import "bench/app/ClickService.h"
+
+#import "platform/gnustep/DefaultsFiles.h"
+
+#include <array>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <poll.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr double pumpSeconds = 0.002;
+constexpr double patienceSeconds = 60;
+// Rounds without an event, of `pumpSeconds` each.
+constexpr int idleRoundsToSettle = 5;
+
+std::function<NSWindow *()> windowToServe;
+std::function<void()> serviceToRun;
+
+using Clock = std::chrono::steady_clock;
+
+/// Which version of each preference file is there. A writer renames a new file into place.
+struct Versions {
+    std::array<ino_t, 2> files{};
+
+    static Versions now() {
+        static NSArray *const names = [[NSArray alloc]
+            initWithObjects:@"org.halvane.Tarnwick.plist", @"H7Q2ZK5RX9.org.halvane.Tarnwick.plist", nil];
+        Versions versions;
+        for (NSUInteger index = 0; index < [names count]; ++index) {
+            NSString *path = [TNDefaultsFolder() stringByAppendingPathComponent:[names objectAtIndex:index]];
+            struct stat status = {};
+            if (stat([path fileSystemRepresentation], &status) == 0) {
+                versions.files[index] = status.st_ino;
+            }
+        }
+        return versions;
+    }
+    [[nodiscard]] bool allDifferFrom(const Versions &other) const {
+        return files[0] != other.files[0] && files[1] != other.files[1];
+    }
+};
+
+/// Handles one event, waiting for it no longer than `seconds`; NO when there was none.
+bool pump(double seconds) {
+    @autoreleasepool {
+        NSEvent *event = [NSApp nextEventMatchingMask:NSEventMaskAny
+                                            untilDate:[NSDate dateWithTimeIntervalSinceNow:seconds]
+                                               inMode:NSDefaultRunLoopMode
+                                              dequeue:YES];
+        if (event) {
+            [NSApp sendEvent:event];
+        }
+        [NSApp updateWindows];
+        return event != nil;
+    }
+}
+
+void postMouse(NSView *view, NSEventType type) {
+    const NSRect bounds = [view bounds];
+    const NSPoint middle = NSMakePoint(NSMidX(bounds), NSMidY(bounds));
+    [NSApp postEvent:[NSEvent mouseEventWithType:type
+                                        location:[view convertPoint:middle toView:nil]
+                                   modifierFlags:0
+                                       timestamp:static_cast<NSTimeInterval>(
+                                                     [[NSProcessInfo processInfo] systemUptime])
+                                    windowNumber:[[view window] windowNumber]
+                                         context:nil
+                                     eventNumber:0
+                                      clickCount:1
+                                        pressure:1]
+             atStart:NO];
+}
+
+void postClick(NSView *view) {
+    postMouse(view, NSEventTypeLeftMouseDown);
+    postMouse(view, NSEventTypeLeftMouseUp);
+}
+
+long microseconds(Clock::duration duration) {
+    return static_cast<long>(std::chrono::duration_cast<std::chrono::microseconds>(duration).count());
+}
+
+void answer(NSView *view) {
+    const auto before = Versions::now();
+    const auto start = Clock::now();
+    postClick(view);
+    while (!Versions::now().allDifferFrom(before)) {
+        pump(pumpSeconds);
+        if (Clock::now() - start > std::chrono::duration<double>(patienceSeconds)) {
+            std::puts("nothing was written");
+            return;
+        }
+    }
+    const auto written = Clock::now();
+    do {
+        pump(0);
+    } while ([[view window] viewsNeedDisplay]);
+    std::printf("%ld %ld\n", microseconds(written - start), microseconds(Clock::now() - start));
+}
+
+bool inputIsWaiting() {
+    pollfd input{STDIN_FILENO, POLLIN, 0};
+    return poll(&input, 1, 0) > 0;
+}
+
+} // namespace
+
+/// Starts the service once the application runs.
+@interface ClickServiceStart : NSObject
+- (void)start:(id)unused;
+@end
+
+@implementation ClickServiceStart
+
+- (void)start:(id)unused {
+    (void)unused;
+    while (![windowToServe() isKeyWindow] || ![NSApp isActive]) {
+        pump(pumpSeconds);
+    }
+    serviceToRun();
+    [[NSUserDefaults standardUserDefaults] synchronize];
+    std::exit(EXIT_SUCCESS);
+}
+
+@end
+
+namespace tarnwick::bench {
+
+void whenRunning(std::function<NSWindow *()> window, std::function<void()> serve) {
+    windowToServe = std::move(window);
+    serviceToRun = std::move(serve);
+    ClickServiceStart *service = [[[ClickServiceStart alloc] init] autorelease];
+    [service performSelector:@selector(start:) withObject:nil afterDelay:0.1];
+}
+
+void settle() {
+    for (int idleRounds = 0; idleRounds < idleRoundsToSettle;) {
+        idleRounds = pump(pumpSeconds) ? 0 : idleRounds + 1;
+    }
+}
+
+void click(NSView *view) {
+    postClick(view);
+    settle();
+}
+
+void serveClicks(const std::function<NSView *()> &view) {
+    settle();
+    std::puts("ready");
+    std::fflush(stdout);
+    std::array<char, 64> line{};
+    for (;;) {
+        while (!inputIsWaiting()) {
+            pump(pumpSeconds);
+        }
+        if (!std::fgets(line.data(), line.size(), stdin)) {
+            return;
+        }
+        @autoreleasepool {
+            settle();
+            answer(view());
+            std::fflush(stdout);
+        }
+    }
+}
+
+} // namespace tarnwick::bench

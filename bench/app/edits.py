@@ -1,0 +1,152 @@
+"""One edit, a copy target switched off or on: the application, its floor, and what a user would script."""
+
+import re
+import shutil
+import statistics
+import subprocess
+import sys
+import time
+
+from sandbox import LIST_KEY, LOCAL, SHARED, ClickedProgram, Sandbox, folder_records
+from table import print_table
+
+PLISTLIB_EDIT = """
+import os, plistlib, sys
+local, shared, key, on = sys.argv[1:]
+def write(path, values):
+    with open(path + ".new", "wb") as file:
+        plistlib.dump(values, file)
+    os.rename(path + ".new", path)
+with open(local, "rb") as file:
+    values = plistlib.load(file)
+values[key][1]["enable"] = int(on)
+write(local, values)
+with open(shared, "rb") as file:
+    published = plistlib.load(file)
+published[key] = [record for record in values[key] if record["enable"]]
+write(shared, published)
+"""
+
+
+def timed(work):
+    start = time.monotonic()
+    work()
+    return (time.monotonic() - start) * 1000
+
+
+class PlistlibScript:
+    """Python's plistlib, a process an edit, over files of its own."""
+
+    name = "plistlib"
+
+    def __init__(self, sandbox):
+        self.sandbox = sandbox
+        self.on = False
+
+    def edit(self):
+        files = [str(self.sandbox.store(domain)) for domain in (LOCAL, SHARED)]
+        arguments = [sys.executable, "-c", PLISTLIB_EDIT, *files, LIST_KEY, str(int(self.on))]
+        elapsed = timed(lambda: subprocess.run(arguments, check=True))
+        assert self.sandbox.read(LOCAL)[LIST_KEY][1]["enable"] == int(self.on)
+        self.on = not self.on
+        return elapsed
+
+
+class DefaultsScript:
+    """The defaults tool: the list is read, one field of the text changed, and both lists written. Numbers become
+    strings on the way, and the text has to fit on a command line."""
+
+    name = "defaults"
+
+    def __init__(self, sandbox):
+        self.sandbox = sandbox
+        self.environment = sandbox.environment()
+        self.on = False
+
+    def run(self, *arguments):
+        return subprocess.run(
+            ["defaults", *arguments], env=self.environment, check=True, capture_output=True, text=True
+        ).stdout
+
+    def edit(self):
+        def work():
+            text = self.run("read", LOCAL, LIST_KEY)
+            records = text[text.index("(") + 1 : text.rindex(")")].split("},")
+            records = [record.strip().rstrip("}") + "}" for record in records]
+            records[1] = re.sub('enable = "?[01]"?;', f"enable = {int(self.on)};", records[1])
+            self.run("write", LOCAL, LIST_KEY, "(" + ",".join(records) + ")")
+            enabled = [record for record in records if "enable = 0;" not in record]
+            self.run("write", SHARED, LIST_KEY, "(" + ",".join(enabled) + ")")
+
+        elapsed = timed(work)
+        assert self.sandbox.read(LOCAL)[LIST_KEY][1]["enable"] == str(int(self.on))
+        self.on = not self.on
+        return elapsed
+
+
+def prepare(application, records, display):
+    """A sandbox with that many copy targets, as the application leaves it after a launch."""
+    sandbox = Sandbox()
+    sandbox.write(LOCAL, {"ShownEnableExtensionAlert": True, LIST_KEY: folder_records(records)})
+    program = ClickedProgram(application, sandbox, display)
+    program.close()
+    return sandbox
+
+
+def copy_of(sandbox):
+    copy = Sandbox()
+    for domain in (LOCAL, SHARED):
+        shutil.copy(sandbox.store(domain), copy.store(domain))
+    return copy
+
+
+def check_same(one, other):
+    for domain in (LOCAL, SHARED):
+        if one.read(domain)[LIST_KEY] != other.read(domain)[LIST_KEY]:
+            raise SystemExit(f"the application and its floor left different lists in {domain}")
+
+
+def measure_list(build, records, rounds, displays):
+    """Medians in milliseconds: of the application and its floor, until written and until drawn; of the scripts."""
+    application = build / "edit_application.app" / "edit_application"
+    for_application = prepare(application, records, displays[0])
+    sandboxes = [for_application, *(copy_of(for_application) for _ in range(3))]
+    programs = [
+        ClickedProgram(application, for_application, displays[0]),
+        ClickedProgram(build / "bench" / "edit_floor", sandboxes[1], displays[1]),
+    ]
+    clicks = [[], []]
+    for turn in range(rounds):
+        for index, program in enumerate(programs):
+            elapsed = program.click()
+            if turn > 1:
+                clicks[index].append(elapsed)
+    for program in programs:
+        program.close()
+    check_same(*sandboxes[:2])
+    scripts = {}
+    for script in (PlistlibScript(sandboxes[2]), DefaultsScript(sandboxes[3])):
+        try:
+            scripts[script.name] = statistics.median(script.edit() for _ in range(max(4, rounds // 10)))
+        except OSError:
+            # The list does not fit on a command line.
+            scripts[script.name] = None
+    for sandbox in sandboxes:
+        sandbox.remove()
+    written = [statistics.median(first for first, _ in of_program) for of_program in clicks]
+    drawn = [statistics.median(second for _, second in of_program) for of_program in clicks]
+    return written, drawn, scripts
+
+
+def measure(build, one, other, quick):
+    rows = []
+    for records, rounds in ((10, 100), (100, 100), (1_000, 40), (10_000, 16)):
+        if quick:
+            rounds = 6 + rounds // 10
+        (application, floor), (drawn, _), scripts = measure_list(build, records, rounds, (one, other))
+        ratios = [f"{value / application:.1f}" if value else "too long" for value in scripts.values()]
+        rows.append([f"{records:,}", f"{application:.2f}", f"{floor:.2f}", f"{application / floor:.2f}",
+                     f"{drawn:.2f}", *ratios])
+    print_table(
+        "An edit, from the click to both files on disk (ms), and what others take for it, as a ratio to the application",
+        ["records", "application", "floor", "ratio", "until drawn", "plistlib", "defaults"], rows)

@@ -1,0 +1,133 @@
+"""A launch, until the lists are published, and the memory it takes, beside an empty window."""
+
+import statistics
+import time
+
+from sandbox import LIST_KEY, LOCAL, SHARED, LaunchedProgram, Sandbox, folder_records
+from table import print_table
+
+# Published last at a launch.
+LAST_KEY = "arrOfOthers"
+SETTLE_SECONDS = 1.0
+
+
+class Application:
+    """The application; it is up once the last list is in the suite's file."""
+
+    def __init__(self, build, settings):
+        self.name = "application"
+        self.program = build / "Tarnwick.app" / "Tarnwick"
+        self.settings = settings
+
+    def prepare(self, sandbox):
+        sandbox.write(LOCAL, self.settings)
+        return {}
+
+    @staticmethod
+    def is_up(sandbox):
+        store = sandbox.store(SHARED)
+        seen = None
+
+        def check():
+            nonlocal seen
+            try:
+                status = store.stat()
+            except FileNotFoundError:
+                return False
+            if (status.st_ino, status.st_mtime_ns) == seen:
+                return False
+            seen = (status.st_ino, status.st_mtime_ns)
+            return f"<key>{LAST_KEY}</key>".encode() in store.read_bytes()
+
+        return check
+
+
+class EmptyWindow:
+    """A window without anything in it, perhaps over the support layer, that copies the files of `copies`."""
+
+    def __init__(self, build, name, copies=()):
+        self.name = name
+        self.program = build / "bench" / name
+        self.copies = copies
+
+    def prepare(self, sandbox):
+        pairs = sandbox.folder / "copies"
+        pairs.write_text("".join(f"{source}\t{sandbox.library / target}\n" for source, target in self.copies))
+        return {"TARNWICK_BENCH_COPIES": str(pairs), "TARNWICK_BENCH_UP": str(sandbox.folder / "up")}
+
+    @staticmethod
+    def is_up(sandbox):
+        return (sandbox.folder / "up").exists
+
+
+def launch(program, display, neighbour=None):
+    """Milliseconds until the program is up, on the clock and on the processor; its megabytes a second later, resident
+    and of its own; and the sandbox it ran in."""
+    sandbox = Sandbox(neighbour)
+    environment = program.prepare(sandbox)
+    launched = LaunchedProgram(program.program, sandbox, display, environment)
+    elapsed = launched.milliseconds_until(program.is_up(sandbox))
+    busy = launched.processor_milliseconds()
+    time.sleep(SETTLE_SECONDS)
+    memory = launched.memory()
+    launched.stop()
+    return (elapsed, busy, *memory), sandbox
+
+
+def first_run_copies(application, sandbox):
+    """What the first launch copied: pairs of a resource and a place in the user's Library folder."""
+    resources = application.program.parent / "Resources"
+    copied = [file for file in sandbox.library.rglob("*") if file.is_file() and (resources / file.name).exists()]
+    pairs = [(resources / file.name, file.relative_to(sandbox.library)) for file in copied]
+    if not pairs:
+        raise SystemExit("a first launch copied nothing")
+    return pairs
+
+
+def take_turns(programs, display, rounds, neighbour):
+    """Medians of what `launch` measures, for each program."""
+    figures = {program.name: [] for program in programs}
+    for turn in range(rounds + 1):
+        for program in programs:
+            measured, sandbox = launch(program, display, neighbour)
+            sandbox.remove()
+            if turn > 0:
+                figures[program.name].append(measured)
+    return {name: [statistics.median(column) for column in zip(*rows)] for name, rows in figures.items()}
+
+
+def rows_beside(title, figures):
+    application = figures.pop("application")
+    rows = []
+    for name, floor in figures.items():
+        clock, processor = (application[index] / floor[index] for index in (0, 1))
+        rows.append([
+            title, name, f"{application[0]:.0f}", f"{floor[0]:.0f}", f"{clock:.2f}", f"{processor:.2f}",
+            f"{application[2]:.1f}", *(f"{application[index] - floor[index]:+.1f}" for index in (2, 3))])
+    return rows
+
+
+def measure(build, display, quick):
+    rounds = 4 if quick else 15
+    first = Application(build, {"ShownEnableExtensionAlert": True})
+    _, neighbour = launch(first, display)
+    copies = first_run_copies(first, neighbour)
+    settings = neighbour.read(LOCAL)
+    # Its notification centre stays up as long as somebody uses it, as in a user's session.
+    holder = LaunchedProgram(build / "bench" / "empty_window", neighbour, display,
+                             {"TARNWICK_BENCH_UP": str(neighbour.folder / "up")})
+    rows = []
+    for title, launch_settings, copied in (
+        ("first", first.settings, copies),
+        ("later", settings, ()),
+        ("1,000 targets", {**settings, LIST_KEY: folder_records(1_000)}, ()),
+    ):
+        floors = [EmptyWindow(build, name, copied) for name in ("empty_window", "empty_window_with_layer")]
+        rows += rows_beside(
+            title, take_turns([Application(build, launch_settings), *floors], display, rounds, neighbour))
+    holder.stop()
+    neighbour.remove()
+    print_table(
+        f"A launch, until the lists are published (ms; a first one copies {len(copies)} files; the ratio on the clock "
+        "and on the processor), and the memory then (MB resident; more than the floor, resident and unshared)",
+        ["launch", "beside", "application", "floor", "ratio", "processor", "memory", "more", "more of its own"], rows)

@@ -1,0 +1,18 @@
+#!/usr/bin/env python3
+"""measure.py FOLDER [--quick]: measures the application of a build folder beside its floor programs, taking turns,
+and prints tables of medians and ratios."""
+
+import pathlib
+import sys
+
+sys.path.insert(0, str(pathlib.Path(__file__).parent))
+import edits
+import launches
+from sandbox import Display
+
+if __name__ == "__main__":
+    build = pathlib.Path(sys.argv[1]).resolve()
+    quick = "--quick" in sys.argv
+    with Display() as one, Display() as other:
+        edits.measure(build, one, other, quick)
+        launches.measure(build, one, quick)
