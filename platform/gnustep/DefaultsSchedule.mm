@@ -6,6 +6,8 @@
 
 #import <AppKit/AppKit.h>
 
+#include <malloc.h>
+
 namespace {
 
 constexpr NSTimeInterval writeDelay = 0.5;
@@ -36,6 +38,8 @@ constexpr NSTimeInterval writeDelay = 0.5;
 - (void)write:(id)unused {
     _isPending = NO;
     [[NSUserDefaults standardUserDefaults] synchronize];
+    // Reading and writing property lists takes many times their size, and the allocator keeps it.
+    malloc_trim(0);
 }
 
 @end
