@@ -1,5 +1,6 @@
 #import "platform/appkit/PageDropView.h"
 
+#import "platform/appkit/RuleTableView.h"
 #import "platform/appkit/SettingsViewController.h"
 #import "platform/appkit/StringConversion.h"
 
@@ -8,8 +9,6 @@
 #include <vector>
 
 namespace {
-
-constexpr CGFloat markWidth = 3;
 
 std::vector<tarnwick::DroppedItem> itemsOn(NSPasteboard *pasteboard) {
     std::vector<tarnwick::DroppedItem> items;
@@ -28,7 +27,41 @@ std::vector<tarnwick::DroppedItem> itemsOn(NSPasteboard *pasteboard) {
     return items;
 }
 
+/// The one to answer with. A rule is made after what was dragged, which itself stays as it is.
+NSDragOperation operationFrom(NSDragOperation offered) {
+    for (const auto operation : {NSDragOperationCopy, NSDragOperationLink, NSDragOperationGeneric}) {
+        if ((offered & operation) != 0) {
+            return operation;
+        }
+    }
+    return NSDragOperationNone;
+}
+
 } // namespace
+
+/// A frame over a view, out of the mouse's way.
+@interface DropMarkView : NSView
+@end
+
+@implementation DropMarkView
+
+- (void)drawRect:(NSRect)rect {
+    constexpr CGFloat lineWidth = 3;
+    constexpr CGFloat radius = 5;
+    NSBezierPath *path =
+        [NSBezierPath bezierPathWithRoundedRect:NSInsetRect([self bounds], lineWidth / 2, lineWidth / 2)
+                                        xRadius:radius
+                                        yRadius:radius];
+    [[NSColor keyboardFocusIndicatorColor] set];
+    [path setLineWidth:lineWidth];
+    [path stroke];
+}
+
+- (NSView *)hitTest:(NSPoint)point {
+    return nil;
+}
+
+@end
 
 @implementation PageDropView
 
@@ -44,51 +77,52 @@ std::vector<tarnwick::DroppedItem> itemsOn(NSPasteboard *pasteboard) {
     return self;
 }
 
-- (void)setMarkedView:(NSView *)view {
-    _marked = view;
-}
-
-- (void)setMarking:(BOOL)marking {
-    _isMarking = marking;
-    [self setNeedsDisplay:YES];
-}
-
-- (void)drawRect:(NSRect)rect {
-    if (_isMarking) {
-        [[NSColor alternateSelectedControlColor] set];
-        NSRectFill(NSInsetRect([_marked frame], -markWidth, -markWidth));
-    }
+- (void)takeDropsFor:(RuleTableView *)table {
+    _table = table;
+    [table setFileDropView:self];
+    NSView *list = [table enclosingScrollView];
+    _mark = [[[DropMarkView alloc] initWithFrame:[list frame]] autorelease];
+    [_mark setAutoresizingMask:[list autoresizingMask]];
+    [_mark setHidden:YES];
+    [self addSubview:_mark];
 }
 
 - (NSDragOperation)draggingEntered:(id<NSDraggingInfo>)info {
     const auto paths =
         [_controller controller]->droppablePaths(_category, itemsOn([info draggingPasteboard]));
-    const NSDragOperation offered = [info draggingSourceOperationMask];
-    if (paths.empty() || !(offered & NSDragOperationCopy)) {
-        return NSDragOperationNone;
-    }
-    [self setMarking:YES];
-    return NSDragOperationCopy;
+    _answer = paths.empty() ? NSDragOperationNone : operationFrom([info draggingSourceOperationMask]);
+    return [self draggingUpdated:info];
 }
 
+/// What is dragged stays the same while the mouse moves.
 - (NSDragOperation)draggingUpdated:(id<NSDraggingInfo>)info {
-    return _isMarking ? NSDragOperationCopy : NSDragOperationNone;
+    [_mark setHidden:_answer == NSDragOperationNone];
+    return _answer;
 }
 
 - (void)draggingExited:(id<NSDraggingInfo>)info {
-    [self setMarking:NO];
+    [_mark setHidden:YES];
+}
+
+- (void)draggingEnded:(id<NSDraggingInfo>)info {
+    [_mark setHidden:YES];
 }
 
 - (BOOL)prepareForDragOperation:(id<NSDraggingInfo>)info {
-    return _isMarking;
+    return _answer != NSDragOperationNone;
 }
 
 - (BOOL)performDragOperation:(id<NSDraggingInfo>)info {
+    [_mark setHidden:YES];
+    if ([[[self window] firstResponder] isKindOfClass:[NSText class]]) {
+        // The name being edited counts as it stands, before its row is built anew.
+        [[self window] makeFirstResponder:_table];
+    }
     return [_controller controller]->addDroppedItems(_category, itemsOn([info draggingPasteboard]));
 }
 
 - (void)concludeDragOperation:(id<NSDraggingInfo>)info {
-    [self setMarking:NO];
+    [_mark setHidden:YES];
 }
 
 @end

@@ -87,7 +87,6 @@ RuleTableView *makeTable(const PageLayout &layout, const RulePageActions &action
     [table setAllowsEmptySelection:YES];
     [table setAllowsColumnReordering:NO];
     [table setGridStyleMask:NSTableViewGridNone];
-    [table setUsesAlternatingRowBackgroundColors:YES];
     [table setColumnAutoresizingStyle:NSTableViewUniformColumnAutoresizingStyle];
     [table setNameColumn:toNSString(layout.nameColumn) switchColumn:toNSString(layout.switchColumn)];
     [table setAccessibilityLabel:localizedText(layout.title)];
@@ -122,6 +121,7 @@ NSScrollView *makeScrollView(NSTableView *table, NSRect frame) {
     [scroll setBorderType:NSBezelBorder];
     [scroll setHasVerticalScroller:YES];
     [scroll setHasHorizontalScroller:NO];
+    [scroll setAutohidesScrollers:YES];
     [scroll setDocumentView:table];
     return scroll;
 }
@@ -177,9 +177,8 @@ NSView *makeRulePage(
     const NSRect frame = NSMakeRect(margin, bottom, column.width(), column.top() - bottom);
     RuleTableView *table =
         makeTable(layout, actions, controller, NSMakeRect(0, 0, NSWidth(frame), NSHeight(frame)));
-    NSScrollView *scroll = makeScrollView(table, frame);
-    column.place(scroll, frame, NSViewWidthSizable | NSViewHeightSizable);
-    [page setMarkedView:scroll];
+    column.place(makeScrollView(table, frame), frame, NSViewWidthSizable | NSViewHeightSizable);
+    [page takeDropsFor:table];
     [table sizeToFit];
     [table setEmptyHint:makeEmptyHint(layout, NSWidth(frame) - 2 * margin)];
 

@@ -3,19 +3,24 @@
 #import <AppKit/AppKit.h>
 
 /// A table of rules with its keyboard: Delete presses the remove button, Return edits the selected row's
-/// name, Space clicks its switch. Each does only what the control itself would do just then.
+/// name, Space clicks its switch. Each does only what the control itself would do just then. Drags of files
+/// are the page's business.
 @interface RuleTableView : NSTableView {
 @private
     NSButton *_removeButton;
     NSString *_nameColumn;
     NSString *_switchColumn;
     NSView *_emptyHint;
+    NSView *_fileDropView;
 }
 
 /// Not retained: the button stands beside the table in the same window.
 - (void)setRemoveButton:(NSButton *)button;
 /// The identifiers of the columns that Return and Space act on; empty where there is none.
 - (void)setNameColumn:(NSString *)nameColumn switchColumn:(NSString *)switchColumn;
+
+/// Takes the drags of files in the table's place. Not retained: the table stands in it.
+- (void)setFileDropView:(NSView *)view;
 
 /// Shown in the middle of the table while that has no rows.
 - (void)setEmptyHint:(NSView *)hint;

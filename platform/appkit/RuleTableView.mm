@@ -47,12 +47,55 @@ NSControl *controlIn(NSView *cell, Class wanted) {
 }
 
 - (void)showOrHideEmptyHint {
-    [_emptyHint setHidden:[self numberOfRows] > 0];
+    const BOOL hasRows = [self numberOfRows] > 0;
+    [_emptyHint setHidden:hasRows];
+    // Stripes behind the hint would only disturb it.
+    [self setUsesAlternatingRowBackgroundColors:hasRows];
 }
 
 - (void)reloadData {
     [super reloadData];
     [self showOrHideEmptyHint];
+}
+
+- (void)setFileDropView:(NSView *)view {
+    _fileDropView = view;
+}
+
+/// A file manager may drag files as text too, the one kind that the table itself is registered for.
+- (NSView *)fileDropViewFor:(id<NSDraggingInfo>)info {
+    return [[[info draggingPasteboard] types] containsObject:NSFilenamesPboardType] ? _fileDropView : nil;
+}
+
+- (NSDragOperation)draggingEntered:(id<NSDraggingInfo>)info {
+    NSView *view = [self fileDropViewFor:info];
+    return view ? [view draggingEntered:info] : [super draggingEntered:info];
+}
+
+- (NSDragOperation)draggingUpdated:(id<NSDraggingInfo>)info {
+    NSView *view = [self fileDropViewFor:info];
+    return view ? [view draggingUpdated:info] : [super draggingUpdated:info];
+}
+
+- (void)draggingExited:(id<NSDraggingInfo>)info {
+    // Without a drag to tell about, both have ended theirs.
+    [_fileDropView draggingExited:info];
+    [super draggingExited:info];
+}
+
+- (BOOL)prepareForDragOperation:(id<NSDraggingInfo>)info {
+    NSView *view = [self fileDropViewFor:info];
+    return view ? [view prepareForDragOperation:info] : [super prepareForDragOperation:info];
+}
+
+- (BOOL)performDragOperation:(id<NSDraggingInfo>)info {
+    NSView *view = [self fileDropViewFor:info];
+    return view ? [view performDragOperation:info] : [super performDragOperation:info];
+}
+
+- (void)concludeDragOperation:(id<NSDraggingInfo>)info {
+    [_fileDropView concludeDragOperation:info];
+    [super concludeDragOperation:info];
 }
 
 - (NSControl *)selectedControlInColumn:(NSString *)identifier ofClass:(Class)wanted {

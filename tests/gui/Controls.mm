@@ -95,6 +95,17 @@ std::vector<ControlFacts> visibleControls() {
     return found;
 }
 
+bool tabTo(const std::string &label) {
+    constexpr int more = 40;
+    for (int presses = 0; presses < more; ++presses) {
+        if (controlFacts(keyboardView()).label == label) {
+            return true;
+        }
+        press(Key::tab);
+    }
+    return false;
+}
+
 std::vector<ControlFacts> tabOrder() {
     NSView *first = firstButton([settingsWindow() contentView]);
     [settingsWindow() makeFirstResponder:first];

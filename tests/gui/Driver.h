@@ -35,8 +35,6 @@ void clickButton(const std::string& title);
 void dragRowIntoGap(RuleCategory table, long row, long gap);
 /// Drags a row onto the middle of another.
 void dragRowOntoRow(RuleCategory table, long row, long target);
-/// Drags files in from outside and lets them go over the middle of the table.
-void dropFiles(RuleCategory table, const std::vector<std::string>& paths);
 void press(Key key);
 /// With the Command key.
 void pressCommand(char key);
@@ -66,6 +64,8 @@ void scrollToRow(RuleCategory table, long row);
 [[nodiscard]] bool showsText(const std::string& text);
 /// Whether a text field of the window is being edited.
 [[nodiscard]] bool isEditing();
+/// Keeps a picture of the screen when the environment's TARNWICK_PICTURES names a folder for it.
+void takePicture(const std::string& name);
 /// What the alert said whose button was pressed last.
 [[nodiscard]] std::string lastAlertText();
 

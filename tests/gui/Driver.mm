@@ -238,18 +238,6 @@ NSTextField *firstLabel(NSView *view) {
 
 @end
 
-/// Where dragged files come from: a program that lets them be copied.
-@interface FileSource : NSObject
-@end
-
-@implementation FileSource
-
-- (NSDragOperation)draggingSourceOperationMaskForLocal:(BOOL)isLocal {
-    return NSDragOperationCopy | NSDragOperationLink | NSDragOperationGeneric;
-}
-
-@end
-
 namespace tarnwick::gui {
 
 int runInApplication(int argc, char *argv[], std::function<int()> tests) {
@@ -340,41 +328,6 @@ void dragRowOntoRow(RuleCategory table, long row, long target) {
     drag(view, row, NSMakePoint(120, NSMidY([view rectOfRow:target])));
 }
 
-void dropFiles(RuleCategory table, const std::vector<std::string> &paths) {
-    NSMutableArray *names = [NSMutableArray array];
-    for (const auto &path : paths) {
-        [names addObject:toNSString(path)];
-    }
-    NSPasteboard *pasteboard = [NSPasteboard pasteboardWithName:NSDragPboard];
-    [pasteboard declareTypes:[NSArray arrayWithObject:NSFilenamesPboardType] owner:nil];
-    [pasteboard setPropertyList:names forType:NSFilenamesPboardType];
-
-    const NSPoint start = NSMakePoint(20, 20);
-    const NSPoint end = middleOf([tableOf(table) enclosingScrollView]);
-    postMouse(NSEventTypeLeftMouseDown, start, 1);
-    NSEvent *down = [NSApp nextEventMatchingMask:NSEventMaskLeftMouseDown
-                                       untilDate:[NSDate distantPast]
-                                          inMode:NSDefaultRunLoopMode
-                                         dequeue:YES];
-    constexpr int steps = 8;
-    for (int step = 1; step <= steps; ++step) {
-        const double part = static_cast<double>(step) / steps;
-        postMouse(NSEventTypeLeftMouseDragged,
-            NSMakePoint(start.x + (end.x - start.x) * part, start.y + (end.y - start.y) * part), 1);
-    }
-    postMouse(NSEventTypeLeftMouseUp, end, 1);
-    // The file manager's part: it runs the drag until the button is let go.
-    NSImage *picture = [[[NSImage alloc] initWithSize:NSMakeSize(16, 16)] autorelease];
-    [window() dragImage:picture
-                     at:start
-                 offset:NSZeroSize
-                  event:down
-             pasteboard:pasteboard
-                 source:[[[FileSource alloc] init] autorelease]
-              slideBack:NO];
-    settle();
-}
-
 void press(Key key) {
     postKey(charactersOf(key), 0);
 }
@@ -452,6 +405,17 @@ bool showsText(const std::string &text) {
 
 bool isEditing() {
     return [[window() firstResponder] isKindOfClass:[NSText class]];
+}
+
+void takePicture(const std::string &name) {
+    if (const char *folder = std::getenv("TARNWICK_PICTURES")) {
+        [window() display];
+        [window() flushWindow];
+        if (std::system(("import -window root '" + std::string(folder) + "/" + name + ".png'").c_str()) !=
+            0) {
+            NSLog(@"No picture of %s", name.c_str());
+        }
+    }
 }
 
 std::string lastAlertText() {

@@ -1,3 +1,4 @@
+#include "tests/gui/Dropping.h"
 #include "tests/gui/Driver.h"
 #include "tests/gui/Foreign.h"
 
@@ -5,64 +6,106 @@
 
 #include <cstdlib>
 #include <fstream>
-#include <sys/stat.h>
 
 namespace tarnwick::gui {
 namespace {
 
-std::string folder(const std::string& name) {
-    const auto path = sandboxFolder() + "/" + name;
-    mkdir(path.c_str(), 0700);
-    return path;
+/// A folder, a text file and a picture outside the application's own folders, made once.
+std::string thing(const std::string& name) {
+    static const std::string home = [] {
+        const auto folder = sandboxFolder() + "/things";
+        EXPECT_EQ(std::system(("mkdir -p '" + folder + "/Zoo' '" + folder + "/Attic'").c_str()), 0);
+        std::ofstream(folder + "/Letter.txt") << "Dear";
+        EXPECT_EQ(std::system(("convert-im6.q16 -size 30x20 xc:red '" + folder + "/Red.png'").c_str()), 0);
+        return folder;
+    }();
+    return home + "/" + name;
 }
 
-std::string file(const std::string& name, const std::string& content) {
-    const auto path = sandboxFolder() + "/" + name;
-    std::ofstream(path) << content;
-    return path;
-}
-
-TEST(Dropping, FoldersBecomeTargetsAndRememberNoFolder) {
+TEST(Dropping, FoldersBecomeTargetsAndNoFolderIsRemembered) {
     clickPageButton(Page::copyFilesTo);
-    dropFiles(RuleCategory::copyFilesTo, {folder("One"), file("a.txt", "a"), folder("Two")});
-    EXPECT_EQ(rowCount(RuleCategory::copyFilesTo), 2);
-    EXPECT_EQ(shared("[r['displayName'] for r in d['arrOfCopyFilesTo']]"), "['One', 'Two']");
+    const auto result = dropFiles({thing("Zoo"), thing("Attic")}, DropSpot::table);
+    EXPECT_TRUE(result.wasHighlighted);
+    EXPECT_FALSE(result.isHighlighted);
+    EXPECT_EQ(shared("[(r['displayName'], r['enable'], r['realPath']) for r in d['arrOfCopyFilesTo']]"),
+        "[('Zoo', 1, '" + thing("Zoo") + "'), ('Attic', 1, '" + thing("Attic") + "')]");
+    EXPECT_EQ(local("d['arrOfCopyFilesTo']"), shared("d['arrOfCopyFilesTo']"));
     EXPECT_EQ(local("'prePathOfSendFilesTo' in d"), "False");
+    EXPECT_EQ(cellText(RuleCategory::copyFilesTo, 1, "Note"), "Attic");
     EXPECT_FALSE(showsText("No folders to copy or move to"));
 }
 
-TEST(Dropping, AFolderBecomesACommonPath) {
+TEST(Dropping, AFolderIsAddedWhereverOnThePageItIsDropped) {
     clickPageButton(Page::commonPath);
-    const auto path = folder("Three");
-    dropFiles(RuleCategory::commonPath, {path});
-    EXPECT_EQ(shared("[r['realPath'] for r in d['arrOfCommonPath']]"), "['" + path + "']");
+    EXPECT_TRUE(dropFiles({thing("Zoo")}, DropSpot::heading).wasHighlighted);
+    EXPECT_TRUE(dropFiles({thing("Attic")}, DropSpot::switches).wasHighlighted);
+    EXPECT_TRUE(dropFiles({thing("Zoo")}, DropSpot::table).wasHighlighted);
+    EXPECT_EQ(shared("[r['displayName'] for r in d['arrOfCommonPath']]"), "['Zoo', 'Attic', 'Zoo']");
+}
+
+TEST(Dropping, AFileIsNoFolderAndAFolderIsNoFile) {
+    clickPageButton(Page::copyFilesTo);
+    for (const auto spot : {DropSpot::table, DropSpot::heading}) {
+        EXPECT_FALSE(dropFiles({thing("Letter.txt")}, spot).wasHighlighted);
+    }
+    EXPECT_EQ(rowCount(RuleCategory::copyFilesTo), 2);
+    clickPageButton(Page::createNewFile);
+    EXPECT_FALSE(dropFiles({thing("Zoo")}, DropSpot::table).wasHighlighted);
+    EXPECT_EQ(rowCount(RuleCategory::createNewFile), 15);
 }
 
 TEST(Dropping, AFileBecomesATemplate) {
     clickPageButton(Page::createNewFile);
-    const auto before = rowCount(RuleCategory::createNewFile);
-    dropFiles(RuleCategory::createNewFile, {file("Letter.note", "Dear")});
-    EXPECT_EQ(rowCount(RuleCategory::createNewFile), before + 1);
-    EXPECT_EQ(shared("[(r['displayName'], r['extension']) for r in d['arrOfCreateNewFile']][-1]"),
-        "('Letter', 'note')");
+    EXPECT_TRUE(dropFiles({thing("Letter.txt")}, DropSpot::table).wasHighlighted);
+    EXPECT_EQ(shared("[d['arrOfCreateNewFile'][-1][k] for k in ('displayName', 'enable', 'extension')]"),
+        "['Letter', '1', 'txt']");
+    EXPECT_NE(containerFolder("Templates/CreateNewFile").find("Letter.txt"), std::string::npos);
+    EXPECT_EQ(rowCount(RuleCategory::createNewFile), 16);
 }
 
-TEST(Dropping, APictureBecomesAnIcon) {
+TEST(Dropping, APictureBecomesACustomIconAndOtherFilesDoNot) {
     clickPageButton(Page::customIcon);
-    const auto before = rowCount(RuleCategory::customIcon);
-    dropFiles(RuleCategory::customIcon, {std::string(std::getenv("TARNWICK_PICTURE")), file("b.txt", "b")});
-    EXPECT_EQ(rowCount(RuleCategory::customIcon), before + 1);
+    EXPECT_FALSE(dropFiles({thing("Letter.txt")}, DropSpot::table).wasHighlighted);
+    EXPECT_TRUE(dropFiles({thing("Letter.txt"), thing("Red.png")}, DropSpot::table).wasHighlighted);
+    EXPECT_EQ(rowCount(RuleCategory::customIcon), 21);
+    EXPECT_EQ(cellText(RuleCategory::customIcon, 20, "CustomIconName"), "Red.png");
+    EXPECT_EQ(cellText(RuleCategory::customIcon, 20, "Size"), "30 x 20");
+    EXPECT_EQ(shared("d['arrOfCustomIcon'][-1]['icon'][:2] in (b'II', b'MM')"), "True");
 }
 
-TEST(Dropping, WhatAListDoesNotTakeChangesNothing) {
-    clickPageButton(Page::commonPath);
-    const auto before = local("d['arrOfCommonPath']");
-    dropFiles(RuleCategory::commonPath, {file("c.txt", "c")});
-    EXPECT_EQ(local("d['arrOfCommonPath']"), before);
+TEST(Dropping, TheOtherItemsTakeNothing) {
     clickPageButton(Page::others);
-    const auto items = rowCount(RuleCategory::others);
-    dropFiles(RuleCategory::others, {std::string(std::getenv("TARNWICK_PICTURE"))});
-    EXPECT_EQ(rowCount(RuleCategory::others), items);
+    const auto before = local("sorted(d)");
+    EXPECT_FALSE(dropFiles({thing("Red.png")}, DropSpot::table).wasHighlighted);
+    EXPECT_FALSE(dropFiles({thing("Zoo")}, DropSpot::heading).wasHighlighted);
+    EXPECT_EQ(rowCount(RuleCategory::others), 18);
+    EXPECT_EQ(local("sorted(d)"), before);
+}
+
+TEST(Dropping, ADragThatLeavesAgainChangesNothing) {
+    clickPageButton(Page::copyFilesTo);
+    for (const auto spot : {DropSpot::table, DropSpot::heading}) {
+        const auto result = dragFilesOverAndAway({thing("Zoo")}, spot);
+        EXPECT_TRUE(result.wasHighlighted);
+        EXPECT_FALSE(result.isHighlighted);
+    }
+    EXPECT_EQ(rowCount(RuleCategory::copyFilesTo), 2);
+}
+
+TEST(Dropping, ANameThatIsBeingEditedIsKept) {
+    clickPageButton(Page::copyFilesTo);
+    clickCell(RuleCategory::copyFilesTo, 0, "Note", 2);
+    ASSERT_TRUE(isEditing());
+    type("Den");
+    dropFiles({thing("Zoo")}, DropSpot::heading);
+    EXPECT_FALSE(isEditing());
+    EXPECT_EQ(shared("[r['displayName'] for r in d['arrOfCopyFilesTo']]"), "['Den', 'Attic', 'Zoo']");
+}
+
+TEST(Dropping, RowsAreStillDraggedWithinTheirTable) {
+    clickPageButton(Page::copyFilesTo);
+    dragRowIntoGap(RuleCategory::copyFilesTo, 2, 0);
+    EXPECT_EQ(shared("[r['displayName'] for r in d['arrOfCopyFilesTo']]"), "['Zoo', 'Den', 'Attic']");
 }
 
 } // namespace

@@ -31,12 +31,26 @@ TEST(Pages, EveryPageButtonShowsItsPage) {
 TEST(Pages, AnEmptyTableSaysHowToAddTheFirstRowUntilThereIsOne) {
     clickPageButton(Page::copyFilesTo);
     EXPECT_TRUE(showsText("No folders to copy or move to"));
+    takePicture("empty-copy-and-move-to");
     clickButton("Reset List");
     EXPECT_GT(rowCount(RuleCategory::copyFilesTo), 0);
     EXPECT_FALSE(showsText("No folders to copy or move to"));
     clickPageButton(Page::commonPath);
     EXPECT_TRUE(showsText("No common folders"));
     clickPageButton(Page::customIcon);
+    EXPECT_FALSE(showsText("No pictures"));
+}
+
+TEST(Pages, AListSaysSoWhenItsLastRuleIsRemoved) {
+    clickPageButton(Page::customIcon);
+    clickCell(RuleCategory::customIcon, 0, "Size");
+    for (long rows = rowCount(RuleCategory::customIcon); rows > 0; --rows) {
+        EXPECT_FALSE(showsText("No pictures"));
+        press(Key::deleteKey);
+    }
+    EXPECT_TRUE(showsText("No pictures"));
+    takePicture("empty-custom-icons");
+    clickButton("Reset List");
     EXPECT_FALSE(showsText("No pictures"));
 }
 

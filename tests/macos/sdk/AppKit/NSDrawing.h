@@ -27,12 +27,18 @@ extern NSString *const NSParagraphStyleAttributeName;
 @interface NSColor : NSObject <NSCopying>
 @property (class, readonly, strong) NSColor *controlTextColor;
 @property (class, readonly, strong) NSColor *disabledControlTextColor;
-@property (class, readonly, strong) NSColor *alternateSelectedControlColor;
+@property (class, readonly, strong) NSColor *keyboardFocusIndicatorColor;
 @property (class, readonly, strong) NSColor *textBackgroundColor;
 @property (class, readonly, strong) NSColor *windowBackgroundColor;
 @property (readonly) CGColorRef CGColor;
 + (NSColor *)colorWithDeviceRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha;
 - (void)set;
+@end
+
+@interface NSBezierPath : NSObject
+@property CGFloat lineWidth;
++ (NSBezierPath *)bezierPathWithRoundedRect:(NSRect)rect xRadius:(CGFloat)xRadius yRadius:(CGFloat)yRadius;
+- (void)stroke;
 @end
 
 @interface NSFont : NSObject <NSCopying>

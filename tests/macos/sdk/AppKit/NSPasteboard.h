@@ -16,7 +16,13 @@ extern "C" NSString *const NSFilenamesPboardType TN_DEPRECATED(10.0, 10.14);
 @end
 
 typedef TN_OPTIONS(NSUInteger, NSDragOperation){
-    NSDragOperationNone = 0, NSDragOperationCopy = 1, NSDragOperationMove = 16};
+
+    NSDragOperationNone = 0,
+    NSDragOperationCopy = 1,
+    NSDragOperationLink = 2,
+    NSDragOperationGeneric = 4,
+    NSDragOperationMove = 16,
+};
 
 @protocol NSDraggingInfo <NSObject>
 @property (readonly, strong) NSPasteboard *draggingPasteboard;

@@ -7,6 +7,7 @@
 #pragma clang assume_nonnull begin
 
 @class CALayer;
+@class NSScrollView;
 
 typedef TN_OPTIONS(NSUInteger, NSAutoresizingMaskOptions){
     NSViewMinXMargin = 1,
@@ -39,6 +40,8 @@ typedef TN_OPTIONS(NSUInteger, NSAutoresizingMaskOptions){
 - (void)setFrameSize:(NSSize)size;
 - (void)setFrameOrigin:(NSPoint)origin;
 - (void)addSubview:(NSView *)view;
+@property (nullable, readonly, strong) NSScrollView *enclosingScrollView;
+- (nullable NSView *)hitTest:(NSPoint)point;
 - (void)drawRect:(NSRect)rect;
 - (void)viewWillMoveToSuperview:(nullable NSView *)superview;
 - (void)viewDidMoveToSuperview;
@@ -78,6 +81,7 @@ typedef TN_ENUM(NSUInteger, NSBorderType){NSBezelBorder = 2};
 @property NSBorderType borderType;
 @property BOOL hasVerticalScroller;
 @property BOOL hasHorizontalScroller;
+@property BOOL autohidesScrollers;
 @property (nullable, strong) NSView *documentView;
 @end
 

@@ -21,6 +21,7 @@ typedef struct {
 @property (readonly) NSUInteger count;
 @property (nullable, readonly) ObjectType firstObject;
 - (ObjectType)objectAtIndex:(NSUInteger)index;
+- (BOOL)containsObject:(ObjectType)object;
 - (NSUInteger)indexOfObjectIdenticalTo:(ObjectType)object;
 + (instancetype)array;
 + (instancetype)arrayWithObject:(ObjectType)object;
