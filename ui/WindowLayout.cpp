@@ -102,7 +102,7 @@ constexpr std::array<PageLayout, pageCount> layouts{{
         "Further actions of the menu, and applications to open files with.", RuleCategory::others,
         othersColumns, "OthersDisplayName", "OthersEnable", othersSwitches, "Enable all items",
         "Add Items\u2026", "No items",
-        "Choose \u201CAdd Items\u2026\u201D and pick an application: the menu then opens files with it."},
+        "Choose \u201CAdd Items\u2026\u201D and pick an item: the menu then shows it again."},
     {Page::moreApps, "page-moreApps", "More Apps", "Other applications by the makers of Tarnwick.",
         std::nullopt, {}, "", "", {}, "", "", "", ""},
 }};
