@@ -30,8 +30,12 @@
     _followUpAction = action;
 }
 
+/// The opposite of what is stored, which is what the switch showed: its own state may have been shown anew
+/// while the press was still being drawn.
 - (void)storeState:(id)sender {
-    [[NSUserDefaults standardUserDefaults] setBool:[self state] == NSControlStateValueOn forKey:_key];
+    NSUserDefaults *defaults = [NSUserDefaults standardUserDefaults];
+    [defaults setBool:![defaults boolForKey:_key] forKey:_key];
+    [self showStoredValue:nil];
     if (_followUpAction) {
         [NSApp sendAction:_followUpAction to:_followUpTarget from:self];
     }
