@@ -13,7 +13,7 @@ namespace tarnwick {
 
 inline constexpr double windowWidth = 940;
 inline constexpr double windowHeight = 620;
-inline constexpr double windowMinimumWidth = 760;
+inline constexpr double windowMinimumWidth = 920;
 inline constexpr double windowMinimumHeight = 500;
 inline constexpr double sidebarWidth = 208;
 

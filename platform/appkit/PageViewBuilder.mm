@@ -35,7 +35,8 @@ void addSwitches(PageFrame &column, const PageLayout &layout) {
         PreferenceSwitch *box = [[[PreferenceSwitch alloc] initWithTitle:localizedText(facts.title)
                                                                      key:toNSString(facts.key)] autorelease];
         [box setToolTip:localizedText(facts.toolTip)];
-        column.place(box, NSMakeRect(margin + (right ? half : 0), column.top(), half - gap, switchHeight),
+        column.place(box,
+            NSMakeRect(margin + (right ? half : 0), column.top(), right ? half : half - gap, switchHeight),
             (right ? NSViewMinXMargin : NSViewMaxXMargin) | NSViewWidthSizable | NSViewMinYMargin);
     }
     column.skip(gap);
@@ -97,17 +98,19 @@ RuleTableView *makeTable(const PageLayout &layout, const RulePageActions &action
     return table;
 }
 
-/// Two centred lines for a table without rows.
+/// A centred title and an explanation below it, for a table without rows.
 NSView *makeEmptyHint(const PageLayout &layout, CGFloat width) {
     constexpr CGFloat titleHeight = 22;
-    constexpr CGFloat hintHeight = 18;
+    // Two lines, which the explanation takes in a narrow window.
+    constexpr CGFloat hintHeight = 36;
     NSView *hint =
         [[[NSView alloc] initWithFrame:NSMakeRect(0, 0, width, titleHeight + hintHeight)] autorelease];
     const auto addLine = [&](std::string_view text, NSFont *font, NSColor *color, CGFloat bottom,
                              CGFloat height) {
-        NSTextField *line = makeLabel(localizedText(text), font, color);
+        NSTextField *line = makeLabel(localizedText(text), font, color, true);
         [line setAlignment:NSTextAlignmentCenter];
         [line setFrame:NSMakeRect(0, bottom, width, height)];
+        [line setAutoresizingMask:NSViewWidthSizable];
         [hint addSubview:line];
     };
     addLine(layout.emptyTitle, [NSFont boldSystemFontOfSize:14], [NSColor controlTextColor], hintHeight,

@@ -41,7 +41,7 @@ NSControl *controlIn(NSView *cell, Class wanted) {
     const NSSize size = [hint frame].size;
     [hint setFrameOrigin:NSMakePoint((NSWidth([self bounds]) - size.width) / 2,
                              (NSHeight([self bounds]) - size.height) / 2)];
-    [hint setAutoresizingMask:NSViewMinXMargin | NSViewMaxXMargin | NSViewMinYMargin | NSViewMaxYMargin];
+    [hint setAutoresizingMask:NSViewWidthSizable | NSViewMinYMargin | NSViewMaxYMargin];
     [self addSubview:hint];
     [self showOrHideEmptyHint];
 }
