@@ -2,6 +2,8 @@
 
 #import <AppKit/AppKit.h>
 
+#include <algorithm>
+
 namespace tarnwick {
 
 struct PageLayout;
@@ -15,6 +17,9 @@ public:
         : page_(page), width_(size.width - 2 * margin), top_(size.height - margin) {}
 
     [[nodiscard]] CGFloat width() const { return width_; }
+    /// How wide the page must at least be, margins included, for what has asked for a width.
+    [[nodiscard]] CGFloat neededWidth() const { return needed_; }
+    void need(CGFloat width) { needed_ = std::max(needed_, width + 2 * margin); }
     /// The lower edge of what has been placed so far.
     [[nodiscard]] CGFloat top() const { return top_; }
     void skip(CGFloat height) { top_ -= height; }
@@ -29,6 +34,7 @@ private:
     NSView *page_;
     CGFloat width_;
     CGFloat top_;
+    CGFloat needed_ = 0;
 };
 
 /// An empty page that fills its tab. Autoreleased.

@@ -14,6 +14,8 @@
 #include "ui/CellView.h"
 #include "ui/WindowLayout.h"
 
+#include <algorithm>
+
 namespace tarnwick {
 namespace {
 
@@ -35,6 +37,7 @@ void addSwitches(PageFrame &column, const PageLayout &layout) {
         PreferenceSwitch *box = [[[PreferenceSwitch alloc] initWithTitle:localizedText(facts.title)
                                                                      key:toNSString(facts.key)] autorelease];
         [box setToolTip:localizedText(facts.toolTip)];
+        column.need(2 * ([[box cell] cellSize].width + gap));
         column.place(box,
             NSMakeRect(margin + (right ? half : 0), column.top(), right ? half : half - gap, switchHeight),
             (right ? NSViewMinXMargin : NSViewMaxXMargin) | NSViewWidthSizable | NSViewMinYMargin);
@@ -158,14 +161,16 @@ NSButton *addButtonBar(PageFrame &column, const PageLayout &layout, const RulePa
         const CGFloat width = NSWidth([reset frame]);
         column.place(reset, NSMakeRect(margin + column.width() - width, margin, width, buttonBarHeight),
             NSViewMinXMargin | NSViewMaxYMargin);
+        left += width;
     }
+    column.need(left - margin);
     return remove;
 }
 
 } // namespace
 
-NSView *makeRulePage(
-    const PageLayout &layout, NSSize size, ::SettingsViewController *controller, SettingsOutlets *outlets) {
+NSView *makeRulePage(const PageLayout &layout, NSSize size, ::SettingsViewController *controller,
+    SettingsOutlets *outlets, CGFloat &neededWidth) {
     const auto actions = actionsOf(*layout.category);
     PageDropView *page = [[[PageDropView alloc] initWithFrame:NSMakeRect(0, 0, size.width, size.height)
                                                      category:*layout.category
@@ -191,6 +196,7 @@ NSView *makeRulePage(
     [remove setEnabled:NO];
     [table setRemoveButton:remove];
     [outlets addTable:table removeButton:remove];
+    neededWidth = std::max(neededWidth, column.neededWidth());
     return page;
 }
 

@@ -10,17 +10,22 @@
 
 #include "ui/WindowLayout.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace tarnwick {
 namespace {
 
-NSTabView *makePages(NSRect frame, ::SettingsViewController *controller, SettingsOutlets *outlets) {
+/// `neededWidth` becomes that of the page whose texts take most room, at least what it was.
+NSTabView *makePages(
+    NSRect frame, ::SettingsViewController *controller, SettingsOutlets *outlets, CGFloat &neededWidth) {
     NSTabView *tabView = [[[NSTabView alloc] initWithFrame:frame] autorelease];
     [tabView setTabViewType:NSNoTabsNoBorder];
     [tabView setAutoresizingMask:NSViewWidthSizable | NSViewHeightSizable];
     for (const auto &layout : pageLayouts()) {
         NSTabViewItem *item =
             [[[NSTabViewItem alloc] initWithIdentifier:toNSString(layout.title)] autorelease];
-        [item setView:layout.category ? makeRulePage(layout, frame.size, controller, outlets)
+        [item setView:layout.category ? makeRulePage(layout, frame.size, controller, outlets, neededWidth)
                                       : makeMoreAppsPage(layout, frame.size, controller)];
         [tabView addTabViewItem:item];
     }
@@ -47,7 +52,6 @@ NSWindow *newSettingsWindow(::SettingsViewController *controller) {
                                         defer:YES];
     [window setReleasedWhenClosed:NO];
     [window setTitle:localizedText("Tarnwick")];
-    [window setContentMinSize:NSMakeSize(windowMinimumWidth, windowMinimumHeight)];
 
     SettingsOutlets *outlets = [[[SettingsOutlets alloc] init] autorelease];
     NSView *content = [[[NSView alloc] initWithFrame:frame] autorelease];
@@ -55,12 +59,17 @@ NSWindow *newSettingsWindow(::SettingsViewController *controller) {
     [content addSubview:makeSidebar(windowHeight, controller, outlets)];
     [content addSubview:makeSeparator(windowHeight)];
     const CGFloat pagesLeft = sidebarWidth + 1;
-    NSTabView *pages =
-        makePages(NSMakeRect(pagesLeft, 0, windowWidth - pagesLeft, windowHeight), controller, outlets);
+    CGFloat pagesWidth = windowMinimumWidth - pagesLeft;
+    NSTabView *pages = makePages(
+        NSMakeRect(pagesLeft, 0, windowWidth - pagesLeft, windowHeight), controller, outlets, pagesWidth);
     [content addSubview:pages];
     [outlets setTabView:pages];
 
     [window setContentView:content];
+    // Some languages need more room than others.
+    const CGFloat minimumWidth = pagesLeft + std::ceil(pagesWidth);
+    [window setContentMinSize:NSMakeSize(minimumWidth, windowMinimumHeight)];
+    [window setContentSize:NSMakeSize(std::max<CGFloat>(windowWidth, minimumWidth), windowHeight)];
     [controller setView:content];
     [controller setOutlets:outlets];
     [window center];
