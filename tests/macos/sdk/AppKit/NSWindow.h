@@ -25,6 +25,7 @@ extern "C" NSString *const NSWindowDidUpdateNotification;
                           styleMask:(NSWindowStyleMask)style
                             backing:(NSBackingStoreType)backing
                               defer:(BOOL)defer;
+- (void)setContentSize:(NSSize)size;
 - (void)center;
 - (BOOL)setFrameAutosaveName:(NSString *)name;
 - (BOOL)makeFirstResponder:(nullable NSResponder *)responder;
