@@ -37,7 +37,8 @@ void addSwitches(PageFrame &column, const PageLayout &layout) {
         PreferenceSwitch *box = [[[PreferenceSwitch alloc] initWithTitle:localizedText(facts.title)
                                                                      key:toNSString(facts.key)] autorelease];
         [box setToolTip:localizedText(facts.toolTip)];
-        column.need(2 * ([[box cell] cellSize].width + gap));
+        [box sizeToFit];
+        column.need(2 * (NSWidth([box frame]) + (right ? 0 : gap)));
         column.place(box,
             NSMakeRect(margin + (right ? half : 0), column.top(), right ? half : half - gap, switchHeight),
             (right ? NSViewMinXMargin : NSViewMaxXMargin) | NSViewWidthSizable | NSViewMinYMargin);
