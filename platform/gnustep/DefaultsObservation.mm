@@ -20,7 +20,8 @@ bool changes(id defaults, id value, NSString *key) {
     return before != value && ![before isEqual:value];
 }
 
-void setObject(id self, SEL command, id value, NSString *key) {
+void setObject(id self, SEL command, id given, NSString *key) {
+    id value = TNStorable(given);
     if (!changes(self, value, key)) {
         if (!TNIsSamePropertyList([self objectForKey:key], value)) {
             nativeRemoveObject(self, @selector(removeObjectForKey:), key);

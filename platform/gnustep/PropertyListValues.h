@@ -13,3 +13,7 @@ bool TNIsSamePropertyList(id one, id other);
 
 /// The dictionary in a file; nil when there is no file, or when it holds something else or cannot be read.
 NSDictionary *TNDictionaryInFile(NSString *path);
+
+/// The value itself; or a copy in which each character of a text that XML cannot hold (most control
+/// characters, and the two that are none) is U+FFFD.
+id TNStorable(id value);

@@ -3,9 +3,14 @@
 
 #import "PropertyListValues.h"
 
+#include "NestingDepth.h"
+
 #import <Foundation/Foundation.h>
 
 namespace {
+
+/// Far deeper than any settings are, and far from the end of the stack.
+constexpr std::size_t deepestNesting = 200;
 
 enum class Kind { boolean, integer, real, string, data, date, array, dictionary, none };
 
@@ -84,7 +89,80 @@ bool isSameDictionary(NSDictionary *one, NSDictionary *other) {
     return true;
 }
 
+/// What XML, in which settings files are written, cannot hold: a file with one of these could not be read
+/// again.
+NSCharacterSet *unstorableCharacters() {
+    static NSCharacterSet *characters = nil;
+    if (!characters) {
+        NSMutableCharacterSet *set = [[NSMutableCharacterSet alloc] init];
+        [set addCharactersInRange:NSMakeRange(0, ' ')];
+        [set removeCharactersInString:@"\t\n\r"];
+        [set addCharactersInRange:NSMakeRange(0xFFFE, 2)];
+        characters = set;
+    }
+    return characters;
+}
+
+bool isStorable(id value) {
+    switch (kindOf(value)) {
+    case Kind::string:
+        return [value rangeOfCharacterFromSet:unstorableCharacters()].location == NSNotFound;
+    case Kind::array:
+        for (id element in value) {
+            if (!isStorable(element)) {
+                return false;
+            }
+        }
+        return true;
+    case Kind::dictionary:
+        for (id key in value) {
+            if (!isStorable(key) || !isStorable([value objectForKey:key])) {
+                return false;
+            }
+        }
+        return true;
+    default:
+        return true;
+    }
+}
+
+NSString *storableText(NSString *text) {
+    NSMutableString *result = [[text mutableCopy] autorelease];
+    NSRange found;
+    while ((found = [result rangeOfCharacterFromSet:unstorableCharacters()]).location != NSNotFound) {
+        [result replaceCharactersInRange:found withString:@"\uFFFD"];
+    }
+    return result;
+}
+
+id storableCopy(id value) {
+    switch (kindOf(value)) {
+    case Kind::string:
+        return storableText(value);
+    case Kind::array: {
+        NSMutableArray *copy = [NSMutableArray array];
+        for (id element in value) {
+            [copy addObject:storableCopy(element)];
+        }
+        return copy;
+    }
+    case Kind::dictionary: {
+        NSMutableDictionary *copy = [NSMutableDictionary dictionary];
+        for (id key in value) {
+            [copy setObject:storableCopy([value objectForKey:key]) forKey:storableCopy(key)];
+        }
+        return copy;
+    }
+    default:
+        return value;
+    }
+}
+
 } // namespace
+
+id TNStorable(id value) {
+    return isStorable(value) ? value : storableCopy(value);
+}
 
 id TNFrozenCopy(id value) {
     switch (kindOf(value)) {
@@ -119,7 +197,8 @@ bool TNIsSamePropertyList(id one, id other) {
 
 NSDictionary *TNDictionaryInFile(NSString *path) {
     NSData *content = [NSData dataWithContentsOfFile:path];
-    if ([content length] == 0) {
+    if ([content length] == 0 || !tarnwick::nestsAtMost(deepestNesting,
+                                     static_cast<const std::uint8_t *>([content bytes]), [content length])) {
         return nil;
     }
     id propertyList = nil;

@@ -13,6 +13,7 @@
     long _modifiedSeconds;
     long _modifiedNanoseconds;
     BOOL _wasRead;
+    BOOL _isUnwritable;
 }
 
 - (instancetype)initWithPath:(NSString *)path;
@@ -21,9 +22,9 @@
 /// content. A file that cannot be read is moved aside first.
 - (NSDictionary *)changedContent;
 
-/// Merges `changes` into the file's content, NSNull for a removed key, and gives the result; nil, after a log
-/// line, when it cannot be written: the file is the old one then. Writes nothing when the content stays the
-/// same.
+/// Merges `changes` into the file's content, NSNull for a removed key, and gives the result; nil when it
+/// cannot be written: the file is the old one then. The first failure after a success writes a log line.
+/// Writes nothing when the content stays the same.
 - (NSDictionary *)contentByMerging:(NSDictionary *)changes;
 
 @end

@@ -173,9 +173,13 @@ void makeFolder(NSString *path) {
     }
     NSData *file = serialised(merged);
     if (!file || !replaceFile(_path, file)) {
-        NSLog(@"Settings file %@ cannot be written: %s", _path, std::strerror(errno));
+        if (!_isUnwritable) {
+            NSLog(@"Settings file %@ cannot be written: %s", _path, std::strerror(errno));
+        }
+        _isUnwritable = YES;
         return nil;
     }
+    _isUnwritable = NO;
     [self noteVersion];
     [self keepContent:merged];
     return _content;

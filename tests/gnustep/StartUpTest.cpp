@@ -43,6 +43,24 @@ TEST(StartUp, MovesADamagedSettingsFileAside) {
     EXPECT_EQ(standardString("cut"), "(none)");
 }
 
+TEST(StartUp, MovesAFileAsideWhoseContainersNestTooDeep) {
+    std::string text = "{ k = ";
+    text.append(100'000, '(').append(100'000, ')').append("; }");
+    std::string xml = "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict><key>k</key>";
+    for (const auto* tag : {"<array>", "</array>"}) {
+        for (int level = 0; level < 100'000; ++level) {
+            xml += tag;
+        }
+    }
+    xml += "</dict></plist>";
+    writeContent(standardFile(), text);
+    startUp();
+    EXPECT_EQ(contentOf(standardFile() + ".damaged-1"), text);
+    writeContent(standardFile(), xml);
+    startUp();
+    EXPECT_EQ(contentOf(standardFile() + ".damaged-2"), xml);
+}
+
 TEST(StartUp, LeavesAReadableSettingsFileInPlace) {
     writeContent(standardFile(), "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict>"
                                  "<key>key</key><string>value</string></dict></plist>");

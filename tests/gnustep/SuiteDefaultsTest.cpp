@@ -43,6 +43,14 @@ TEST(SuiteDefaults, KeepsTheKindOfEveryValueForOtherReaders) {
                       "string str '\u8868\u683c & <x>'\n");
 }
 
+TEST(SuiteDefaults, WritesAFileThatOthersCanReadWhateverTheTextsHold) {
+    setSuiteString(suite, "key", "a\x1b z");
+    ASSERT_TRUE(synchronizeSuite(suite));
+    const std::string script = "import plistlib,sys\n"
+                               "print(ascii(plistlib.load(open(sys.argv[1], \"rb\"))[\"key\"]))\n";
+    EXPECT_EQ(outputOf("python3 -c '" + script + "' " + suiteFile()), "'a\\ufffd z'\n");
+}
+
 TEST(SuiteDefaults, ChangesMemoryOnlyUntilItIsSynchronized) {
     setSuiteString(suite, "key", "value");
     EXPECT_EQ(suiteString(suite, "key"), "value");

@@ -14,10 +14,9 @@ import signal
 import subprocess
 import sys
 import time
-import zlib
 
-LISTS = ["arrOfCreateNewFile", "arrOfCopyFilesTo", "arrOfCommonPath", "arrOfCustomIcon", "arrOfOthers"]
-LOCAL, SHARED = "org.halvane.Tarnwick.plist", "H7Q2ZK5RX9.org.halvane.Tarnwick.plist"
+from stores import LISTS, LOCAL, SHARED, checksum
+
 START_SECONDS = 60
 
 
@@ -25,33 +24,12 @@ class Wrong(Exception):
     pass
 
 
-def canonical(value):
-    if isinstance(value, bool):
-        return f"b{int(value)}"
-    if isinstance(value, int):
-        return f"i{value}"
-    if isinstance(value, bytes):
-        return f"d{len(value)}:{zlib.crc32(value)}"
-    return f"s{value}" if isinstance(value, str) else "?"
-
-
-def is_on(record):
-    return record.get("enable") in (1, True, "1")
-
-
-def checksum(records, enabled_only=False):
-    text = "".join(
-        "".join(f"{key}={canonical(record[key])}\n" for key in sorted(record)) + "\n"
-        for record in records if not enabled_only or is_on(record))
-    return str(zlib.crc32(text.encode()))
-
-
 class Soak:
     def __init__(self, editor, sandbox, seed):
         self.editor, self.sandbox, self.random = editor, pathlib.Path(sandbox), random.Random(seed)
         self.seed = seed
         self.defaults = self.sandbox / "defaults"
-        self.templates = self.sandbox / "library/Group Containers" / SHARED[:-6] / "Templates/CreateNewFile"
+        self.templates = self.sandbox / "library/Group Containers" / SHARED / "Templates/CreateNewFile"
         self.journal = self.sandbox / "journal"
         self.counts = collections.Counter()
         self.local, self.shared = {}, {}
@@ -59,17 +37,17 @@ class Soak:
 
     def store(self, name):
         try:
-            return plistlib.loads((self.defaults / name).read_bytes())
+            return plistlib.loads((self.defaults / f"{name}.plist").read_bytes())
         except Exception as error:
             raise Wrong(f"{name} does not parse: {error!r}")
 
-    def start(self):
+    def start(self, **settings):
         """Starts the application; its journal begins anew."""
         self.journal.write_text("")
         self.seed += 1
         log = open(self.sandbox / "output", "wb")
         return subprocess.Popen([self.editor], stdout=log, stderr=log, start_new_session=True,
-                                env={**os.environ, "TARNWICK_SOAK_SEED": str(self.seed)})
+                                env={**os.environ, "TARNWICK_SOAK_SEED": str(self.seed), **settings})
 
     def lines(self):
         text = self.journal.read_text()
@@ -177,14 +155,12 @@ class Soak:
         self.stop_idle(process)
         local = self.store(LOCAL)
         self.factory = local["arrOfCreateNewFile"]
-        (self.sandbox / "factory.plist").write_bytes((self.defaults / LOCAL).read_bytes())
+        (self.sandbox / "factory.plist").write_bytes((self.defaults / f"{LOCAL}.plist").read_bytes())
         self.remember(local, self.store(SHARED))
 
     def start_idle(self):
         """A start without edits, until everything of it is stored."""
-        os.environ["TARNWICK_SOAK_IDLE"] = "1"
-        process = self.start()
-        del os.environ["TARNWICK_SOAK_IDLE"]
+        process = self.start(TARNWICK_SOAK_EDITS="0")
         self.wait_ready(process)
         # What the launch stores without synchronising is on disk half a second later.
         time.sleep(1)

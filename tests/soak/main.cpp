@@ -26,7 +26,9 @@ RuleModel::Records recordsIn(const std::optional<PlistValue>& stored) {
     RuleModel::Records records;
     if (const auto* elements = stored ? stored->array() : nullptr) {
         for (const auto& element : *elements) {
-            records.push_back(*element.dictionary());
+            if (const auto* fields = element.dictionary()) {
+                records.push_back(*fields);
+            }
         }
     }
     return records;
@@ -46,26 +48,49 @@ std::set<std::string> namesIn(const std::string& folder) {
     return names;
 }
 
+std::string setting(const char* name, const char* otherwise) {
+    const auto* value = std::getenv(name);
+    return value ? value : otherwise;
+}
+
 /// One random edit after another.
 class Editor {
 public:
     Editor(std::string sandbox, unsigned seed) : sandbox_(std::move(sandbox)), random_(seed) {
-        journal_ = open((sandbox_ + "/journal").c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0600);
+        journal_ = open((sandbox_ + "/" + setting("TARNWICK_SOAK_JOURNAL", "journal")).c_str(),
+            O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0600);
     }
 
     bool edit() {
         if (!ready_) {
             readState();
+            useGivenName();
             write("ready");
             ready_ = true;
         }
-        if (!idle_) {
-            editOneOf(allRuleCategories[pick(5)]);
+        if (count_ == most_) {
+            return false;
         }
-        return !idle_;
+        editOneOf(lists_.empty()
+                      ? allRuleCategories[pick(5)]
+                      : allRuleCategories[static_cast<std::size_t>(lists_[pick(lists_.size())] - '0')]);
+        return true;
     }
 
 private:
+    /// With a file "name" beside the stores, that is what the first row of every list is called.
+    void useGivenName() {
+        std::ifstream file(sandbox_ + "/name", std::ios::binary);
+        if (!file) {
+            return;
+        }
+        const std::string name{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+        for (const auto* field : {"NewFileDisplayName", "Note", "commonPathDisplayName", "CustomIconName",
+                 "OthersDisplayName", "OthersNote"}) {
+            soak::controller().controlTextShouldEndEditing(field, 0, name);
+        }
+    }
+
     void editOneOf(RuleCategory category) {
         ++count_;
         switch (pick(7)) {
@@ -286,17 +311,16 @@ private:
     int journal_ = -1;
     bool canReset_ = false;
     bool ready_ = false;
-    /// Only starts.
-    bool idle_ = std::getenv("TARNWICK_SOAK_IDLE") != nullptr;
+    /// How many edits are tried (-1: no end), and in which lists (their numbers; empty: all).
+    long most_ = std::atol(setting("TARNWICK_SOAK_EDITS", "-1").c_str());
+    std::string lists_ = setting("TARNWICK_SOAK_LISTS", "");
     long count_ = 0;
 };
 
 } // namespace
 
 int main(int argc, char* argv[]) {
-    const auto* sandbox = std::getenv("TARNWICK_SANDBOX");
-    const auto* seed = std::getenv("TARNWICK_SOAK_SEED");
-    const auto editor =
-        std::make_shared<Editor>(sandbox ? sandbox : "", seed ? static_cast<unsigned>(std::atoi(seed)) : 1U);
+    const auto editor = std::make_shared<Editor>(setting("TARNWICK_SANDBOX", ""),
+        static_cast<unsigned>(std::atoi(setting("TARNWICK_SOAK_SEED", "1").c_str())));
     return tarnwick::soak::runApplication(argc, argv, [editor] { return editor->edit(); });
 }
