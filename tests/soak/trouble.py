@@ -309,7 +309,7 @@ def big_stores():
 def two_instances():
     box = prepared()
     with box.running(edits=60, lists="2", journal="one"), box.running(edits=60, lists="1", journal="two", seed=7):
-        settle()
+        wait(lambda: min(len(box.edits("one")), len(box.edits("two"))) > 10, 60, "an instance does not go on")
         time.sleep(3)
     after, shared = box.read(), box.read(SHARED)
     one, two = len(box.edits("one")), len(box.edits("two"))
