@@ -35,7 +35,7 @@ bool writeEveryKind(const std::string &name) {
         [suite setBool:YES forKey:@"boolean"];
         [suite setInteger:1 forKey:@"integer"];
         [suite setDouble:2.5 forKey:@"real"];
-        [suite setObject:@"\u8868\u683c & <x>" forKey:@"string"];
+        [suite setObject:@"\u8868\u683c \U0001F5C2 & <x>" forKey:@"string"];
         [suite setObject:[NSData dataWithBytes:"a\0b" length:3] forKey:@"data"];
         [suite setObject:[NSDate dateWithTimeIntervalSince1970:86400] forKey:@"date"];
         NSDictionary *inner = [NSDictionary dictionaryWithObjectsAndKeys:@NO, @"off", @7, @"seven", nil];

@@ -93,6 +93,18 @@ TEST(StartUp, WaitsShortlyForALockThatIsYoung) {
     EXPECT_FALSE(exists(lock));
 }
 
+TEST(StartUp, WritesEmojiAndWhatLooksLikeAnEscapeAsTheyAre) {
+    const std::string text = "\U0001F5C2\U0001F468\u200D\U0001F469 \\UD83D \\ud83d\\uddc2 \\U";
+    EXPECT_EXIT(
+        {
+            startUp();
+            setStandardString("key", text);
+            std::exit(0);
+        },
+        testing::ExitedWithCode(0), "");
+    EXPECT_NE(contentOf(standardFile()).find(text), std::string::npos) << contentOf(standardFile());
+}
+
 TEST(StartUp, MakesTheMainQueueRunOnTheMainThread) {
     startUp();
     EXPECT_TRUE(mainQueueRunsOnMainThread());

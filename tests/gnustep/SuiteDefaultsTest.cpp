@@ -40,7 +40,7 @@ TEST(SuiteDefaults, KeepsTheKindOfEveryValueForOtherReaders) {
                       "date datetime datetime.datetime(1970, 1, 2, 0, 0)\n"
                       "integer int 1\n"
                       "real float 2.5\n"
-                      "string str '\u8868\u683c & <x>'\n");
+                      "string str '\u8868\u683c \U0001F5C2 & <x>'\n");
 }
 
 TEST(SuiteDefaults, WritesAFileThatOthersCanReadWhateverTheTextsHold) {

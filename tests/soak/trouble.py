@@ -360,10 +360,9 @@ plistlib.dump(values, open(path + '.foreign', 'wb'))
 os.replace(path + '.foreign', path)
 """
 
-# Not here: characters beyond U+FFFF, which the toolkit writes wrongly into XML (see docs/reliability.md).
 NAMES = ["a/b/../c", "..", ".", "", "a\0b", "control \x01\x1b\x7f", "line\nand\ttab", "x" * 20_000, "wide " * 3_000,
          "\u05e9\u05dc\u05d5\u05dd \u0645\u0631\u062d\u0628\u0627 \u202e reversed", "e\u0301\u0323" + "\u0300" * 400,
-         "<&>\"'%@%s%n\\", "not \ufffe\uffff", " \u2028 "]
+         "\U0001f5c2 \U0001f468\u200d\U0001f469\u200d\U0001f467", "<&>\"'%@%s%n\\", "not \ufffe\uffff", " \u2028 "]
 
 
 # Settings files are XML on Linux.
