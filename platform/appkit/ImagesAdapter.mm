@@ -6,7 +6,6 @@
 
 #include "platform/Images.h"
 #include "platform/appkit/Adapters.h"
-#include "platform/appkit/PictureHeader.h"
 
 namespace tarnwick {
 namespace {
@@ -44,25 +43,12 @@ NSImage *madeSafely(const Make &make) {
     }
 }
 
-/// Sound bitmaps alone: among the readers of images that a system has, some end the program over damaged
-/// ones.
-ImagePointer imageFromBitmap(NSData *data) {
-    if (!mayBePicture(static_cast<const std::uint8_t *>([data bytes]), [data length])) {
-        return nullptr;
-    }
-    return adopt(madeSafely([data]() -> NSImage * {
-        NSArray *bitmaps = [NSBitmapImageRep imageRepsWithData:data];
-        if ([bitmaps count] == 0) {
-            return nil;
-        }
-        NSImage *image = [[NSImage alloc] initWithSize:[[bitmaps objectAtIndex:0] size]];
-        [image addRepresentations:bitmaps];
-        return image;
-    }));
+ImagePointer imageFromData(NSData *data) {
+    return [data length] > 0 ? adopt(madeSafely([data] { return newImageWithData(data); })) : nullptr;
 }
 
 ImagePointer imageAt(NSString *path) {
-    return imageFromBitmap([NSData dataWithContentsOfFile:path]);
+    return imageFromData([NSData dataWithContentsOfFile:path]);
 }
 
 class AppKitImages final : public Images {
@@ -81,7 +67,7 @@ public:
         }
         return imageAt([resources stringByAppendingPathComponent:file]);
     }
-    ImagePointer fromData(const PlistData &data) override { return imageFromBitmap(toNSData(data)); }
+    ImagePointer fromData(const PlistData &data) override { return imageFromData(toNSData(data)); }
     ImagePointer fromFile(const std::string &path) override { return imageAt(toNSString(path)); }
     ImagePointer iconOfFile(const std::string &path) override {
         return adopt([iconOfFileAtPath(toNSString(path)) retain]);

@@ -6,7 +6,6 @@ add_library(tarnwick_appkit_adapters OBJECT
     ImagesAdapter.mm
     KnownFoldersAdapter.mm
     OpenPanelAdapter.mm
-    PictureHeader.cpp
     PlistConversion.mm
     PreferenceStoresAdapter.mm
     ProcessControlAdapter.mm

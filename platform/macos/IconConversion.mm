@@ -13,4 +13,8 @@ NSImage *iconOfFileAtPath(NSString *path) {
     return [[[NSImage alloc] initWithCGImage:picture size:[icon size]] autorelease];
 }
 
+NSImage *newImageWithData(NSData *data) {
+    return [[NSImage alloc] initWithData:data];
+}
+
 } // namespace tarnwick

@@ -14,6 +14,11 @@ TEST_F(IconConversionTest, KeepsTheOnePictureOfTheIconsOwnSize) {
                            "initWithCGImage(picture, 32 x 32)"}));
 }
 
+TEST_F(IconConversionTest, APictureOfAnyFormatIsLeftToTheSystemAndOwnedByWhoAsked) {
+    makeAndFreePicture(7);
+    EXPECT_EQ(calls(), Calls{"initWithData(7 bytes)"});
+}
+
 TEST_F(IconConversionTest, AnIconWithoutAPictureIsGivenAsItIs) {
     answers().iconHasPicture = false;
     EXPECT_EQ(iconOf("/nowhere").origin, "icon");

@@ -10,5 +10,7 @@ struct IconFacts {
     double width = 0;
 };
 IconFacts iconOf(const std::string& path);
+/// Makes a picture of as many bytes, and frees it.
+void makeAndFreePicture(std::size_t bytes);
 
 } // namespace tarnwick::standins

@@ -12,4 +12,10 @@ IconFacts iconOf(const std::string &path) {
     }
 }
 
+void makeAndFreePicture(std::size_t bytes) {
+    @autoreleasepool {
+        [newImageWithData([NSMutableData dataWithLength:bytes]) release];
+    }
+}
+
 } // namespace tarnwick::standins

@@ -53,6 +53,7 @@ typedef struct CGImage *CGImageRef;
     NSSize _size;
     NSString *_origin;
 }
+- (instancetype)initWithData:(NSData *)data;
 - (instancetype)initWithCGImage:(CGImageRef)image size:(NSSize)size;
 - (CGImageRef)CGImageForProposedRect:(NSRect *)rect
                              context:(NSGraphicsContext *)context

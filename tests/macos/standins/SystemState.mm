@@ -48,6 +48,12 @@ using namespace tarnwick::standins;
     return self;
 }
 
+- (instancetype)initWithData:(NSData *)data {
+    self = [super init];
+    record(@"initWithData(%lu bytes)", (unsigned long)[data length]);
+    return self;
+}
+
 - (instancetype)init {
     self = [super init];
     if (self) {

@@ -1,4 +1,4 @@
-#include "platform/appkit/PictureHeader.h"
+#include "platform/gnustep/adapters/PictureHeader.h"
 
 #include <algorithm>
 #include <cstring>
