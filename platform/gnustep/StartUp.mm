@@ -1,6 +1,7 @@
 // Missing: what a program on macOS finds prepared. GNUstep names the defaults file after the executable,
 // knows no fonts for Chinese text, and creates a plain application object.
 
+#import "Signals.h"
 #import "TNStartUp.h"
 
 #import "DefaultsFiles.h"
@@ -72,6 +73,7 @@ void TNPrepareProcess(int, char **) {
         std::atexit(writeDefaultsAtExit);
         [TNApplication sharedApplication];
         TNInstallEventPump();
+        TNInstallSignalHandling();
         TNInstallExceptionReporting();
         // Before any text is drawn: a failed substitution of a Chinese character is remembered for the whole
         // run.
