@@ -1,5 +1,6 @@
 """A launch, until the lists are published, and the memory it takes, beside an empty window."""
 
+import shutil
 import statistics
 import time
 
@@ -12,15 +13,19 @@ SETTLE_SECONDS = 1.0
 
 
 class Application:
-    """The application; it is up once the last list is in the suite's file."""
+    """The application, with the settings and perhaps the Library folder of an earlier launch; it is up once the last
+    list is in the suite's file, which is not there before."""
 
-    def __init__(self, build, settings):
+    def __init__(self, build, settings, library=None):
         self.name = "application"
         self.program = build / "Tarnwick.app" / "Tarnwick"
         self.settings = settings
+        self.library = library
 
     def prepare(self, sandbox):
         sandbox.write(LOCAL, self.settings)
+        if self.library:
+            shutil.copytree(self.library, sandbox.library, dirs_exist_ok=True)
         return {}
 
     @staticmethod
@@ -117,14 +122,14 @@ def measure(build, display, quick):
     holder = LaunchedProgram(build / "bench" / "empty_window", neighbour, display,
                              {"TARNWICK_BENCH_UP": str(neighbour.folder / "up")})
     rows = []
-    for title, launch_settings, copied in (
-        ("first", first.settings, copies),
-        ("later", settings, ()),
-        ("1,000 targets", {**settings, LIST_KEY: folder_records(1_000)}, ()),
+    for title, application, copied in (
+        ("first", first, copies),
+        ("later", Application(build, settings, neighbour.library), ()),
+        ("1,000 targets", Application(build, {**settings, LIST_KEY: folder_records(1_000)}, neighbour.library), ()),
     ):
         floors = [EmptyWindow(build, name, copied) for name in ("empty_window", "empty_window_with_layer")]
         rows += rows_beside(
-            title, take_turns([Application(build, launch_settings), *floors], display, rounds, neighbour))
+            title, take_turns([application, *floors], display, rounds, neighbour))
     holder.stop()
     neighbour.remove()
     print_table(

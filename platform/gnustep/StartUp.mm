@@ -8,7 +8,9 @@
 #import "DefaultsSchedule.h"
 #import "EventPump.h"
 #import "Exceptions.h"
+#import "ImageReaders.h"
 #import "Languages.h"
+#import "ParsedSettings.h"
 #import "SuiteDefaults.h"
 #import "TNApplication.h"
 
@@ -66,11 +68,13 @@ void writeDefaultsAtExit() {
 void TNPrepareProcess(int, char **) {
     @autoreleasepool {
         [[NSProcessInfo processInfo] setProcessName:processName];
+        TNKeepParsedSettings();
         prepareDefaultsFile();
         TNUseLanguagesOfUser();
         registerInitialDefaults();
         TNWriteDefaultsPromptly();
         std::atexit(writeDefaultsAtExit);
+        TNUseBitmapReadersOnly();
         [TNApplication sharedApplication];
         TNInstallEventPump();
         TNInstallSignalHandling();

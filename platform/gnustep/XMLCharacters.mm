@@ -2,9 +2,10 @@
 // each half of one as an escape, "\UD83D", that no reader takes for anything but these six letters. Here the
 // finished bytes get the character itself in UTF-8.
 
-#import <Foundation/Foundation.h>
-
 #import "MethodReplacement.h"
+#import "ParsedSettings.h"
+
+#import <Foundation/Foundation.h>
 
 #include <cstdint>
 #include <cstring>
@@ -101,8 +102,11 @@ NSData *dataWithOptions(
     return finished(nativeWithOptions(self, command, value, format, options, error), format);
 }
 
+/// By this one NSUserDefaults writes its domains.
 NSData *dataWithDescription(id self, SEL command, id value, NSPropertyListFormat format, NSString **error) {
-    return finished(nativeWithDescription(self, command, value, format, error), format);
+    NSData *data = finished(nativeWithDescription(self, command, value, format, error), format);
+    TNRememberParsed(data, value);
+    return data;
 }
 
 } // namespace
