@@ -64,6 +64,9 @@ void TNRememberParsed(NSData *bytes, id value) {
 }
 
 void TNKeepParsedSettings() {
+    if (nativeWithData) {
+        return;
+    }
     // The first message has a class set itself up, which it misses when its methods were replaced before.
     Class type = [NSPropertyListSerialization class];
     nativeWithData = TNReplaceMethod(

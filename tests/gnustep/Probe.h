@@ -48,6 +48,9 @@ void setStandardString(const std::string& key, const std::string& value);
 /// Whether a block given to the main queue from another thread ran on the main thread.
 bool mainQueueRunsOnMainThread();
 
+/// The names of the classes that pictures are offered to, after one has been looked for.
+std::vector<std::string> imageReaders();
+
 /// Paths; empty for none.
 std::string groupContainer(const std::string& identifier);
 std::string scriptsFolder();

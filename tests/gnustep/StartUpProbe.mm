@@ -43,4 +43,15 @@ bool mainQueueRunsOnMainThread() {
     }
 }
 
+std::vector<std::string> imageReaders() {
+    @autoreleasepool {
+        [NSImage imageNamed:@"there is none of this name"];
+        std::vector<std::string> names;
+        for (Class reader in [NSImageRep registeredImageRepClasses]) {
+            names.emplace_back(class_getName(reader));
+        }
+        return names;
+    }
+}
+
 } // namespace tarnwick::probe

@@ -109,3 +109,11 @@ TEST(StartUp, MakesTheMainQueueRunOnTheMainThread) {
     startUp();
     EXPECT_TRUE(mainQueueRunsOnMainThread());
 }
+
+TEST(StartUp, LeavesPicturesToTheBitmapReaderAlone) {
+    startUp();
+    EXPECT_EQ(imageReaders(), std::vector<std::string>{"NSBitmapImageRep"});
+    const auto libraries = contentOf("/proc/self/maps");
+    EXPECT_NE(libraries.find("libMagickCore"), std::string::npos);
+    EXPECT_EQ(libraries.find("/coders/"), std::string::npos);
+}
