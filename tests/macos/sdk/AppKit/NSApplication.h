@@ -20,8 +20,6 @@
 @property (nullable, assign) id<NSApplicationDelegate> delegate;
 @property (nullable, strong) NSMenu *mainMenu;
 @property (nullable, strong) NSMenu *windowsMenu;
-@property (nullable, strong) NSMenu *helpMenu;
-@property (nullable, strong) NSMenu *servicesMenu;
 - (void)activateIgnoringOtherApps:(BOOL)ignoring;
 - (BOOL)sendAction:(SEL)action to:(nullable id)target from:(nullable id)sender;
 - (void)terminate:(nullable id)sender;

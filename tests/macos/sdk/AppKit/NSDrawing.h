@@ -52,23 +52,13 @@ extern NSString *const NSParagraphStyleAttributeName;
 @property NSTextAlignment alignment;
 @end
 
-@interface NSImageRep : NSObject <NSCopying>
-@property NSSize size;
-@end
-
-@interface NSBitmapImageRep : NSImageRep
-+ (NSArray<NSImageRep *> *)imageRepsWithData:(NSData *)data;
-@end
-
 @interface NSImage : NSObject <NSCopying>
 @property NSSize size;
 @property (readonly, getter=isValid) BOOL valid;
 @property (nullable, readonly, copy) NSData *TIFFRepresentation;
 + (nullable NSImage *)imageNamed:(NSString *)name;
 - (instancetype)initWithSize:(NSSize)size;
-- (void)addRepresentations:(NSArray<NSImageRep *> *)imageReps;
 - (nullable instancetype)initWithData:(NSData *)data;
-- (nullable instancetype)initWithContentsOfFile:(NSString *)path;
 - (instancetype)initWithCGImage:(CGImageRef)image size:(NSSize)size;
 - (nullable CGImageRef)CGImageForProposedRect:(nullable NSRect *)rect
                                       context:(nullable NSGraphicsContext *)context

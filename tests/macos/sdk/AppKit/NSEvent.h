@@ -24,7 +24,6 @@ enum : unichar {
 
 @interface NSEvent : NSObject <NSCopying>
 @property (nullable, readonly, copy) NSString *charactersIgnoringModifiers;
-@property (readonly) NSEventModifierFlags modifierFlags;
 @end
 
 #pragma clang assume_nonnull end

@@ -9,7 +9,6 @@
 
 @interface NSResponder : NSObject
 - (void)keyDown:(NSEvent *)event;
-- (BOOL)becomeFirstResponder;
 @end
 
 @interface NSObject (NSNibAwaking)

@@ -58,7 +58,6 @@ typedef TN_OPTIONS(NSUInteger, NSTableColumnResizingOptions){
 @property (readonly) NSInteger selectedRow;
 @property (readonly) NSInteger clickedRow;
 @property (readonly) NSInteger clickedColumn;
-@property (readonly, copy) NSArray<NSTableColumn *> *tableColumns;
 @property CGFloat rowHeight;
 @property NSSize intercellSpacing;
 @property BOOL allowsMultipleSelection;
@@ -76,8 +75,6 @@ typedef TN_OPTIONS(NSUInteger, NSTableColumnResizingOptions){
 - (void)scrollRowToVisible:(NSInteger)row;
 - (NSInteger)columnWithIdentifier:(NSString *)identifier;
 - (nullable __kindof NSView *)viewAtColumn:(NSInteger)column row:(NSInteger)row makeIfNecessary:(BOOL)make;
-- (NSInteger)rowForView:(NSView *)view;
-- (NSRect)rectOfRow:(NSInteger)row;
 - (void)setDraggingSourceOperationMask:(NSDragOperation)mask forLocal:(BOOL)local;
 @end
 

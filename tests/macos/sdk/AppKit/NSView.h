@@ -43,8 +43,6 @@ typedef TN_OPTIONS(NSUInteger, NSAutoresizingMaskOptions){
 @property (nullable, readonly, strong) NSScrollView *enclosingScrollView;
 - (nullable NSView *)hitTest:(NSPoint)point;
 - (void)drawRect:(NSRect)rect;
-- (void)viewWillMoveToSuperview:(nullable NSView *)superview;
-- (void)viewDidMoveToSuperview;
 - (void)resizeSubviewsWithOldSize:(NSSize)size;
 - (void)registerForDraggedTypes:(NSArray<NSString *> *)types;
 @end

@@ -20,7 +20,6 @@ extern "C" NSString *const NSWindowDidUpdateNotification;
 @property (getter=isReleasedWhenClosed) BOOL releasedWhenClosed;
 @property (getter=isMovableByWindowBackground) BOOL movableByWindowBackground;
 @property (nullable, readonly, assign) NSResponder *firstResponder;
-@property (nullable, assign) NSView *initialFirstResponder;
 - (instancetype)initWithContentRect:(NSRect)rect
                           styleMask:(NSWindowStyleMask)style
                             backing:(NSBackingStoreType)backing

@@ -19,13 +19,11 @@ typedef struct {
 
 @interface NSArray<ObjectType> : NSObject <NSCopying, NSFastEnumeration>
 @property (readonly) NSUInteger count;
-@property (nullable, readonly) ObjectType firstObject;
 - (ObjectType)objectAtIndex:(NSUInteger)index;
 - (BOOL)containsObject:(ObjectType)object;
 - (NSUInteger)indexOfObjectIdenticalTo:(ObjectType)object;
 + (instancetype)array;
 + (instancetype)arrayWithObject:(ObjectType)object;
-+ (instancetype)arrayWithObjects:(ObjectType)first, ... __attribute__((sentinel(0, 1)));
 @end
 
 @interface NSMutableArray<ObjectType> : NSArray <ObjectType>

@@ -24,7 +24,6 @@ NSString *NSUserName(void);
 @property (class, readonly, strong) NSFileManager *defaultManager;
 - (BOOL)fileExistsAtPath:(NSString *)path;
 - (BOOL)fileExistsAtPath:(NSString *)path isDirectory:(nullable BOOL *)isDirectory;
-- (BOOL)isReadableFileAtPath:(NSString *)path;
 - (BOOL)removeItemAtPath:(NSString *)path error:(NSError *_Nullable *_Nullable)error;
 - (BOOL)copyItemAtPath:(NSString *)from toPath:(NSString *)to error:(NSError *_Nullable *_Nullable)error;
 - (BOOL)moveItemAtPath:(NSString *)from toPath:(NSString *)to error:(NSError *_Nullable *_Nullable)error;

@@ -15,9 +15,7 @@ enum : NSInteger { NSNotFound = 0x7fffffffffffffffL };
 - (instancetype)retain;
 - (oneway void)release;
 - (instancetype)autorelease;
-- (BOOL)isEqual:(nullable id)object;
 - (BOOL)isKindOfClass:(Class)wanted;
-- (BOOL)respondsToSelector:(SEL)selector;
 @property (readonly, copy) NSString *description;
 @end
 
@@ -58,7 +56,6 @@ extern "C" NSString *const NSKeyValueChangeNewKey;
 
 @interface NSException : NSObject <NSCopying>
 @property (readonly, copy) NSString *name;
-@property (nullable, readonly, copy) NSString *reason;
 @end
 
 @interface NSError : NSObject <NSCopying>

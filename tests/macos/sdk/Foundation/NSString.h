@@ -12,9 +12,6 @@ enum : NSStringEncoding { NSUTF8StringEncoding = 4 };
 
 @interface NSString : NSObject <NSCopying>
 @property (readonly) NSUInteger length;
-@property (readonly, copy) NSString *stringByDeletingLastPathComponent;
-@property (readonly, copy) NSString *pathExtension;
-@property (readonly, copy) NSString *lastPathComponent;
 - (unichar)characterAtIndex:(NSUInteger)index;
 - (nullable instancetype)initWithBytes:(const void *)bytes
                                 length:(NSUInteger)length
@@ -22,7 +19,6 @@ enum : NSStringEncoding { NSUTF8StringEncoding = 4 };
 - (nullable NSData *)dataUsingEncoding:(NSStringEncoding)encoding allowLossyConversion:(BOOL)lossy;
 + (instancetype)stringWithCharacters:(const unichar *)characters length:(NSUInteger)length;
 + (instancetype)stringWithFormat:(NSString *)format, ... __attribute__((format(__NSString__, 1, 2)));
-- (BOOL)isEqualToString:(NSString *)other;
 - (NSString *)stringByAppendingString:(NSString *)other;
 - (NSString *)stringByAppendingPathComponent:(NSString *)other;
 @end

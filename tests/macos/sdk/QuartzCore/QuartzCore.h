@@ -5,7 +5,5 @@
 
 @interface CALayer : NSObject
 @property CGFloat cornerRadius;
-@property CGFloat borderWidth;
 @property (nullable) CGColorRef backgroundColor;
-@property (nullable) CGColorRef borderColor;
 @end
