@@ -2,6 +2,7 @@
 add_library(tarnwick_appkit_adapters OBJECT
     AlertsAdapter.mm
     ApplicationBundleAdapter.mm
+    DeferredWork.mm
     FileManagerAdapter.mm
     ImagesAdapter.mm
     KnownFoldersAdapter.mm

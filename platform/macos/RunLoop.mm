@@ -1,35 +1,11 @@
+#import "platform/appkit/DeferredWork.h"
+
 #include "platform/RunLoop.h"
 #include "platform/SystemServices.h"
 
-#import <Foundation/Foundation.h>
 #import <dispatch/dispatch.h>
 
 #include <utility>
-
-/// Work to be done once, later.
-@interface TNDeferredWork : NSObject {
-@private
-    std::function<void()> _work;
-}
-- (instancetype)initWithWork:(std::function<void()>)work;
-- (void)run;
-@end
-
-@implementation TNDeferredWork
-
-- (instancetype)initWithWork:(std::function<void()>)work {
-    self = [super init];
-    if (self) {
-        _work = std::move(work);
-    }
-    return self;
-}
-
-- (void)run {
-    _work();
-}
-
-@end
 
 namespace tarnwick {
 namespace {
@@ -37,8 +13,8 @@ namespace {
 class DispatchQueues final : public RunLoop {
 public:
     void performAfterDelay(double seconds, std::function<void()> work) override {
-        TNDeferredWork *later = [[[TNDeferredWork alloc] initWithWork:std::move(work)] autorelease];
-        [later performSelector:@selector(run) withObject:nil afterDelay:seconds];
+        TNDeferredWork *later = [TNDeferredWork deferredWork:std::move(work)];
+        [later performSelector:@selector(run:) withObject:nil afterDelay:seconds];
     }
     void performOnMainQueue(std::function<void()> work) override {
         dispatch_async(dispatch_get_main_queue(), ^{
