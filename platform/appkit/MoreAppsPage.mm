@@ -75,7 +75,8 @@ NSView *makeTile(const Tile &facts, CGFloat width, ::SettingsViewController *con
 } // namespace
 
 NSView *makeMoreAppsPage(const PageLayout &layout, NSSize size, ::SettingsViewController *controller) {
-    NSView *page = makeEmptyPage(size);
+    NSView *page = [[[NSView alloc] initWithFrame:NSMakeRect(0, 0, size.width, size.height)] autorelease];
+    [page setAutoresizingMask:NSViewWidthSizable | NSViewHeightSizable];
     PageFrame column(page, size);
     column.addHeading(layout);
     for (const auto &tile : tiles) {

@@ -37,7 +37,4 @@ private:
     CGFloat needed_ = 0;
 };
 
-/// An empty page that fills its tab. Autoreleased.
-[[nodiscard]] NSView *makeEmptyPage(NSSize size);
-
 } // namespace tarnwick

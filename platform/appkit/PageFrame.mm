@@ -33,10 +33,4 @@ void PageFrame::addHeading(const PageLayout &layout) {
     skip(headingGap);
 }
 
-NSView *makeEmptyPage(NSSize size) {
-    NSView *page = [[[NSView alloc] initWithFrame:NSMakeRect(0, 0, size.width, size.height)] autorelease];
-    [page setAutoresizingMask:NSViewWidthSizable | NSViewHeightSizable];
-    return page;
-}
-
 } // namespace tarnwick
