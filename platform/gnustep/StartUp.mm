@@ -27,9 +27,8 @@ void prepareDefaultsFile() {
     TNReadSettingsFile([TNDefaultsFolder() stringByAppendingPathComponent:name]);
 }
 
-void registerInitialDefaults() {
-    NSArray *languages = [[NSUserDefaults standardUserDefaults] stringArrayForKey:@"NSLanguages"];
-    NSString *han = TNHanFontForLanguages(languages);
+/// `han` is the font of Chinese characters, without its weight.
+void registerInitialDefaults(NSArray *languages, NSString *han) {
     // Latin letters beside Chinese characters come from their font too: otherwise these would never be bold,
     // and sit lower than the rest of the line.
     const bool inHan = TNLanguageUsesHanCharacters(languages);
@@ -71,7 +70,9 @@ void TNPrepareProcess(int, char **) {
         TNKeepParsedSettings();
         prepareDefaultsFile();
         TNUseLanguagesOfUser();
-        registerInitialDefaults();
+        NSArray *languages = [[NSUserDefaults standardUserDefaults] stringArrayForKey:@"NSLanguages"];
+        NSString *han = TNHanFontForLanguages(languages);
+        registerInitialDefaults(languages, han);
         TNWriteDefaultsPromptly();
         std::atexit(writeDefaultsAtExit);
         TNUseBitmapReadersOnly();
@@ -81,9 +82,7 @@ void TNPrepareProcess(int, char **) {
         TNInstallExceptionReporting();
         // Before any text is drawn: a failed substitution of a Chinese character is remembered for the whole
         // run.
-        NSArray *languages = [[NSUserDefaults standardUserDefaults] stringArrayForKey:@"NSLanguages"];
-        [NSFont setPreferredFontNames:[NSArray arrayWithObject:[TNHanFontForLanguages(languages)
-                                                                   stringByAppendingString:@"-Regular"]]];
+        [NSFont setPreferredFontNames:[NSArray arrayWithObject:[han stringByAppendingString:@"-Regular"]]];
         TNInstallTheme();
     }
 }
