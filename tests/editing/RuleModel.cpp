@@ -1,12 +1,9 @@
 #include "tests/editing/RuleModel.h"
 
+#include <algorithm>
+
 namespace tarnwick::testing {
 namespace {
-
-bool isFixed(const PlistDictionary& record) {
-    const auto action = textIn(record, "Action");
-    return action == "Change to QR Code" || action == "Translate by Google" || action == "Translate by Baidu";
-}
 
 std::string fileOf(const PlistDictionary& record) {
     return textIn(record, "displayName") + "." + textIn(record, "extension");
@@ -29,6 +26,11 @@ bool isOn(const PlistDictionary& record) {
                                         found->second == PlistValue("1"));
 }
 
+bool isFixed(const PlistDictionary& record) {
+    const auto action = textIn(record, "Action");
+    return action == "Change to QR Code" || action == "Translate by Google" || action == "Translate by Baidu";
+}
+
 bool RuleModel::holds(RuleCategory category, long row) const {
     return row >= 0 && row < static_cast<long>(list(category).size());
 }
@@ -42,6 +44,24 @@ void RuleModel::layOutFiles() {
     for (const auto& record : factory[0]) {
         makeFile(fileOf(record));
         makeFile(textIn(record, "extension") + ".png");
+    }
+}
+
+void RuleModel::addMissingEditors() {
+    auto& others = list(RuleCategory::others);
+    const auto has = [](const Records& records, const std::string& action) {
+        return std::any_of(records.begin(), records.end(),
+            [&action](const auto& record) { return textIn(record, "Action") == action; });
+    };
+    const auto before = others;
+    const auto& all = factory[static_cast<std::size_t>(RuleCategory::others)];
+    for (std::size_t place = 0; place < all.size(); ++place) {
+        const auto action = textIn(all[place], "Action");
+        const auto isEditor =
+            action == "Open in VSCode" || action == "Open in Sublime Text" || action == "Open in Emacs";
+        if (isEditor && !has(before, action)) {
+            others.insert(others.begin() + static_cast<long>(std::min(place, others.size())), all[place]);
+        }
     }
 }
 

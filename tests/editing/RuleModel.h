@@ -49,6 +49,8 @@ public:
     [[nodiscard]] bool holds(RuleCategory category, long row) const;
     /// Puts the template folder into its factory state.
     void layOutFiles();
+    /// The factory's editors that the list of other actions lacks return to their places at each launch.
+    void addMissingEditors();
 
 private:
     bool makeFile(const std::string& name);
@@ -59,5 +61,7 @@ private:
 
 [[nodiscard]] std::string textIn(const PlistDictionary& record, std::string_view field);
 [[nodiscard]] bool isOn(const PlistDictionary& record);
+/// A row that stays on, in its place and in its list.
+[[nodiscard]] bool isFixed(const PlistDictionary& record);
 
 } // namespace tarnwick::testing

@@ -6,6 +6,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// The real application over the real stores, edited from inside.
 namespace tarnwick::soak {
@@ -16,8 +17,8 @@ int runApplication(int argc, char* argv[], std::function<bool()> edit);
 /// While the application runs.
 [[nodiscard]] SettingsViewController& controller();
 void selectRow(RuleCategory category, long row);
-/// Every open panel that is begun from now on is left with OK and this path.
-void answerPanelsWith(const std::string& path);
+/// Every open panel that is begun from now on is left with OK and these paths.
+void answerPanelsWith(const std::vector<std::string>& paths);
 /// As a switch of the window writes it.
 void userSets(std::string_view key, bool on);
 [[nodiscard]] std::string userName();

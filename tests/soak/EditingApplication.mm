@@ -86,9 +86,13 @@ void selectRow(RuleCategory category, long row) {
         byExtendingSelection:NO];
 }
 
-void answerPanelsWith(const std::string &path) {
+void answerPanelsWith(const std::vector<std::string> &paths) {
+    NSMutableArray *urls = [[NSMutableArray alloc] init];
+    for (const auto &path : paths) {
+        [urls addObject:[NSURL fileURLWithPath:toNSString(path)]];
+    }
     [answer release];
-    answer = [[NSArray arrayWithObject:[NSURL fileURLWithPath:toNSString(path)]] retain];
+    answer = urls;
 }
 
 void userSets(std::string_view key, bool on) {

@@ -15,7 +15,8 @@ import subprocess
 import sys
 import time
 
-from stores import LISTS, LOCAL, SHARED, checksum
+from pictures import is_one_of_them, make_pictures
+from stores import LISTS, LOCAL, SHARED, checksum, with_editors
 
 START_SECONDS = 60
 
@@ -34,6 +35,7 @@ class Soak:
         self.counts = collections.Counter()
         self.local, self.shared = {}, {}
         (self.sandbox / "sources").mkdir(exist_ok=True)
+        make_pictures(self.sandbox / "sources")
 
     def store(self, name):
         try:
@@ -78,7 +80,7 @@ class Soak:
                 continue
             _, name, key, synchronised, whole, enabled = line[:6]
             done = index + 1 < len(lines)
-            self.counts[name] += 1
+            self.counts[f"{name} {key}"] += 1
             latest[key] = whole
             if done and synchronised == "1":
                 local = {other: {latest[other]} for other in LISTS}
@@ -107,18 +109,29 @@ class Soak:
                             f"not {allowed_shared[key]}\n" + "\n".join(" ".join(line[:6]) for line in lines[-6:]))
         if any(key.endswith(".unreadable") for key in local):
             raise Wrong("a list became unreadable")
+        self.check_pictures(local["arrOfCustomIcon"])
         self.remember(local, shared)
+
+    def check_pictures(self, icons):
+        """Every icon added is the picture that was chosen."""
+        for record in icons:
+            if record not in self.factory["arrOfCustomIcon"] and record["displayName"].endswith(".png"):
+                self.icons += 1
+                if not is_one_of_them(record["icon"]):
+                    raise Wrong(f"the icon {record['displayName']} is another picture")
 
     def remember(self, local, shared):
         self.local = {key: checksum(local.get(key, [])) for key in LISTS}
-        self.enabled = {key: checksum(local.get(key, []), True) for key in LISTS}
+        # What a launch publishes, if it publishes the list.
+        launched = {**local, "arrOfOthers": with_editors(local["arrOfOthers"], self.factory["arrOfOthers"])}
+        self.enabled = {key: checksum(launched.get(key, []), True) for key in LISTS}
         self.shared = {key: checksum(shared[key]) for key in LISTS if key in shared}
 
     def check_templates(self):
         """After the next start: every file is a record's template or icon, and whole; every template record has its file."""
         records = self.store(LOCAL)["arrOfCreateNewFile"]
         owned = {f"{record['displayName']}.{record['extension']}" for record in records}
-        icons = {f"{record['extension']}.png" for record in self.factory}
+        icons = {f"{record['extension']}.png" for record in self.factory["arrOfCreateNewFile"]}
         names = {path.name for path in self.templates.iterdir()}
         if strangers := names - owned - icons:
             raise Wrong(f"template files that belong to nobody: {sorted(strangers)}")
@@ -150,11 +163,11 @@ class Soak:
             self.after_next_start()
 
     def prepare(self):
-        self.slowest, self.starts = 0, 0
+        self.slowest, self.starts, self.icons = 0, 0, 0
         process = self.start_idle()
         self.stop_idle(process)
         local = self.store(LOCAL)
-        self.factory = local["arrOfCreateNewFile"]
+        self.factory = local
         (self.sandbox / "factory.plist").write_bytes((self.defaults / f"{LOCAL}.plist").read_bytes())
         self.remember(local, self.store(SHARED))
 
@@ -184,6 +197,9 @@ class Soak:
         if {key: checksum(local.get(key, [])) for key in LISTS} != self.local:
             raise Wrong("the next start changed a list")
         self.remember(local, shared)
+        for key in LISTS:
+            if key != "arrOfCommonPath" and self.shared.get(key) != self.enabled[key]:
+                raise Wrong(f"after the next start, {key} is published otherwise than it is stored")
         self.check_templates()
 
 
@@ -199,7 +215,10 @@ def main():
     within = sum(count for name, count in soak.counts.items() if name.startswith("killed within"))
     early = soak.counts["killed during the start"]
     print(f"kill: {kills} kills, {early} of them while starting and {within} within an edit; {edits} edits, "
-          f"{soak.starts} starts, the slowest in {soak.slowest:.1f} s; both stores whole after each")
+          f"{soak.starts} starts, the slowest in {soak.slowest:.1f} s; both stores whole after each, "
+          f"and every added icon its picture (looked {soak.icons} times)")
+    if os.environ.get("TARNWICK_SOAK_COUNTS"):
+        print("\n".join(f"  {name}: {count}" for name, count in sorted(soak.counts.items())))
 
 
 main()

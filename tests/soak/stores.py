@@ -25,3 +25,16 @@ def checksum(records, enabled_only=False):
         "".join(f"{key}={canonical(record[key])}\n" for key in sorted(record)) + "\n"
         for record in records if not enabled_only or is_on(record))
     return str(zlib.crc32(text.encode()))
+
+
+EDITORS = ["Open in VSCode", "Open in Sublime Text", "Open in Emacs"]
+
+
+def with_editors(actions, factory):
+    """The other actions as a launch has them: the factory's editors that they lack are in their places again."""
+    found = {record["Action"] for record in actions}
+    result = list(actions)
+    for place, record in enumerate(factory):
+        if record["Action"] in EDITORS and record["Action"] not in found:
+            result.insert(place, record)
+    return result

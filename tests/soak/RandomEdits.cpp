@@ -1,0 +1,217 @@
+#include "tests/soak/RandomEdits.h"
+
+#include "prefs/PreferenceKeys.h"
+#include "tests/soak/Canonical.h"
+#include "tests/soak/EditingApplication.h"
+#include "tests/soak/StoredState.h"
+
+#include <array>
+#include <cstdlib>
+#include <fstream>
+#include <unistd.h>
+
+namespace tarnwick::soak {
+namespace {
+
+using Controller = SettingsViewController;
+using Action = void (Controller::*)();
+using Switch = void (Controller::*)(long row, bool on);
+
+constexpr std::array<Action, 5> removeActions{&Controller::removeCreateNewFileRule,
+    &Controller::removeCopyFilesToRule, &Controller::removeCommondPathRule, &Controller::removeCustomIconRule,
+    &Controller::removeOthersRule};
+constexpr std::array<Action, 5> resetActions{&Controller::resetCreateNewFileRule,
+    &Controller::resetCopyFilesToRule, nullptr, &Controller::resetCustomIconRule,
+    &Controller::resetOthersRule};
+constexpr std::array<Action, 5> enableAllActions{&Controller::enableAllOfCreateNewFilesClick, nullptr,
+    nullptr, &Controller::enableAllOfCustomIconClick, &Controller::enableAllOfOthersClick};
+constexpr std::array<Switch, 5> switches{&Controller::onOffcheckedStateChangedOfCreateNewFile,
+    &Controller::onOffcheckedStateChangedOfCopyTo, nullptr, &Controller::onOffcheckedStateChangedOfCustomIcon,
+    &Controller::onOffcheckedStateChangedOfOthers};
+
+constexpr std::array<const char*, 5> nameFields{
+    "NewFileDisplayName", "Note", "commonPathDisplayName", "CustomIconName", "OthersDisplayName"};
+constexpr std::array<const char*, 5> nameMarks{"modified", "", "", "modified", "nameModified"};
+
+/// The lists stay of a size.
+constexpr std::size_t shortestList = 10;
+
+std::size_t at(RuleCategory category) {
+    return static_cast<std::size_t>(category);
+}
+
+std::string sum(const std::string& text) {
+    return std::to_string(checksum(reinterpret_cast<const std::uint8_t*>(text.data()), text.size()));
+}
+
+/// Its remove button is disabled.
+bool isProtected(const PlistDictionary& record) {
+    const auto action = testing::textIn(record, "Action");
+    return testing::isFixed(record) || action == "Screenshots by Snapfin" ||
+           action == "Pin\u3001Annotation by Snapfin";
+}
+
+} // namespace
+
+RandomEdits::RandomEdits(const std::string& sandbox, unsigned seed)
+    : sandbox_(sandbox), sources_(sandbox + "/sources"), random_(seed),
+      journal_(sandbox + "/" + setting("TARNWICK_SOAK_JOURNAL", "journal")),
+      most_(std::atol(setting("TARNWICK_SOAK_EDITS", "-1").c_str())),
+      lists_(setting("TARNWICK_SOAK_LISTS", "")) {}
+
+bool RandomEdits::edit() {
+    if (!ready_) {
+        model_ = stateOf(sandbox_);
+        useGivenName();
+        journal_.write("ready");
+        ready_ = true;
+    }
+    if (count_ == most_) {
+        return false;
+    }
+    editOneOf(lists_.empty()
+                  ? allRuleCategories[pick(5)]
+                  : allRuleCategories[static_cast<std::size_t>(lists_[pick(lists_.size())] - '0')]);
+    return true;
+}
+
+void RandomEdits::useGivenName() {
+    std::ifstream file(sandbox_ + "/name", std::ios::binary);
+    if (!file) {
+        return;
+    }
+    const std::string name{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    for (const auto* field : nameFields) {
+        controller().controlTextShouldEndEditing(field, 0, name);
+    }
+    controller().controlTextShouldEndEditing("OthersNote", 0, name);
+}
+
+void RandomEdits::editOneOf(RuleCategory category) {
+    ++count_;
+    switch (pick(8)) {
+    case 0:
+    case 1:
+        return add(category);
+    case 2:
+        return remove(category);
+    case 3:
+        return toggle(category);
+    case 4:
+        return enableAll(category);
+    case 5:
+        return drop(category);
+    case 6:
+        return pick(12) == 0 ? reset(category) : rename(category);
+    default:
+        break;
+    }
+    if (category == RuleCategory::copyFilesTo) {
+        choosePath();
+    } else if (category == RuleCategory::others) {
+        editNote();
+    } else {
+        remove(category);
+    }
+}
+
+void RandomEdits::announce(const char* name, RuleCategory category, bool synchronises) {
+    journal_.write(std::string("edit ") + name + " " + std::string(factsOf(category).listKey) +
+                   (synchronises ? " 1 " : " 0 ") + sum(canonical(list(category), false)) + " " +
+                   sum(canonical(list(category), true)));
+}
+
+std::string RandomEdits::freshName() {
+    return "N" + std::to_string(getpid()) + "-" + std::to_string(++names_);
+}
+
+void RandomEdits::remove(RuleCategory category) {
+    if (list(category).size() < shortestList) {
+        return;
+    }
+    const auto place = row(category);
+    if (isProtected(list(category)[static_cast<std::size_t>(place)])) {
+        return;
+    }
+    selectRow(category, place);
+    perform("remove", category, true, model_.remove(category, place),
+        [&] { (controller().*removeActions[at(category)])(); });
+}
+
+void RandomEdits::toggle(RuleCategory category) {
+    auto change = switches[at(category)];
+    const auto* field = "enable";
+    if (!change || list(category).empty()) {
+        return;
+    }
+    if (category == RuleCategory::createNewFile && pick(4) == 0) {
+        change = &Controller::onOffEnableMainMenuStateChangedOfCreateNewFile;
+        field = "enableMainMenu";
+    }
+    const auto place = row(category);
+    const auto on = pick(2) == 0;
+    perform("toggle", category, true, model_.set(category, place, field, on),
+        [&] { (controller().*change)(place, on); });
+}
+
+void RandomEdits::enableAll(RuleCategory category) {
+    if (!enableAllActions[at(category)]) {
+        return;
+    }
+    const auto on = pick(2) == 0;
+    userSets(factsOf(category).enableAllKey, on);
+    perform("enable-all", category, false, model_.enableAll(category, on),
+        [&] { (controller().*enableAllActions[at(category)])(); });
+}
+
+void RandomEdits::drop(RuleCategory category) {
+    if (list(category).size() < 2) {
+        return;
+    }
+    const auto from = row(category);
+    const auto to = row(category);
+    perform("drop", category, false, model_.drop(category, from, to),
+        [&] { controller().acceptDrop(category, category, from, to); });
+}
+
+void RandomEdits::rename(RuleCategory category) {
+    if (list(category).empty()) {
+        return;
+    }
+    const auto place = row(category);
+    const auto name = freshName();
+    perform("rename", category, true, model_.rename(category, place, nameMarks[at(category)], name),
+        [&] { controller().controlTextShouldEndEditing(nameFields[at(category)], place, name); });
+}
+
+void RandomEdits::editNote() {
+    if (list(RuleCategory::others).empty()) {
+        return;
+    }
+    const auto place = row(RuleCategory::others);
+    const auto text = freshName();
+    perform("note", RuleCategory::others, true, model_.editNote(place, text),
+        [&] { controller().controlTextShouldEndEditing("OthersNote", place, text); });
+}
+
+void RandomEdits::choosePath() {
+    if (list(RuleCategory::copyFilesTo).empty()) {
+        return;
+    }
+    const auto place = row(RuleCategory::copyFilesTo);
+    const auto path = sources_ + "/" + freshName();
+    answerPanelsWith({path});
+    perform("choose-path", RuleCategory::copyFilesTo, true, model_.choosePath(place, path),
+        [&] { controller().selectPath(place); });
+}
+
+void RandomEdits::reset(RuleCategory category) {
+    // The factory's lists are known after a first launch only.
+    if (!resetActions[at(category)] || model_.factory.front().empty()) {
+        return;
+    }
+    perform("reset", category, true, model_.reset(category),
+        [&] { (controller().*resetActions[at(category)])(); });
+}
+
+} // namespace tarnwick::soak
