@@ -1,7 +1,6 @@
 #include "editing/AddRules.h"
 
 #include "editing/RulePages.h"
-#include "platform/FileManager.h"
 #include "platform/Images.h"
 #include "platform/KnownFolders.h"
 #include "prefs/GroupContainer.h"
@@ -84,6 +83,9 @@ void AddRules::addPaths(RuleCategory category, const std::vector<std::string>& p
 }
 
 void AddRules::appendRecords(RuleCategory category, const std::vector<std::string>& paths) {
+    if (category == RuleCategory::createNewFile) {
+        templates_.noteCopies(paths);
+    }
     for (const auto& path : paths) {
         if (auto record = makeRecord(category, path)) {
             pages_.list(category).append(*std::move(record));
@@ -92,7 +94,11 @@ void AddRules::appendRecords(RuleCategory category, const std::vector<std::strin
 }
 
 void AddRules::commit(RuleCategory category) {
-    pages_.storeAndSynchronize(category);
+    pages_.store(category);
+    if (category == RuleCategory::createNewFile) {
+        templates_.forgetCopies();
+    }
+    local_.synchronize();
     pages_.reload(category);
     pages_.publish(category);
 }
@@ -100,7 +106,7 @@ void AddRules::commit(RuleCategory category) {
 std::optional<RuleRecord> AddRules::makeRecord(RuleCategory category, const std::string& path) {
     switch (category) {
     case RuleCategory::createNewFile:
-        if (!copyTemplate(path)) {
+        if (!templates_.copy(path)) {
             return std::nullopt;
         }
         return makeTemplateRecord(
@@ -124,12 +130,6 @@ std::optional<RuleRecord> AddRules::makeRecord(RuleCategory category, const std:
         return std::nullopt;
     }
     return makeActionRecord(std::move(icon), name, "");
-}
-
-bool AddRules::copyTemplate(const std::string& path) {
-    const auto folder = GroupContainer(platform_.folders).templateFolder();
-    return folder &&
-           platform_.files.copy(path, std::string(*folder).append("/").append(lastPathComponent(path)));
 }
 
 } // namespace tarnwick

@@ -3,6 +3,7 @@
 #include "platform/OpenPanel.h"
 #include "platform/Platform.h"
 #include "prefs/RuleCategory.h"
+#include "prefs/TemplateFiles.h"
 
 #include <optional>
 #include <string>
@@ -19,7 +20,7 @@ class RuleRecord;
 class AddRules {
 public:
     AddRules(const Platform& platform, LocalPreferences& local, RulePages& pages)
-        : platform_(platform), local_(local), pages_(pages) {}
+        : platform_(platform), local_(local), templates_(platform, local), pages_(pages) {}
 
     /// Opens the category's chooser and returns; once it is confirmed, adds what was chosen. Order: the
     /// records, the remembered folder (not for Others), store, synchronise, reload, publish.
@@ -35,11 +36,10 @@ private:
     void appendRecords(RuleCategory category, const std::vector<std::string>& paths);
     void commit(RuleCategory category);
     [[nodiscard]] std::optional<RuleRecord> makeRecord(RuleCategory category, const std::string& path);
-    /// Whether the file now lies among the templates, under its own name.
-    [[nodiscard]] bool copyTemplate(const std::string& path);
 
     Platform platform_;
     LocalPreferences& local_;
+    TemplateFiles templates_;
     RulePages& pages_;
 };
 

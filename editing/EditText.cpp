@@ -2,7 +2,6 @@
 
 #include "editing/RulePages.h"
 #include "prefs/RuleRecord.h"
-#include "prefs/TemplateFiles.h"
 
 #include <algorithm>
 #include <array>
@@ -44,11 +43,15 @@ void EditText::endEditing(std::string_view identifier, long row, std::string_vie
     auto changed = edited->mark.empty() ? old : old.with(edited->mark, "1");
     changed = changed.with(edited->textField, text);
     list.replace(index, changed);
+    const bool isTemplate = edited->category == RuleCategory::createNewFile;
+    if (isTemplate) {
+        templates_.noteMove(old, changed);
+    }
     pages_.storeAndSynchronize(edited->category);
     pages_.reload(edited->category);
     pages_.publish(edited->category);
-    if (edited->category == RuleCategory::createNewFile) {
-        moveTemplateFile(platform_, old, changed);
+    if (isTemplate) {
+        templates_.move(old, changed);
     }
 }
 

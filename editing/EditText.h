@@ -1,17 +1,19 @@
 #pragma once
 
-#include "platform/Platform.h"
+#include "prefs/TemplateFiles.h"
 
 #include <string_view>
 
 namespace tarnwick {
 
+class LocalPreferences;
 class RulePages;
 
 /// Writes the text of a finished in-place edit into its record. The text is not validated.
 class EditText {
 public:
-    EditText(const Platform& platform, RulePages& pages) : platform_(platform), pages_(pages) {}
+    EditText(const Platform& platform, LocalPreferences& local, RulePages& pages)
+        : templates_(platform, local), pages_(pages) {}
 
     /// `identifier` is the field's, `row` its tag. An identifier that names no field of a record, or a row
     /// that the list does not have, changes nothing. Order: list, store, synchronise, reload, publish, and
@@ -19,7 +21,7 @@ public:
     void endEditing(std::string_view identifier, long row, std::string_view text);
 
 private:
-    Platform platform_;
+    TemplateFiles templates_;
     RulePages& pages_;
 };
 

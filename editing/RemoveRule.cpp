@@ -1,7 +1,6 @@
 #include "editing/RemoveRule.h"
 
 #include "editing/RulePages.h"
-#include "prefs/TemplateFiles.h"
 
 namespace tarnwick {
 
@@ -12,10 +11,14 @@ void RemoveRule::remove(RuleCategory category) {
         const auto index = static_cast<std::size_t>(row);
         const auto removed = list[index];
         list.remove(index);
+        const bool isTemplate = category == RuleCategory::createNewFile;
+        if (isTemplate) {
+            templates_.noteRemoval(removed);
+        }
         pages_.storeAndSynchronize(category);
         pages_.reload(category);
-        if (category == RuleCategory::createNewFile) {
-            removeTemplateFile(platform_, removed);
+        if (isTemplate) {
+            templates_.remove(removed);
         }
     }
     const auto neighbour = row > 0 ? row - 1 : row;

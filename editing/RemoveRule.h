@@ -2,9 +2,11 @@
 
 #include "platform/Platform.h"
 #include "prefs/RuleCategory.h"
+#include "prefs/TemplateFiles.h"
 
 namespace tarnwick {
 
+class LocalPreferences;
 class RulePages;
 
 /// Removes the selected row of a table. Order: list, store, synchronise, reload, template file (CreateNewFile
@@ -13,12 +15,13 @@ class RulePages;
 /// the remove button alone.
 class RemoveRule {
 public:
-    RemoveRule(const Platform& platform, RulePages& pages) : platform_(platform), pages_(pages) {}
+    RemoveRule(const Platform& platform, LocalPreferences& local, RulePages& pages)
+        : templates_(platform, local), pages_(pages) {}
 
     void remove(RuleCategory category);
 
 private:
-    Platform platform_;
+    TemplateFiles templates_;
     RulePages& pages_;
 };
 

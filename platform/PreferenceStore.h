@@ -17,6 +17,8 @@ public:
     /// The value under `key`; nothing when absent, which is not the same as false.
     [[nodiscard]] virtual std::optional<PlistValue> value(std::string_view key) const = 0;
     virtual void setValue(std::string_view key, const PlistValue& value) = 0;
+    /// From now on `key` is absent.
+    virtual void removeValue(std::string_view key) = 0;
     virtual void synchronize() = 0;
 };
 

@@ -11,21 +11,43 @@
 #include "prefs/RuleList.h"
 #include "prefs/RulePublisher.h"
 
+#include <algorithm>
 #include <string>
 
 namespace tarnwick {
+namespace {
 
-void FactoryLists::resetArrOfCreateNewFile() {
+std::vector<RuleRecord> templateRecords() {
     std::vector<RuleRecord> records;
     records.reserve(factoryTemplates.size());
     for (const auto& row : factoryTemplates) {
         records.push_back(
             makeTemplateRecord(row.displayName, row.extension, row.enable, RecordOrigin::factory));
     }
-    commit(RuleCategory::createNewFile, std::move(records));
+    return records;
+}
+
+} // namespace
+
+void FactoryLists::resetArrOfCreateNewFile() {
+    templateFiles_.noteLayout();
+    commit(RuleCategory::createNewFile, templateRecords());
     publisher_.saveData(
         lists_[RuleCategory::createNewFile].toPlist(), factsOf(RuleCategory::createNewFile).listKey);
     layOutTemplates();
+    templateFiles_.forgetLayout();
+}
+
+void FactoryLists::finishTemplateFiles() {
+    const auto& stored = lists_[RuleCategory::createNewFile];
+    const auto factory = templateRecords();
+    // Any other list has files of its own that the layout would remove.
+    if (templateFiles_.isLayoutPending() &&
+        std::equal(stored.begin(), stored.end(), factory.begin(), factory.end())) {
+        platform_.log.write("the template folder is laid out again after an interruption");
+        layOutTemplates();
+    }
+    templateFiles_.finish(stored);
 }
 
 void FactoryLists::layOutTemplates() {

@@ -4,6 +4,7 @@
 #include "prefs/FactoryTables.h"
 #include "prefs/RuleCategory.h"
 #include "prefs/RuleRecord.h"
+#include "prefs/TemplateFiles.h"
 
 #include <optional>
 #include <string_view>
@@ -22,11 +23,15 @@ class FactoryLists {
 public:
     FactoryLists(
         const Platform& platform, LocalPreferences& local, RuleLists& lists, RulePublisher& publisher)
-        : platform_(platform), local_(local), lists_(lists), publisher_(publisher) {}
+        : platform_(platform), local_(local), lists_(lists), publisher_(publisher),
+          templateFiles_(platform, local) {}
 
     /// Stores and synchronises the fifteen templates, publishes them whole, disabled ones included, then
     /// removes the template folder and lays it out anew. Files that cannot be copied are left out.
     void resetArrOfCreateNewFile();
+    /// At a start, once the templates are loaded: lays the folder out again when a reset was interrupted, and
+    /// finishes any other change of template files that was.
+    void finishTemplateFiles();
     void resetArrOfCopyFilesTo();
     void resetArrOfCustomIcon();
     void resetArrOfOthers();
@@ -43,6 +48,7 @@ private:
     LocalPreferences& local_;
     RuleLists& lists_;
     RulePublisher& publisher_;
+    TemplateFiles templateFiles_;
 };
 
 } // namespace tarnwick

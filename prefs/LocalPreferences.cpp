@@ -38,6 +38,12 @@ void LocalPreferences::set(std::string_view key, const PlistValue& value) {
     }
 }
 
+void LocalPreferences::remove(std::string_view key) {
+    if (store_) {
+        store_->removeValue(key);
+    }
+}
+
 void LocalPreferences::synchronize() {
     if (store_) {
         store_->synchronize();

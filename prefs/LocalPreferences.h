@@ -33,6 +33,7 @@ public:
     [[nodiscard]] bool containsArray(std::string_view key) const;
 
     void set(std::string_view key, const PlistValue& value);
+    void remove(std::string_view key);
     void synchronize();
 
     /// Writes the whole list under its list key, leaving it to the platform when that reaches the disk.

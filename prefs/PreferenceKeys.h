@@ -18,6 +18,8 @@ inline constexpr std::string_view shownEnableExtensionAlert = "ShownEnableExtens
 /// Dictionary in `SharedPreferences`: the latest request to the extension.
 inline constexpr std::string_view askAction = "askActionFromTarnwick";
 inline constexpr std::string_view imageToIcon = "enableImagetoIcon";
+/// Array of strings in `LocalPreferences`: what has yet to happen to template files; see `TemplateFiles`.
+inline constexpr std::string_view pendingTemplateFiles = "pendingTemplateFiles";
 } // namespace key
 
 /// Switches that get their first value together: when `LocalPreferences` holds nothing under the first of

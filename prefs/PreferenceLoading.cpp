@@ -100,6 +100,7 @@ void PreferenceLoading::loadLists() {
     load(RuleCategory::copyFilesTo);
     load(RuleCategory::commonPath);
     load(RuleCategory::createNewFile);
+    factory_.finishTemplateFiles();
     if (!local_.contains(key::imageToIcon)) {
         addImageToIconFeature();
     }

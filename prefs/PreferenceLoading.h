@@ -29,9 +29,10 @@ public:
     /// in this order. Neither store is synchronised for the seeding.
     void prepareStoresAndFolders();
 
-    /// Loads CopyFilesTo, CommonPath and CreateNewFile; adds the image-to-icon feature to an older feature
-    /// array; loads CustomIcon and Others, each reset when it has no records; adds the editor items that an
-    /// older Others list lacks, in memory only; in this order.
+    /// Loads CopyFilesTo, CommonPath and CreateNewFile; finishes what an earlier process began with template
+    /// files; adds the image-to-icon feature to an older feature array; loads CustomIcon and Others, each
+    /// reset when it has no records; adds the editor items that an older Others list lacks, in memory only;
+    /// in this order.
     void loadLists();
 
     /// Observes the mirrored switches, in their order.

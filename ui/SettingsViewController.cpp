@@ -28,9 +28,9 @@ SettingsViewController::SettingsViewController(const Platform& platform)
     : platform_(platform), publisher_(platform.preferences, local_, lists_),
       factory_(platform, local_, lists_, publisher_),
       loading_(platform, local_, lists_, publisher_, factory_), pages_(lists_, local_, publisher_),
-      rowViews_(platform, lists_), addRules_(platform, local_, pages_), removeRule_(platform, pages_),
+      rowViews_(platform, lists_), addRules_(platform, local_, pages_), removeRule_(platform, local_, pages_),
       resetRules_(factory_, pages_), toggleRules_(local_, pages_), reorderRules_(pages_),
-      editText_(platform, pages_), choosePath_(platform, pages_), finderExtension_(platform, local_),
+      editText_(platform, local_, pages_), choosePath_(platform, pages_), finderExtension_(platform, local_),
       scriptHelper_(platform) {}
 
 void SettingsViewController::connect(const Outlets& outlets) {

@@ -24,6 +24,11 @@ public:
             }
         }
     }
+    void removeValue(std::string_view key) override {
+        @autoreleasepool {
+            [defaults_.get() removeObjectForKey:toNSString(key)];
+        }
+    }
     void synchronize() override { [defaults_.get() synchronize]; }
 
 private:

@@ -75,6 +75,20 @@ TEST_P(PreferenceStoreContract, AnotherHandleSeesAWriteAtOnce) {
     EXPECT_EQ(open()->value("shared"), PlistValue("now"));
 }
 
+TEST_P(PreferenceStoreContract, ARemovedValueIsAbsentForEveryHandle) {
+    const auto store = open();
+    const auto other = open();
+    store->setValue("note", "text");
+    store->synchronize();
+    store->removeValue("note");
+    EXPECT_FALSE(store->value("note"));
+    EXPECT_FALSE(other->value("note"));
+    store->synchronize();
+    EXPECT_FALSE(open()->value("note"));
+    store->removeValue("note");
+    EXPECT_FALSE(store->value("note"));
+}
+
 TEST_P(PreferenceStoreContract, SynchronisingChangesNoValue) {
     const auto store = open();
     const PlistValue value(PlistDictionary{{"on", true}, {"one", 1}, {"text", "\u8868"}});

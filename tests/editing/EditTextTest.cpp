@@ -68,7 +68,10 @@ TEST_F(EditTextTest, ARowThatTheListDoesNotHaveChangesNothing) {
 TEST_F(EditTextTest, RenamingATemplateMovesItsFileLastOfAll) {
     const std::string folder = "/container/Templates/CreateNewFile/";
     edit("NewFileDisplayName", 0, "Memo");
-    EXPECT_EQ(platform_.log.lines().back(), "move " + folder + "TXT.txt -> " + folder + "Memo.txt");
+    const auto& lines = platform_.log.lines();
+    ASSERT_GE(lines.size(), 2U);
+    EXPECT_EQ(lines[lines.size() - 2], "move " + folder + "TXT.txt -> " + folder + "Memo.txt");
+    EXPECT_EQ(lines.back(), "local remove pendingTemplateFiles");
     EXPECT_EQ(platform_.log.linesWith("move ").size(), 1U);
     EXPECT_TRUE(hasTemplate("Memo.txt"));
     EXPECT_FALSE(hasTemplate("TXT.txt"));

@@ -51,8 +51,8 @@ INSTANTIATE_TEST_SUITE_P(Dropping, OrderOfEffectsTest,
 INSTANTIATE_TEST_SUITE_P(Editing, OrderOfEffectsTest,
     ::testing::Values(
         Effects{"TheNameOfATemplate", [](auto& window) { window.edit("NewFileDisplayName"); },
-            stored("arrOfCreateNewFile") + Lines{"reload createNewFile"} + publishedTemplates() +
-                Lines{"move " + templates + "TXT.txt -> " + templates + "New.txt"}},
+            noted() + stored("arrOfCreateNewFile") + Lines{"reload createNewFile"} + publishedTemplates() +
+                Lines{"move " + templates + "TXT.txt -> " + templates + "New.txt"} + forgotten()},
         Effects{"TheNameOfATarget", [](auto& window) { window.edit("Note"); },
             stored("arrOfCopyFilesTo") + Lines{"reload copyFilesTo"} + publishedTargets()},
         Effects{"TheNameOfATargetByItsOtherIdentifier", [](auto& window) { window.edit("newFileName"); },

@@ -63,6 +63,14 @@ Lines stored(const std::string& list) {
     return {"local set " + list, "local synchronise"};
 }
 
+Lines noted() {
+    return {"local set pendingTemplateFiles"};
+}
+
+Lines forgotten() {
+    return {"local remove pendingTemplateFiles"};
+}
+
 Lines publishedTemplates() {
     return published("arrOfCreateNewFile", "enableAllOfCreateNewFiles", false);
 }

@@ -46,6 +46,10 @@ inline const std::string templates = "/container/Templates/CreateNewFile/";
 /// The list written into the application's own preferences, then synchronised.
 [[nodiscard]] Lines stored(const std::string& list);
 
+/// What is about to happen to template files, noted and forgotten.
+[[nodiscard]] Lines noted();
+[[nodiscard]] Lines forgotten();
+
 /// What publishing each list asks for. An enable-all flag is written true, and false once more when a record
 /// is off, as some factory templates are.
 [[nodiscard]] Lines publishedTemplates();

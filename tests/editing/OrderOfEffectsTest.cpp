@@ -16,9 +16,12 @@ INSTANTIATE_TEST_SUITE_P(Adding, OrderOfEffectsTest,
             [](auto& window) {
                 window.add(&Controller::addCreateNewFileRule, {"/home/Gone.txt", "/home/Letter.txt"});
             },
-            Lines{"open panel", "copy /home/Gone.txt -> " + templates + "Gone.txt",
-                "copy /home/Letter.txt -> " + templates + "Letter.txt", "local set prePathOfCreateNewFile"} +
-                stored("arrOfCreateNewFile") + Lines{"reload createNewFile"} + publishedTemplates()},
+            Lines{"open panel"} + noted() +
+                Lines{"local synchronise", "copy /home/Gone.txt -> " + templates + "Gone.txt",
+                    "copy /home/Letter.txt -> " + templates + "Letter.txt",
+                    "local set prePathOfCreateNewFile"} +
+                Lines{"local set arrOfCreateNewFile"} + forgotten() +
+                Lines{"local synchronise", "reload createNewFile"} + publishedTemplates()},
         Effects{"Targets", [](auto& window) { window.add(&Controller::addSendFilesToRule, {"/a/Zoo"}); },
             Lines{"open panel", "local set prePathOfSendFilesTo"} + stored("arrOfCopyFilesTo") +
                 Lines{"reload copyFilesTo"} + publishedTargets()},
@@ -33,14 +36,14 @@ INSTANTIATE_TEST_SUITE_P(Adding, OrderOfEffectsTest,
     nameOf);
 
 INSTANTIATE_TEST_SUITE_P(Removing, OrderOfEffectsTest,
-    ::testing::Values(
-        Effects{"ATemplate",
-            [](auto& window) {
-                window.remove(&Controller::removeCreateNewFileRule, RuleCategory::createNewFile, 2);
-            },
-            stored("arrOfCreateNewFile") +
-                Lines{"reload createNewFile", "remove " + templates + "XML.xml", "select createNewFile 1"} +
-                publishedTemplates()},
+    ::testing::Values(Effects{"ATemplate",
+                          [](auto& window) {
+                              window.remove(
+                                  &Controller::removeCreateNewFileRule, RuleCategory::createNewFile, 2);
+                          },
+                          noted() + stored("arrOfCreateNewFile") +
+                              Lines{"reload createNewFile", "remove " + templates + "XML.xml"} + forgotten() +
+                              Lines{"select createNewFile 1"} + publishedTemplates()},
         Effects{"ATarget",
             [](auto& window) {
                 window.remove(&Controller::removeCopyFilesToRule, RuleCategory::copyFilesTo, 2);

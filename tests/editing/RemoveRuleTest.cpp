@@ -73,11 +73,12 @@ TEST_F(RemoveRuleTest, ATemplateIsStoredAwayReloadedItsFileDeletedTheNeighbourSe
     select(RuleCategory::createNewFile, 3);
     controller_.removeCreateNewFileRule();
     EXPECT_EQ(platform_.log.lines(),
-        (std::vector<std::string>{"local set arrOfCreateNewFile", "local synchronise", "reload createNewFile",
-            "remove /container/Templates/CreateNewFile/Word.docx", "select createNewFile 2",
-            "local set enableAllOfCreateNewFiles", "local set enableAllOfCreateNewFiles",
-            "shared open H7Q2ZK5RX9.org.halvane.Tarnwick", "shared set arrOfCreateNewFile",
-            "shared synchronise"}));
+        (std::vector<std::string>{"local set pendingTemplateFiles", "local set arrOfCreateNewFile",
+            "local synchronise", "reload createNewFile",
+            "remove /container/Templates/CreateNewFile/Word.docx", "local remove pendingTemplateFiles",
+            "select createNewFile 2", "local set enableAllOfCreateNewFiles",
+            "local set enableAllOfCreateNewFiles", "shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
+            "shared set arrOfCreateNewFile", "shared synchronise"}));
     EXPECT_FALSE(platform_.files.exists("/container/Templates/CreateNewFile/Word.docx"));
 }
 

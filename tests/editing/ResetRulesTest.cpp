@@ -27,14 +27,15 @@ TEST_F(ResetRulesTest, ResettingTheTemplatesPublishesThemWholeLaysOutTheirFolder
             others.push_back(line);
         }
     }
-    EXPECT_EQ(
-        others, (std::vector<std::string>{"local set arrOfCreateNewFile", "local synchronise",
-                    "shared open H7Q2ZK5RX9.org.halvane.Tarnwick", "shared set arrOfCreateNewFile",
-                    "shared synchronise", "remove /container/Templates/CreateNewFile",
-                    "create folder /container/Templates/CreateNewFile", "reload createNewFile",
-                    "disable remove createNewFile", "local set enableAllOfCreateNewFiles",
-                    "local set enableAllOfCreateNewFiles", "shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
-                    "shared set arrOfCreateNewFile", "shared synchronise"}));
+    EXPECT_EQ(others,
+        (std::vector<std::string>{"local set pendingTemplateFiles", "local set arrOfCreateNewFile",
+            "local synchronise", "shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
+            "shared set arrOfCreateNewFile", "shared synchronise",
+            "remove /container/Templates/CreateNewFile", "create folder /container/Templates/CreateNewFile",
+            "local remove pendingTemplateFiles", "reload createNewFile", "disable remove createNewFile",
+            "local set enableAllOfCreateNewFiles", "local set enableAllOfCreateNewFiles",
+            "shared open H7Q2ZK5RX9.org.halvane.Tarnwick", "shared set arrOfCreateNewFile",
+            "shared synchronise"}));
     EXPECT_EQ(platform_.log.linesWith("copy ").size(), 30U);
 }
 

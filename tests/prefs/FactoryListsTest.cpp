@@ -51,11 +51,11 @@ TEST_F(FactoryListsTest, TheTemplateResetStoresPublishesRemovesCreatesAndCopiesI
     platform_.log.clear();
     controller_.resetCreateNewFileRule();
     const auto& lines = platform_.log.lines();
-    EXPECT_EQ(std::vector<std::string>(lines.begin(), lines.begin() + 9),
-        (std::vector<std::string>{"local set arrOfCreateNewFile", "local synchronise",
-            "shared open H7Q2ZK5RX9.org.halvane.Tarnwick", "shared set arrOfCreateNewFile",
-            "shared synchronise", "remove /container/Templates/CreateNewFile",
-            "create folder /container/Templates/CreateNewFile",
+    EXPECT_EQ(std::vector<std::string>(lines.begin(), lines.begin() + 10),
+        (std::vector<std::string>{"local set pendingTemplateFiles", "local set arrOfCreateNewFile",
+            "local synchronise", "shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
+            "shared set arrOfCreateNewFile", "shared synchronise",
+            "remove /container/Templates/CreateNewFile", "create folder /container/Templates/CreateNewFile",
             "copy /resources/TXT.txt -> /container/Templates/CreateNewFile/TXT.txt",
             "copy /resources/txt.png -> /container/Templates/CreateNewFile/txt.png"}));
 }

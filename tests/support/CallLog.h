@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -9,7 +10,15 @@ namespace tarnwick::testing {
 /// "shared synchronise", "copy FROM -> TO" ...
 class CallLog {
 public:
-    void add(std::string line) { lines_.push_back(std::move(line)); }
+    /// Told of each line before what it says takes place.
+    std::function<void(const std::string& line)> observer;
+
+    void add(std::string line) {
+        if (observer) {
+            observer(line);
+        }
+        lines_.push_back(std::move(line));
+    }
     void clear() { lines_.clear(); }
     [[nodiscard]] const std::vector<std::string>& lines() const { return lines_; }
     /// The lines that begin with `prefix`.

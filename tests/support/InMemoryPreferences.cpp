@@ -18,6 +18,12 @@ public:
             owner_.observer(key, value);
         }
     }
+    void removeValue(std::string_view key) override {
+        owner_.log_.add(name_ + " remove " + std::string(key));
+        if (const auto found = values_.find(key); found != values_.end()) {
+            values_.erase(found);
+        }
+    }
     void synchronize() override { owner_.log_.add(name_ + " synchronise"); }
 
 private:

@@ -11,8 +11,8 @@
 
 namespace tarnwick::testing {
 
-/// Both preference domains as dictionaries. Logs "local set KEY", "shared set KEY", "local synchronise",
-/// "shared synchronise", "shared open" and "observe KEY".
+/// Both preference domains as dictionaries. Logs "local set KEY", "shared set KEY", "local remove KEY",
+/// "local synchronise", "shared synchronise", "shared open" and "observe KEY".
 class InMemoryPreferences final : public PreferenceStores {
 public:
     explicit InMemoryPreferences(CallLog& log) : log_(log) {}

@@ -13,6 +13,7 @@ extern "C" NSString *const NSUserDefaultsDidChangeNotification;
 - (nullable NSString *)stringForKey:(NSString *)key;
 - (BOOL)boolForKey:(NSString *)key;
 - (void)setObject:(nullable id)value forKey:(NSString *)key;
+- (void)removeObjectForKey:(NSString *)key;
 - (void)setBool:(BOOL)value forKey:(NSString *)key;
 - (BOOL)synchronize;
 @end

@@ -1,0 +1,172 @@
+#include "tests/support/SettingsFixture.h"
+
+#include <algorithm>
+#include <functional>
+#include <ostream>
+
+namespace tarnwick::testing {
+namespace {
+
+const std::string templates = "/container/Templates/CreateNewFile";
+
+/// What a killed program leaves: the stores and the files.
+struct Remains {
+    PlistDictionary local;
+    PlistDictionary shared;
+    std::map<std::string, std::string> files;
+    std::set<std::string> folders;
+};
+
+/// When a value that was set survives the end of the program: at once, as with a preferences daemon, or from
+/// the next synchronisation on, as with files.
+enum class Keeping { atOnce, whenSynchronised };
+
+/// A window that the tests look over the shoulder of.
+class Window : public SettingsFixture {
+public:
+    Window() = default;
+    explicit Window(const Remains& remains) {
+        platform_.preferences.local = remains.local;
+        platform_.preferences.shared = remains.shared;
+        platform_.files.files = remains.files;
+        platform_.files.folders = remains.folders;
+    }
+
+    void TestBody() override {}
+    using SettingsFixture::launch;
+
+    [[nodiscard]] SettingsViewController& controller() { return controller_; }
+    void choose(const std::vector<std::string>& paths) { platform_.openPanel.choose(paths); }
+    void select(long row) { window_.table(RuleCategory::createNewFile).selected = row; }
+    void addFile(const std::string& path) { platform_.files.files[path] = "content of " + path; }
+
+    /// What would remain, had the program been killed at each step of `work`, the end included.
+    std::vector<Remains> interrupted(Keeping keeping, const std::function<void(Window&)>& work) {
+        std::vector<Remains> moments;
+        auto kept = platform_.preferences.local;
+        const auto snapshot = [&] {
+            const auto& local = keeping == Keeping::atOnce ? platform_.preferences.local : kept;
+            moments.push_back(
+                {local, platform_.preferences.shared, platform_.files.files, platform_.files.folders});
+        };
+        platform_.log.observer = [&](const std::string& line) {
+            snapshot();
+            if (line == "local synchronise") {
+                kept = platform_.preferences.local;
+            }
+        };
+        work(*this);
+        snapshot();
+        platform_.log.observer = nullptr;
+        return moments;
+    }
+
+    [[nodiscard]] PlistArray storedTemplates() const { return localList(RuleCategory::createNewFile); }
+    [[nodiscard]] bool isNotePending() const {
+        return platform_.preferences.local.count("pendingTemplateFiles") != 0;
+    }
+    /// Files of the folder that are no record's template and no icon.
+    [[nodiscard]] std::set<std::string> strangers() const {
+        auto names = platform_.files.namesIn(templates);
+        for (const auto& name : templateNames()) {
+            names.erase(name);
+        }
+        std::erase_if(names,
+            [](const auto& name) { return name.size() > 4 && name.substr(name.size() - 4) == ".png"; });
+        return names;
+    }
+    /// Records' templates that are not in the folder.
+    [[nodiscard]] std::set<std::string> missing() const {
+        auto names = templateNames();
+        for (const auto& name : platform_.files.namesIn(templates)) {
+            names.erase(name);
+        }
+        return names;
+    }
+
+private:
+    [[nodiscard]] std::set<std::string> templateNames() const {
+        const auto list = storedTemplates();
+        const auto names = texts(list, "displayName");
+        const auto extensions = texts(list, "extension");
+        std::set<std::string> files;
+        for (std::size_t row = 0; row < names.size(); ++row) {
+            files.insert(names[row] + "." + extensions[row]);
+        }
+        return files;
+    }
+};
+
+struct Work {
+    const char* name;
+    /// Before the interruptions.
+    void (*prepare)(Window& window);
+    void (*run)(Window& window);
+};
+
+void PrintTo(const Work& work, std::ostream* stream) {
+    *stream << work.name;
+}
+
+void addLetters(Window& window) {
+    window.controller().addCreateNewFileRule();
+    window.choose({"/home/Letter.txt", "/home/Memo.md"});
+}
+
+void launchWithLetters(Window& window) {
+    window.addFile("/home/Letter.txt");
+    window.addFile("/home/Memo.md");
+    window.launch();
+    addLetters(window);
+}
+
+class InterruptionTest : public ::testing::TestWithParam<std::tuple<Work, Keeping>> {};
+
+TEST_P(InterruptionTest, TheNextStartLeavesNoTemplateFileToNobodyAndNoRecordWithoutItsFile) {
+    const auto& [work, keeping] = GetParam();
+    Window window;
+    work.prepare(window);
+    const auto before = window.storedTemplates();
+    const auto moments = window.interrupted(keeping, work.run);
+    const auto after = window.storedTemplates();
+    ASSERT_GT(moments.size(), 5U);
+    for (std::size_t moment = 0; moment < moments.size(); ++moment) {
+        Window next(moments[moment]);
+        next.launch();
+        EXPECT_EQ(next.strangers(), std::set<std::string>()) << moment;
+        EXPECT_EQ(next.missing(), std::set<std::string>()) << moment;
+        EXPECT_FALSE(next.isNotePending()) << moment;
+        const auto list = next.storedTemplates();
+        EXPECT_TRUE(list == before || list == after) << moment;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, InterruptionTest,
+    ::testing::Combine(
+        ::testing::Values(Work{"TheFirstLaunch", [](Window&) {}, [](Window& window) { window.launch(); }},
+            Work{"Adding",
+                [](Window& window) {
+                    window.addFile("/home/Letter.txt");
+                    window.addFile("/home/Memo.md");
+                    window.launch();
+                },
+                addLetters},
+            Work{"Removing", launchWithLetters,
+                [](Window& window) {
+                    window.select(15);
+                    window.controller().removeCreateNewFileRule();
+                }},
+            Work{"Renaming", launchWithLetters,
+                [](Window& window) {
+                    window.controller().controlTextShouldEndEditing("NewFileDisplayName", 15, "Renamed");
+                }},
+            Work{"Resetting", launchWithLetters,
+                [](Window& window) { window.controller().resetCreateNewFileRule(); }}),
+        ::testing::Values(Keeping::atOnce, Keeping::whenSynchronised)),
+    [](const auto& info) {
+        return std::string(std::get<Work>(info.param).name) +
+               (std::get<Keeping>(info.param) == Keeping::atOnce ? "KeptAtOnce" : "KeptWhenSynchronised");
+    });
+
+} // namespace
+} // namespace tarnwick::testing
