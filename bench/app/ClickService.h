@@ -9,12 +9,6 @@ namespace tarnwick::bench {
 /// Runs `serve` inside the running application, once `window()` is the key window, then ends the program.
 void whenRunning(std::function<NSWindow*()> window, std::function<void()> serve);
 
-/// Handles what is queued and what that deferred.
-void settle();
-
-/// Clicks in the middle of a view.
-void click(NSView* view);
-
 /// Prints "ready", then answers each line on standard input, until it ends, with a click in the middle of
 /// `view()` and a line of two numbers: the microseconds from the click until both preference files have been
 /// replaced, and until the window has been drawn again.

@@ -1,6 +1,7 @@
 #import "bench/app/ClickService.h"
 
 #import "platform/gnustep/DefaultsFiles.h"
+#import "tests/driving/Driving.h"
 
 #include <array>
 #include <chrono>
@@ -12,10 +13,10 @@
 
 namespace {
 
+namespace driving = tarnwick::driving;
+
 constexpr double pumpSeconds = 0.002;
 constexpr double patienceSeconds = 60;
-// Rounds without an event, of `pumpSeconds` each.
-constexpr int idleRoundsToSettle = 5;
 
 std::function<NSWindow *()> windowToServe;
 std::function<void()> serviceToRun;
@@ -44,42 +45,6 @@ struct Versions {
     }
 };
 
-/// Handles one event, waiting for it no longer than `seconds`; NO when there was none.
-bool pump(double seconds) {
-    @autoreleasepool {
-        NSEvent *event = [NSApp nextEventMatchingMask:NSEventMaskAny
-                                            untilDate:[NSDate dateWithTimeIntervalSinceNow:seconds]
-                                               inMode:NSDefaultRunLoopMode
-                                              dequeue:YES];
-        if (event) {
-            [NSApp sendEvent:event];
-        }
-        [NSApp updateWindows];
-        return event != nil;
-    }
-}
-
-void postMouse(NSView *view, NSEventType type) {
-    const NSRect bounds = [view bounds];
-    const NSPoint middle = NSMakePoint(NSMidX(bounds), NSMidY(bounds));
-    [NSApp postEvent:[NSEvent mouseEventWithType:type
-                                        location:[view convertPoint:middle toView:nil]
-                                   modifierFlags:0
-                                       timestamp:static_cast<NSTimeInterval>(
-                                                     [[NSProcessInfo processInfo] systemUptime])
-                                    windowNumber:[[view window] windowNumber]
-                                         context:nil
-                                     eventNumber:0
-                                      clickCount:1
-                                        pressure:1]
-             atStart:NO];
-}
-
-void postClick(NSView *view) {
-    postMouse(view, NSEventTypeLeftMouseDown);
-    postMouse(view, NSEventTypeLeftMouseUp);
-}
-
 long microseconds(Clock::duration duration) {
     return static_cast<long>(std::chrono::duration_cast<std::chrono::microseconds>(duration).count());
 }
@@ -87,9 +52,9 @@ long microseconds(Clock::duration duration) {
 void answer(NSView *view) {
     const auto before = Versions::now();
     const auto start = Clock::now();
-    postClick(view);
+    driving::postClicks([view window], driving::middleOf(view));
     while (!Versions::now().allDifferFrom(before)) {
-        pump(pumpSeconds);
+        driving::pump(pumpSeconds);
         if (Clock::now() - start > std::chrono::duration<double>(patienceSeconds)) {
             std::puts("nothing was written");
             return;
@@ -97,7 +62,7 @@ void answer(NSView *view) {
     }
     const auto written = Clock::now();
     do {
-        pump(0);
+        driving::pump(0);
     } while ([[view window] viewsNeedDisplay]);
     std::printf("%ld %ld\n", microseconds(written - start), microseconds(Clock::now() - start));
 }
@@ -119,7 +84,7 @@ bool inputIsWaiting() {
 - (void)start:(id)unused {
     (void)unused;
     while (![windowToServe() isKeyWindow] || ![NSApp isActive]) {
-        pump(pumpSeconds);
+        driving::pump(pumpSeconds);
     }
     serviceToRun();
     [[NSUserDefaults standardUserDefaults] synchronize];
@@ -137,31 +102,20 @@ void whenRunning(std::function<NSWindow *()> window, std::function<void()> serve
     [service performSelector:@selector(start:) withObject:nil afterDelay:0.1];
 }
 
-void settle() {
-    for (int idleRounds = 0; idleRounds < idleRoundsToSettle;) {
-        idleRounds = pump(pumpSeconds) ? 0 : idleRounds + 1;
-    }
-}
-
-void click(NSView *view) {
-    postClick(view);
-    settle();
-}
-
 void serveClicks(const std::function<NSView *()> &view) {
-    settle();
+    driving::settle();
     std::puts("ready");
     std::fflush(stdout);
     std::array<char, 64> line{};
     for (;;) {
         while (!inputIsWaiting()) {
-            pump(pumpSeconds);
+            driving::pump(pumpSeconds);
         }
         if (!std::fgets(line.data(), line.size(), stdin)) {
             return;
         }
         @autoreleasepool {
-            settle();
+            driving::settle();
             answer(view());
             std::fflush(stdout);
         }

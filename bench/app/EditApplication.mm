@@ -4,6 +4,7 @@
 #import "platform/appkit/MainInterface.h"
 #import "platform/appkit/SettingsOutlets.h"
 #import "platform/appkit/SettingsViewController.h"
+#import "tests/driving/Driving.h"
 
 #include "platform/SystemServices.h"
 
@@ -26,7 +27,7 @@ int main(int argc, char *argv[]) {
         SettingsOutlets *outlets = [interface.controller() outlets];
         tarnwick::bench::whenRunning([&interface] { return interface.window(); },
             [outlets] {
-                tarnwick::bench::click([outlets copyFilesToButton]);
+                tarnwick::driving::click([outlets copyFilesToButton]);
                 tarnwick::bench::serveClicks(
                     [outlets] { return checkBoxIn([outlets tableOf:tarnwick::RuleCategory::copyFilesTo]); });
             });

@@ -1,9 +1,10 @@
 #include "TableProbe.h"
 
-#include "Driving.h"
+#include "LettingGo.h"
 #include "TableModel.h"
 
 #import "TNStartUp.h"
+#import "tests/driving/Driving.h"
 
 #import <GNUstepGUI/GSDisplayServer.h>
 
@@ -14,7 +15,6 @@ namespace tarnwick::probe {
 
 namespace {
 
-constexpr int dragSteps = 12;
 /// Left of every control in the name column's cells but inside its text field.
 constexpr double grip = 70;
 
@@ -34,12 +34,10 @@ struct TableWindow::Parts {
     TNTableModel *model = nil;
 
     void build(long rows);
-    void clickInWindow(NSPoint place, int clicks, NSUInteger modifiers = 0) const;
     [[nodiscard]] NSPoint placeInWindow(NSPoint place) const { return [table convertPoint:place toView:nil]; }
     [[nodiscard]] NSPoint middleOfRow(long row) const {
         return placeInWindow(NSMakePoint(grip, NSMidY([table rectOfRow:row])));
     }
-    void drag(NSPoint start, NSPoint end) const;
 };
 
 void TableWindow::Parts::build(long rows) {
@@ -79,29 +77,6 @@ void TableWindow::Parts::build(long rows) {
     [table reloadData];
 }
 
-void TableWindow::Parts::clickInWindow(NSPoint place, int clicks, NSUInteger modifiers) const {
-    @autoreleasepool {
-        for (int click = 1; click <= clicks; ++click) {
-            postMouse(window, NSEventTypeLeftMouseDown, place, click, modifiers);
-            postMouse(window, NSEventTypeLeftMouseUp, place, click, modifiers);
-        }
-        settle();
-    }
-}
-
-void TableWindow::Parts::drag(NSPoint start, NSPoint end) const {
-    @autoreleasepool {
-        postMouse(window, NSEventTypeLeftMouseDown, start, 1);
-        for (int step = 1; step <= dragSteps; ++step) {
-            const double part = static_cast<double>(step) / dragSteps;
-            postMouse(window, NSEventTypeLeftMouseDragged,
-                NSMakePoint(start.x + (end.x - start.x) * part, start.y + (end.y - start.y) * part), 1);
-        }
-        postMouse(window, NSEventTypeLeftMouseUp, end, 1);
-        settle();
-    }
-}
-
 TableWindow::TableWindow(long rows) : parts_(std::make_unique<Parts>()) {
     @autoreleasepool {
         TNPrepareProcess(0, nullptr);
@@ -109,8 +84,8 @@ TableWindow::TableWindow(long rows) : parts_(std::make_unique<Parts>()) {
         parts_->build(rows);
         [parts_->window makeKeyAndOrderFront:nil];
         [NSApp activateIgnoringOtherApps:YES];
-        waitUntil([this] { return [parts_->window isKeyWindow] && [NSApp isActive]; });
-        settle();
+        driving::waitUntil([this] { return [parts_->window isKeyWindow] && [NSApp isActive]; });
+        driving::settle();
     }
 }
 
@@ -124,47 +99,46 @@ TableWindow::~TableWindow() {
 void TableWindow::click(long row, Column column, int clicks) {
     const NSRect frame = [parts_->table frameOfCellAtColumn:column row:row];
     const double inset = column == check ? 13 : 30;
-    parts_->clickInWindow(parts_->placeInWindow(NSMakePoint(NSMinX(frame) + inset, NSMidY(frame))), clicks);
+    driving::click(
+        parts_->window, parts_->placeInWindow(NSMakePoint(NSMinX(frame) + inset, NSMidY(frame))), clicks);
 }
 
 void TableWindow::clickWithCommand(long row) {
-    parts_->clickInWindow(parts_->middleOfRow(row), 1, NSEventModifierFlagCommand);
+    driving::click(parts_->window, parts_->middleOfRow(row), 1, NSEventModifierFlagCommand);
 }
 
 void TableWindow::clickWithShift(long row) {
-    parts_->clickInWindow(parts_->middleOfRow(row), 1, NSEventModifierFlagShift);
+    driving::click(parts_->window, parts_->middleOfRow(row), 1, NSEventModifierFlagShift);
 }
 
 void TableWindow::clickEmptySpace(int clicks) {
     const NSRect visible = [parts_->table visibleRect];
-    parts_->clickInWindow(parts_->placeInWindow(NSMakePoint(grip, NSMaxY(visible) - 4)), clicks);
+    driving::click(parts_->window, parts_->placeInWindow(NSMakePoint(grip, NSMaxY(visible) - 4)), clicks);
 }
 
 void TableWindow::clickFieldOutside() {
-    parts_->clickInWindow(NSMakePoint(60, 20), 1);
+    driving::click(parts_->window, NSMakePoint(60, 20), 1);
 }
 
 void TableWindow::press(TableKey key) {
     const unichar characters[] = {
         NSCarriageReturnCharacter, NSTabCharacter, 0x1B, NSUpArrowFunctionKey, NSDownArrowFunctionKey};
-    postKey(parts_->window, [NSString stringWithCharacters:&characters[static_cast<int>(key)] length:1]);
+    driving::press(parts_->window, [NSString stringWithCharacters:&characters[static_cast<int>(key)]
+                                                           length:1]);
 }
 
 void TableWindow::type(const std::string &text) {
-    NSString *characters = [NSString stringWithUTF8String:text.c_str()];
-    for (NSUInteger index = 0; index < [characters length]; ++index) {
-        postKey(parts_->window, [characters substringWithRange:NSMakeRange(index, 1)]);
-    }
+    driving::type(parts_->window, [NSString stringWithUTF8String:text.c_str()]);
 }
 
 void TableWindow::dragIntoGap(long row, long gap) {
     const double edge = static_cast<double>(gap) * [parts_->table rowHeight];
-    parts_->drag(
-        parts_->middleOfRow(row), parts_->placeInWindow(NSMakePoint(grip, gap == 0 ? edge + 2 : edge - 2)));
+    driving::drag(parts_->window, parts_->middleOfRow(row),
+        parts_->placeInWindow(NSMakePoint(grip, gap == 0 ? edge + 2 : edge - 2)));
 }
 
 void TableWindow::dragOnto(long row, long target) {
-    parts_->drag(parts_->middleOfRow(row), parts_->middleOfRow(target));
+    driving::drag(parts_->window, parts_->middleOfRow(row), parts_->middleOfRow(target));
 }
 
 void TableWindow::dragAtLowerEdge(long row, double wantedScroll) {
@@ -174,24 +148,24 @@ void TableWindow::dragAtLowerEdge(long row, double wantedScroll) {
         const NSPoint edge = parts_->placeInWindow(NSMakePoint(grip, NSMaxY(visible) - 4));
         TNLettingGo *end = [[[TNLettingGo alloc] init] autorelease];
         end->condition = [this, wantedScroll] { return scrolledBy() >= wantedScroll; };
-        end->letGo = [this, edge] { postMouse(parts_->window, NSEventTypeLeftMouseUp, edge, 1); };
+        end->letGo = [this, edge] { driving::postMouse(parts_->window, NSEventTypeLeftMouseUp, edge, 1); };
         // During a drag GNUstep asks where the pointer really is.
         [GSCurrentServer() setMouseLocation:[parts_->window convertBaseToScreen:edge] onScreen:0];
         [end wait];
-        postMouse(parts_->window, NSEventTypeLeftMouseDown, start, 1);
-        postMouse(parts_->window, NSEventTypeLeftMouseDragged, edge, 1);
-        settle();
+        driving::postMouse(parts_->window, NSEventTypeLeftMouseDown, start, 1);
+        driving::postMouse(parts_->window, NSEventTypeLeftMouseDragged, edge, 1);
+        driving::settle();
     }
 }
 
 void TableWindow::scrollToRow(long row) {
     [parts_->table scrollRowToVisible:row];
-    settle();
+    driving::settle();
 }
 
 void TableWindow::reload() {
     [parts_->table reloadData];
-    settle();
+    driving::settle();
 }
 
 void TableWindow::refuseEndOfEditing(bool refuse) {

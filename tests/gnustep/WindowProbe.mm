@@ -1,6 +1,7 @@
 #include "WindowProbe.h"
 
 #import "TNStartUp.h"
+#import "tests/driving/Driving.h"
 
 #import <QuartzCore/QuartzCore.h>
 
@@ -113,18 +114,7 @@ BOOL pressButton(NSView *view, NSString *title) {
 }
 
 - (void)postClick {
-    for (NSEventType type : {NSEventTypeLeftMouseDown, NSEventTypeLeftMouseUp}) {
-        [NSApp postEvent:[NSEvent mouseEventWithType:type
-                                            location:NSMakePoint(60, 24)
-                                       modifierFlags:0
-                                           timestamp:0
-                                        windowNumber:[window windowNumber]
-                                             context:nil
-                                         eventNumber:0
-                                          clickCount:1
-                                            pressure:1]
-                 atStart:NO];
-    }
+    tarnwick::driving::postClicks(window, NSMakePoint(60, 24));
     ++clicksPosted;
     [self next:clicksPosted < clicksWanted ? @selector(postClick) : @selector(readPixels)];
 }
@@ -171,19 +161,7 @@ BOOL pressButton(NSView *view, NSString *title) {
     [window makeKeyAndOrderFront:nil];
     [window makeFirstResponder:field];
     for (NSString *key in [NSArray arrayWithObjects:@"x", @"\r", nil]) {
-        for (NSEventType type : {NSEventTypeKeyDown, NSEventTypeKeyUp}) {
-            [NSApp postEvent:[NSEvent keyEventWithType:type
-                                                    location:NSZeroPoint
-                                               modifierFlags:0
-                                                   timestamp:0
-                                                windowNumber:[window windowNumber]
-                                                     context:nil
-                                                  characters:key
-                                 charactersIgnoringModifiers:key
-                                                   isARepeat:NO
-                                                     keyCode:0]
-                     atStart:NO];
-        }
+        tarnwick::driving::postKey(window, key);
     }
     patience = 0;
     [self next:@selector(finish)];

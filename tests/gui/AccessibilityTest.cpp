@@ -1,5 +1,5 @@
 #include "tests/gui/Controls.h"
-#include "tests/gui/Driver.h"
+#include "tests/gui/Input.h"
 
 #include <gtest/gtest.h>
 

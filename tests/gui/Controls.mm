@@ -1,6 +1,7 @@
 #include "tests/gui/Controls.h"
 
-#include "tests/gui/Driver.h"
+#include "tests/gui/Input.h"
+#include "tests/gui/SettingsWindow.h"
 
 #import "platform/appkit/StringConversion.h"
 
@@ -10,15 +11,7 @@ namespace {
 
 using tarnwick::toString;
 using tarnwick::gui::ControlFacts;
-
-NSWindow *settingsWindow() {
-    for (NSWindow *window in [NSApp windows]) {
-        if ([[window title] isEqualToString:@"Tarnwick"] && [window isVisible]) {
-            return window;
-        }
-    }
-    return nil;
-}
+using tarnwick::gui::settingsWindow;
 
 std::string kindOf(NSView *view) {
     if ([view isKindOfClass:[NSTableView class]]) {
@@ -73,18 +66,6 @@ NSView *keyboardView() {
     return [responder isKindOfClass:[NSView class]] ? static_cast<NSView *>(responder) : nil;
 }
 
-NSView *firstButton(NSView *view) {
-    if ([view isKindOfClass:[NSButton class]]) {
-        return view;
-    }
-    for (NSView *inner in [view subviews]) {
-        if (NSView *found = firstButton(inner)) {
-            return found;
-        }
-    }
-    return nil;
-}
-
 } // namespace
 
 namespace tarnwick::gui {
@@ -107,7 +88,8 @@ bool tabTo(const std::string &label) {
 }
 
 std::vector<ControlFacts> tabOrder() {
-    NSView *first = firstButton([settingsWindow() contentView]);
+    NSView *first = firstView(
+        [settingsWindow() contentView], [](NSView *view) { return [view isKindOfClass:[NSButton class]]; });
     [settingsWindow() makeFirstResponder:first];
     std::vector<ControlFacts> order{controlFacts(first)};
     constexpr std::size_t more = 40;

@@ -1,53 +1,38 @@
 #include "tests/gui/Dropping.h"
 
-#include "tests/gui/Driver.h"
+#include "tests/gui/SettingsWindow.h"
+#include "tests/gui/Shown.h"
 
 #import "platform/appkit/StringConversion.h"
+#import "tests/driving/Driving.h"
 
 #import <AppKit/AppKit.h>
 #import <GNUstepGUI/GSDisplayServer.h>
 
 namespace {
 
+using tarnwick::driving::mouseEvent;
+using tarnwick::driving::postMouse;
 using tarnwick::gui::DropSpot;
+using tarnwick::gui::firstView;
+using tarnwick::gui::pageView;
+using tarnwick::gui::settingsWindow;
 
 /// Rounds of the drag's loop without an event before what they led to is looked at.
 constexpr int quietRounds = 5;
 
-NSWindow *settingsWindow() {
-    for (NSWindow *window in [NSApp windows]) {
-        if ([[window title] isEqualToString:@"Tarnwick"] && [window isVisible]) {
-            return window;
-        }
-    }
-    return nil;
-}
-
-/// Below `view`, the first view of this class that is not hidden, or, with `hidden`, that is.
-NSView *findView(NSView *view, NSString *className, bool hidden = false) {
-    if ([view isKindOfClass:NSClassFromString(className)] && [view isHidden] == hidden) {
-        return view;
-    }
-    for (NSView *inner in [view subviews]) {
-        if (NSView *found = findView(inner, className, hidden)) {
-            return found;
-        }
-    }
-    return nil;
-}
-
-NSView *shownPage() {
-    return findView([settingsWindow() contentView], @"PageDropView");
+NSView *viewOfClass(NSString *name) {
+    return firstView(
+        pageView(), [name](NSView *view) { return [view isKindOfClass:NSClassFromString(name)]; });
 }
 
 bool isHighlighted() {
-    return findView(shownPage(), @"DropMarkView") != nil;
+    return viewOfClass(@"DropMarkView") != nil;
 }
 
 NSPoint placeOf(DropSpot spot) {
-    NSView *page = shownPage();
-    const NSRect frame = [page convertRect:[page bounds] toView:nil];
-    NSView *table = findView(page, @"RuleTableView");
+    const NSRect frame = [pageView() convertRect:[pageView() bounds] toView:nil];
+    NSView *table = viewOfClass(@"RuleTableView");
     const NSRect visible = [table convertRect:[table visibleRect] toView:nil];
     switch (spot) {
     case DropSpot::table:
@@ -57,28 +42,16 @@ NSPoint placeOf(DropSpot spot) {
     case DropSpot::switches:
         break;
     }
-    NSView *box = findView(page, @"PreferenceSwitch");
+    NSView *box = viewOfClass(@"PreferenceSwitch");
     const NSRect boxFrame = [box convertRect:[box bounds] toView:nil];
     return NSMakePoint(NSMidX(boxFrame), NSMidY(boxFrame));
-}
-
-NSEvent *mouseEvent(NSEventType type, NSPoint place) {
-    return [NSEvent mouseEventWithType:type
-                              location:place
-                         modifierFlags:0
-                             timestamp:static_cast<NSTimeInterval>([[NSProcessInfo processInfo] systemUptime])
-                          windowNumber:[settingsWindow() windowNumber]
-                               context:nil
-                           eventNumber:0
-                            clickCount:1
-                              pressure:1];
 }
 
 /// A drag follows the pointer itself, not the events alone.
 void moveMouse(NSPoint place) {
     const NSPoint onScreen = [settingsWindow() convertBaseToScreen:place];
     [GSCurrentServer() setMouseLocation:onScreen onScreen:0];
-    [NSApp postEvent:mouseEvent(NSEventTypeLeftMouseDragged, place) atStart:NO];
+    postMouse(settingsWindow(), NSEventTypeLeftMouseDragged, place);
 }
 
 const NSPoint outside = NSMakePoint(20, 120);
@@ -120,12 +93,12 @@ const NSPoint outside = NSMakePoint(20, 120);
     [[settingsWindow() contentView] dragImage:image
                                            at:outside
                                        offset:NSZeroSize
-                                        event:mouseEvent(NSEventTypeLeftMouseDown, outside)
+                                        event:mouseEvent(settingsWindow(), NSEventTypeLeftMouseDown, outside)
                                    pasteboard:pasteboard
                                        source:self
                                     slideBack:NO];
     [_timer invalidate];
-    tarnwick::gui::settle();
+    tarnwick::driving::settle();
     if (!returns) {
         _result.isHighlighted = isHighlighted();
     }
@@ -156,7 +129,7 @@ const NSPoint outside = NSMakePoint(20, 120);
     if (_result.wasHighlighted && !_returns) {
         tarnwick::gui::takePicture("drop-on-page-" + std::to_string(tarnwick::gui::shownPage() + 1));
     }
-    [NSApp postEvent:mouseEvent(NSEventTypeLeftMouseUp, _returns ? outside : _spot) atStart:NO];
+    postMouse(settingsWindow(), NSEventTypeLeftMouseUp, _returns ? outside : _spot);
 }
 
 @end

@@ -1,5 +1,6 @@
 #include "tests/gui/Driver.h"
 #include "tests/gui/Foreign.h"
+#include "tests/gui/Input.h"
 
 #include <gtest/gtest.h>
 

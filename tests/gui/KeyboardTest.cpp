@@ -1,6 +1,8 @@
 #include "tests/gui/Controls.h"
 #include "tests/gui/Driver.h"
 #include "tests/gui/Foreign.h"
+#include "tests/gui/Input.h"
+#include "tests/gui/Shown.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,7 @@
 #include "tests/gui/Look.h"
 
+#include "tests/gui/SettingsWindow.h"
+
 #include "ui/WindowLayout.h"
 
 #import <AppKit/AppKit.h>
@@ -8,15 +10,6 @@
 
 namespace tarnwick::gui {
 namespace {
-
-NSWindow *settingsWindow() {
-    for (NSWindow *window in [NSApp windows]) {
-        if ([[window title] isEqualToString:@"Tarnwick"] && [window isVisible]) {
-            return window;
-        }
-    }
-    return nil;
-}
 
 struct Brightness {
     double average = 0;

@@ -1,0 +1,72 @@
+#include "tests/gui/SettingsWindow.h"
+
+#import "platform/appkit/MainInterface.h"
+#import "platform/appkit/SettingsOutlets.h"
+#import "platform/appkit/SettingsViewController.h"
+#import "platform/appkit/StringConversion.h"
+
+namespace tarnwick::gui {
+namespace {
+
+const MainInterface *application = nullptr;
+
+} // namespace
+
+void useInterface(const MainInterface &interface) {
+    application = &interface;
+}
+
+::SettingsViewController *settingsController() {
+    return application->controller();
+}
+
+SettingsOutlets *outlets() {
+    return [settingsController() outlets];
+}
+
+NSWindow *settingsWindow() {
+    return application->window();
+}
+
+NSView *pageView() {
+    return [[[outlets() tabView] selectedTabViewItem] view];
+}
+
+NSTableView *tableOf(RuleCategory category) {
+    return [outlets() tableOf:category];
+}
+
+NSControl *controlIn(RuleCategory category, long row, const std::string &column) {
+    NSTableView *table = tableOf(category);
+    [table scrollRowToVisible:row];
+    const NSInteger index = [table columnWithIdentifier:toNSString(column)];
+    NSView *cell = [table viewAtColumn:index row:row makeIfNecessary:YES];
+    if ([cell isKindOfClass:[NSControl class]]) {
+        return static_cast<NSControl *>(cell);
+    }
+    return [[cell subviews] count] > 0 ? [[cell subviews] objectAtIndex:0] : nil;
+}
+
+NSView *firstView(NSView *view, const std::function<bool(NSView *)> &matches) {
+    if ([view isHidden]) {
+        return nil;
+    }
+    if (matches(view)) {
+        return view;
+    }
+    for (NSView *inner in [view subviews]) {
+        if (NSView *found = firstView(inner, matches)) {
+            return found;
+        }
+    }
+    return nil;
+}
+
+NSButton *visibleButton(NSView *view, NSString *title) {
+    return static_cast<NSButton *>(firstView(view, [title](NSView *each) {
+        return [each isKindOfClass:[NSButton class]] &&
+               [[static_cast<NSButton *>(each) title] isEqualToString:title];
+    }));
+}
+
+} // namespace tarnwick::gui

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "prefs/RuleCategory.h"
+
+#include <string>
+
+/// What the window shows.
+namespace tarnwick::gui {
+
+[[nodiscard]] int shownPage();
+[[nodiscard]] long rowCount(RuleCategory table);
+/// -1 when no row is selected.
+[[nodiscard]] long selectedRow(RuleCategory table);
+/// What the cell's text field shows now.
+[[nodiscard]] std::string cellText(RuleCategory table, long row, const std::string& column);
+[[nodiscard]] bool cellIsOn(RuleCategory table, long row, const std::string& column);
+[[nodiscard]] bool cellIsEnabled(RuleCategory table, long row, const std::string& column);
+/// How many rows have controls just now.
+[[nodiscard]] long builtRows(RuleCategory table);
+[[nodiscard]] bool removeButtonIsEnabled(RuleCategory table);
+/// Whether the visible button with this title is enabled; false when there is none.
+[[nodiscard]] bool buttonIsEnabled(const std::string& title);
+/// Whether the visible check box with this title is on.
+[[nodiscard]] bool buttonIsOn(const std::string& title);
+/// Whether a text field with just this text can be seen on the page that is shown.
+[[nodiscard]] bool showsText(const std::string& text);
+/// Whether a text field of the window is being edited.
+[[nodiscard]] bool isEditing();
+/// Keeps a picture of the screen when the environment's TARNWICK_PICTURES names a folder for it.
+void takePicture(const std::string& name);
+
+} // namespace tarnwick::gui

@@ -1,0 +1,88 @@
+#include "tests/gui/Shown.h"
+
+#include "tests/gui/SettingsWindow.h"
+
+#import "platform/appkit/SettingsOutlets.h"
+#import "platform/appkit/StringConversion.h"
+
+#include <cstdlib>
+
+namespace tarnwick::gui {
+namespace {
+
+NSButton *buttonTitled(const std::string &title) {
+    return visibleButton([settingsWindow() contentView], toNSString(title));
+}
+
+} // namespace
+
+int shownPage() {
+    NSTabView *tabView = [outlets() tabView];
+    return static_cast<int>([tabView indexOfTabViewItem:[tabView selectedTabViewItem]]);
+}
+
+long rowCount(RuleCategory table) {
+    return [tableOf(table) numberOfRows];
+}
+
+long selectedRow(RuleCategory table) {
+    return [tableOf(table) selectedRow];
+}
+
+std::string cellText(RuleCategory table, long row, const std::string &column) {
+    return toString([controlIn(table, row, column) stringValue]);
+}
+
+bool cellIsOn(RuleCategory table, long row, const std::string &column) {
+    return [static_cast<NSButton *>(controlIn(table, row, column)) state] == NSControlStateValueOn;
+}
+
+bool cellIsEnabled(RuleCategory table, long row, const std::string &column) {
+    return [controlIn(table, row, column) isEnabled];
+}
+
+long builtRows(RuleCategory table) {
+    NSTableView *view = tableOf(table);
+    long count = 0;
+    for (NSInteger row = 0; row < [view numberOfRows]; ++row) {
+        count += [view viewAtColumn:0 row:row makeIfNecessary:NO] ? 1 : 0;
+    }
+    return count;
+}
+
+bool removeButtonIsEnabled(RuleCategory table) {
+    return [[outlets() removeButtonOf:table] isEnabled];
+}
+
+bool buttonIsEnabled(const std::string &title) {
+    return [buttonTitled(title) isEnabled];
+}
+
+bool buttonIsOn(const std::string &title) {
+    return [buttonTitled(title) state] == NSControlStateValueOn;
+}
+
+bool showsText(const std::string &text) {
+    NSString *wanted = toNSString(text);
+    return firstView(pageView(), [wanted](NSView *view) {
+        return [view isKindOfClass:[NSTextField class]] &&
+               [[static_cast<NSTextField *>(view) stringValue] isEqualToString:wanted];
+    }) != nil;
+}
+
+bool isEditing() {
+    return [[settingsWindow() firstResponder] isKindOfClass:[NSText class]];
+}
+
+void takePicture(const std::string &name) {
+    if (const char *folder = std::getenv("TARNWICK_PICTURES")) {
+        [settingsWindow() display];
+        [settingsWindow() flushWindow];
+        if (std::system(("import -window root '" + std::string(folder) + "/" + name + ".png'").c_str()) !=
+            0) {
+            NSLog(@"No picture of %s", name.c_str());
+        }
+    }
+}
+
+} // namespace tarnwick::gui
