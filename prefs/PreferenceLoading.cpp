@@ -33,6 +33,7 @@ void PreferenceLoading::prepareStoresAndFolders() {
     SharedPreferences shared(platform_.preferences);
     local_.open(platform_.preferences);
     keepUnreadableOriginals(local_, platform_.log);
+    keepUnreadableFeatures(shared, local_, platform_.log);
     seedSwitches(shared);
     if (!local_.containsArray(factsOf(RuleCategory::copyFilesTo).listKey)) {
         buildFeatureArray();

@@ -2,8 +2,10 @@
 
 #include "platform/SystemLog.h"
 #include "prefs/LocalPreferences.h"
+#include "prefs/PreferenceKeys.h"
 #include "prefs/RuleCategory.h"
 #include "prefs/RuleRecord.h"
+#include "prefs/SharedPreferences.h"
 
 #include <algorithm>
 #include <array>
@@ -82,6 +84,13 @@ void keepUnreadableOriginals(LocalPreferences& local, SystemLog& log) {
         if (stored && !isReadableList(*stored)) {
             keepOriginal(local, log, facts.listKey, *stored);
         }
+    }
+}
+
+void keepUnreadableFeatures(const SharedPreferences& shared, LocalPreferences& local, SystemLog& log) {
+    const auto stored = shared.value(key::enabledFeatures);
+    if (stored && !stored->array()) {
+        keepOriginal(local, log, key::enabledFeatures, *stored);
     }
 }
 

@@ -3,6 +3,7 @@
 namespace tarnwick {
 
 class LocalPreferences;
+class SharedPreferences;
 class SystemLog;
 
 /// Keeps what cannot be read before anything overwrites it: for each list key whose
@@ -11,5 +12,9 @@ class SystemLog;
 /// earlier is never replaced: a different one goes under "<list key>.unreadable.2" and so on. Sound values
 /// are left alone and nothing is written.
 void keepUnreadableOriginals(LocalPreferences& local, SystemLog& log);
+
+/// The same for the features that are switched on, the one list that only `SharedPreferences` holds: a value
+/// that is no array goes under "arrOfEnableOther.unreadable" in `LocalPreferences`.
+void keepUnreadableFeatures(const SharedPreferences& shared, LocalPreferences& local, SystemLog& log);
 
 } // namespace tarnwick

@@ -113,6 +113,25 @@ TEST_F(UnreadableValuesTest, AFeatureArrayThatIsNoArrayBecomesTheOneEntryArray) 
     platform_.preferences.shared.insert_or_assign("arrOfEnableOther", "damaged");
     controller_.awakeFromNib();
     EXPECT_EQ(shared("arrOfEnableOther"), PlistValue(PlistArray{"enableImagetoIcon"}));
+    EXPECT_EQ(local("arrOfEnableOther.unreadable"), PlistValue("damaged"));
+    EXPECT_EQ(platform_.systemLog.lines,
+        std::vector<std::string>{"arrOfEnableOther: what cannot be read is left out; the original is kept "
+                                 "under arrOfEnableOther.unreadable"});
+}
+
+TEST_F(UnreadableValuesTest, AFeatureArrayThatIsNoArrayIsKeptAlsoWhenAFirstRunBuildsItAnew) {
+    platform_.preferences.shared.insert_or_assign("arrOfEnableOther", PlistDictionary{{"a", 1}});
+    controller_.awakeFromNib();
+    EXPECT_EQ(shared("arrOfEnableOther").array()->size(), 11U);
+    EXPECT_EQ(local("arrOfEnableOther.unreadable"), PlistValue(PlistDictionary{{"a", 1}}));
+}
+
+TEST_F(UnreadableValuesTest, WhatAFeatureArrayHoldsStaysInIt) {
+    storeList(RuleCategory::copyFilesTo, {});
+    platform_.preferences.shared.insert_or_assign("arrOfEnableOther", PlistArray{1, "mine"});
+    controller_.awakeFromNib();
+    EXPECT_EQ(shared("arrOfEnableOther"), PlistValue(PlistArray{1, "mine", "enableImagetoIcon"}));
+    EXPECT_FALSE(has("arrOfEnableOther.unreadable"));
 }
 
 } // namespace
