@@ -1,6 +1,7 @@
 #include "tests/gui/Driver.h"
 #include "tests/gui/Foreign.h"
 #include "tests/gui/Input.h"
+#include "tests/gui/Panels.h"
 #include "tests/gui/Shown.h"
 
 #include <gtest/gtest.h>
@@ -29,7 +30,7 @@ bool lastTemplateIs(const std::string& name) {
 TEST(Adding, AChosenTemplateIsCopiedAppendedAndPublished) {
     const auto folder = makeFolder("docs");
     writeFile(folder + "/Letter.txt", "Dear");
-    chooseInNextPanel({folder, "Letter.txt"});
+    chooseInNextPanel(folder + "/Letter.txt");
     clickButton("Add Templates\u2026");
     ASSERT_TRUE(waitUntil([] { return lastTemplateIs("Letter"); }));
     EXPECT_EQ(rowCount(RuleCategory::createNewFile), 16);
@@ -42,7 +43,7 @@ TEST(Adding, AChosenTemplateIsCopiedAppendedAndPublished) {
 
 TEST(Adding, CancellingThePanelChangesNothing) {
     const auto before = local("sorted(d)");
-    chooseInNextPanel({});
+    cancelNextPanel();
     pressCommand('n');
     settle();
     EXPECT_EQ(rowCount(RuleCategory::createNewFile), 16);
@@ -53,7 +54,7 @@ TEST(Adding, CommandNAddsToThePageThatIsShown) {
     const auto folder = makeFolder("pictures");
     ASSERT_EQ(std::system(("convert-im6.q16 -size 40x30 xc:blue '" + folder + "/Blue.png'").c_str()), 0);
     clickPageButton(Page::customIcon);
-    chooseInNextPanel({folder, "Blue.png"});
+    chooseInNextPanel(folder + "/Blue.png");
     pressCommand('n');
     ASSERT_TRUE(waitUntil([] { return shared("len(d['arrOfCustomIcon'])") == "21"; }));
     EXPECT_EQ(shared("[d['arrOfCustomIcon'][-1][k] for k in ('displayName', 'enable', 'modified')]"),
@@ -65,7 +66,7 @@ TEST(Adding, CommandNAddsToThePageThatIsShown) {
 TEST(Adding, AChosenFolderBecomesATarget) {
     const auto folder = makeFolder("target");
     clickPageButton(Page::copyFilesTo);
-    chooseInNextPanel({sandboxFolder(), folder.substr(folder.rfind('/') + 1)});
+    chooseInNextPanel(folder);
     clickButton("Add Folders\u2026");
     ASSERT_TRUE(waitUntil([] { return shared("len(d.get('arrOfCopyFilesTo', []))") == "1"; }));
     EXPECT_EQ(shared("d['arrOfCopyFilesTo'][0]"),
@@ -78,7 +79,7 @@ TEST(Adding, TheChooseFolderButtonGivesTheSelectedRowAnotherFolder) {
     EXPECT_FALSE(buttonIsEnabled("Choose Folder\u2026"));
     clickCell(RuleCategory::copyFilesTo, 0, "Note");
     EXPECT_TRUE(buttonIsEnabled("Choose Folder\u2026"));
-    chooseInNextPanel({sandboxFolder(), folder.substr(folder.rfind('/') + 1)});
+    chooseInNextPanel(folder);
     clickButton("Choose Folder\u2026");
     ASSERT_TRUE(
         waitUntil([&] { return shared("d['arrOfCopyFilesTo'][0]['realPath']") == "'" + folder + "'"; }));
@@ -88,7 +89,7 @@ TEST(Adding, TheChooseFolderButtonGivesTheSelectedRowAnotherFolder) {
 
 TEST(Adding, ADoubleClickOnThePathDoesTheSame) {
     const auto folder = makeFolder("third");
-    chooseInNextPanel({sandboxFolder(), folder.substr(folder.rfind('/') + 1)});
+    chooseInNextPanel(folder);
     clickCell(RuleCategory::copyFilesTo, 0, "realPath", 2);
     ASSERT_TRUE(
         waitUntil([&] { return shared("d['arrOfCopyFilesTo'][0]['realPath']") == "'" + folder + "'"; }));
@@ -98,7 +99,7 @@ TEST(Adding, ACommonFolderIsPublishedWithItsFirstChange) {
     const auto folder = makeFolder("common");
     EXPECT_EQ(shared("'arrOfCommonPath' in d"), "False");
     clickPageButton(Page::commonPath);
-    chooseInNextPanel({sandboxFolder(), folder.substr(folder.rfind('/') + 1)});
+    chooseInNextPanel(folder);
     clickButton("Add Folders\u2026");
     ASSERT_TRUE(waitUntil([] { return shared("len(d.get('arrOfCommonPath', []))") == "1"; }));
     EXPECT_EQ(cellText(RuleCategory::commonPath, 0, "commonPathDisplayName"), "common");
@@ -109,7 +110,7 @@ TEST(Adding, AnActionIconBringsItsMenuItemBack) {
     const auto folder =
         sandboxFolder() +
         "/library/Group Containers/H7Q2ZK5RX9.org.halvane.Tarnwick/Templates/OthersMenuItemIcon";
-    chooseInNextPanel({folder, "Paste.png"});
+    chooseInNextPanel(folder + "/Paste.png");
     clickButton("Add Items\u2026");
     ASSERT_TRUE(waitUntil([] { return shared("len(d['arrOfOthers'])") == "19"; }));
     EXPECT_EQ(shared("[d['arrOfOthers'][-1][k] for k in ('Action', 'displayName', 'Note', 'nameModified')]"),

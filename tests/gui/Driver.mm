@@ -1,9 +1,9 @@
 #include "tests/gui/Driver.h"
 
+#include "tests/gui/Panels.h"
 #include "tests/gui/SettingsWindow.h"
 
 #import "platform/appkit/MainInterface.h"
-#import "platform/appkit/StringConversion.h"
 #import "tests/driving/Driving.h"
 
 #include "platform/SystemServices.h"
@@ -13,21 +13,12 @@
 namespace {
 
 std::function<int()> testsToRun;
-std::string alertText;
-
-NSTextField *firstLabel(NSView *view) {
-    return static_cast<NSTextField *>(tarnwick::gui::firstView(view, [](NSView *each) {
-        return [each isKindOfClass:[NSTextField class]] &&
-               [[static_cast<NSTextField *>(each) stringValue] length] > 0;
-    }));
-}
 
 } // namespace
 
-/// Runs the tests once the application runs, and presses buttons in panels while they block everything else.
+/// Runs the tests once the application runs.
 @interface GuiTestRunner : NSObject
 - (void)runTests:(id)sender;
-- (void)pressButton:(NSString *)title;
 @end
 
 @implementation GuiTestRunner
@@ -43,20 +34,6 @@ NSTextField *firstLabel(NSView *view) {
     const int status = testsToRun();
     [[NSUserDefaults standardUserDefaults] synchronize];
     std::exit(status);
-}
-
-- (void)pressButton:(NSString *)title {
-    NSView *panel = [[NSApp modalWindow] contentView];
-    NSButton *button = tarnwick::gui::visibleButton(panel, title);
-    if (button) {
-        alertText = tarnwick::toString([firstLabel(panel) stringValue]);
-        [button performClick:self];
-        return;
-    }
-    [self performSelector:@selector(pressButton:)
-               withObject:title
-               afterDelay:0.02
-                  inModes:[NSArray arrayWithObject:NSModalPanelRunLoopMode]];
 }
 
 @end
@@ -86,26 +63,6 @@ bool waitUntil(const std::function<bool()> &condition) {
 
 void settle() {
     driving::settle();
-}
-
-std::string lastAlertText() {
-    return alertText;
-}
-
-void pressInNextPanel(const std::string &buttonTitle) {
-    GuiTestRunner *runner = [[[GuiTestRunner alloc] init] autorelease];
-    [runner performSelector:@selector(pressButton:)
-                 withObject:toNSString(buttonTitle)
-                 afterDelay:0.02
-                    inModes:[NSArray arrayWithObject:NSModalPanelRunLoopMode]];
-}
-
-void chooseInNextPanel(const std::vector<std::string> &texts) {
-    NSMutableArray *arguments = [NSMutableArray array];
-    for (const auto &text : texts) {
-        [arguments addObject:toNSString(text)];
-    }
-    [NSTask launchedTaskWithLaunchPath:@TARNWICK_GUI_TESTS "/choose-in-panel" arguments:arguments];
 }
 
 } // namespace tarnwick::gui

@@ -1,6 +1,7 @@
 #include "tests/gui/Driver.h"
 #include "tests/gui/Foreign.h"
 #include "tests/gui/Input.h"
+#include "tests/gui/Panels.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,7 @@
 #include "tests/gui/Driver.h"
 #include "tests/gui/Foreign.h"
 #include "tests/gui/Input.h"
+#include "tests/gui/Panels.h"
 
 #include <gtest/gtest.h>
 
@@ -45,7 +46,7 @@ TEST(Integration, AStorePageOpensFromThePageOfFurtherApps) {
 
 TEST(Integration, ConfirmingTheScriptFolderInstallsTheScript) {
     const auto scripts = sandboxFolder() + "/library/Application Scripts";
-    chooseInNextPanel({scripts, "org.halvane.Tarnwick"});
+    chooseInNextPanel(scripts + "/org.halvane.Tarnwick");
     sendAction("doInstallScript");
     EXPECT_TRUE(waitUntil([&] {
         return contentsOf(scripts + "/org.halvane.Tarnwick/applescript.scpt").find("initialize") !=

@@ -2,6 +2,7 @@
 #include "tests/gui/Driver.h"
 #include "tests/gui/Foreign.h"
 #include "tests/gui/Input.h"
+#include "tests/gui/Panels.h"
 #include "tests/gui/Shown.h"
 
 #include <gtest/gtest.h>
@@ -88,14 +89,14 @@ TEST(Keyboard, AFolderIsAddedAndThenAnotherChosen) {
     pressCommand('2');
     const auto one = folder("one");
     const auto two = folder("two");
-    chooseInNextPanel({sandboxFolder(), "one"});
+    chooseInNextPanel(sandboxFolder() + "/one");
     pressCommand('n');
     ASSERT_TRUE(waitUntil([] { return rowCount(RuleCategory::copyFilesTo) == 1; }));
     ASSERT_TRUE(tabTo("Copy & Move To"));
     pressCommand('2');
     press(Key::down);
     ASSERT_EQ(selectedRow(RuleCategory::copyFilesTo), 0);
-    chooseInNextPanel({sandboxFolder(), "two"});
+    chooseInNextPanel(sandboxFolder() + "/two");
     ASSERT_TRUE(tabTo("Choose Folder\u2026"));
     press(Key::space);
     ASSERT_TRUE(waitUntil([&] { return shared("d['arrOfCopyFilesTo'][0]['realPath']") == "'" + two + "'"; }));

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+/// What a person does in alerts and panels. They block everything else, so this is arranged before what opens
+/// them.
+namespace tarnwick::gui {
+
+/// Presses the button with this title in the next alert or panel.
+void pressInNextPanel(const std::string& buttonTitle);
+/// What the alert said whose button was pressed last.
+[[nodiscard]] std::string lastAlertText();
+
+/// Types a path into the next open panel and confirms.
+void chooseInNextPanel(const std::string& path);
+/// Presses Escape in the next open panel.
+void cancelNextPanel();
+
+} // namespace tarnwick::gui

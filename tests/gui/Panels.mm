@@ -1,0 +1,189 @@
+#include "tests/gui/Panels.h"
+
+#include "tests/gui/SettingsWindow.h"
+
+#import "platform/appkit/StringConversion.h"
+#import "tests/driving/Driving.h"
+
+namespace {
+
+namespace driving = tarnwick::driving;
+
+std::string alertText;
+
+NSTextField *firstLabel(NSView *view) {
+    return static_cast<NSTextField *>(tarnwick::gui::firstView(view, [](NSView *each) {
+        return [each isKindOfClass:[NSTextField class]] &&
+               [[static_cast<NSTextField *>(each) stringValue] length] > 0;
+    }));
+}
+
+bool eventsAreWaiting() {
+    return [NSApp nextEventMatchingMask:NSEventMaskAny
+                              untilDate:nil
+                                 inMode:NSModalPanelRunLoopMode
+                                dequeue:NO] != nil;
+}
+
+} // namespace
+
+/// Looks for a panel again and again, also while one blocks everything else, until it has been answered.
+@interface PanelAnswer : NSObject {
+@private
+    NSWindow *_panel;
+    int _looks;
+    BOOL _isLooking;
+}
+- (void)begin;
+/// With a panel up and every event handled: takes the next step. NO once there is none left.
+- (BOOL)goOnIn:(NSWindow *)panel;
+@end
+
+@implementation PanelAnswer
+
+- (void)begin {
+    NSTimer *timer = [NSTimer timerWithTimeInterval:0.02
+                                             target:self
+                                           selector:@selector(look:)
+                                           userInfo:nil
+                                            repeats:YES];
+    for (NSString *mode in [NSArray arrayWithObjects:NSDefaultRunLoopMode, NSModalPanelRunLoopMode, nil]) {
+        [[NSRunLoop currentRunLoop] addTimer:timer forMode:mode];
+    }
+}
+
+- (void)look:(NSTimer *)timer {
+    // The timer fires also while this looks for events and posts some.
+    if (!_isLooking) {
+        _isLooking = YES;
+        if (![self lookAtPanel:[NSApp modalWindow]]) {
+            [timer invalidate];
+        }
+        _isLooking = NO;
+    }
+}
+
+- (BOOL)lookAtPanel:(NSWindow *)panel {
+    constexpr int patience = 500;
+    if (_panel && panel != _panel) {
+        return NO;
+    }
+    _panel = panel;
+    if (++_looks == patience) {
+        NSLog(@"The panel \"%@\" was not answered", [panel title]);
+        if (panel) {
+            [NSApp abortModal];
+        }
+        return NO;
+    }
+    return !panel || eventsAreWaiting() || [self goOnIn:panel];
+}
+
+- (BOOL)goOnIn:(NSWindow *)panel {
+    return NO;
+}
+
+@end
+
+@interface ButtonAnswer : PanelAnswer {
+@public
+    NSString *title;
+}
+@end
+
+@implementation ButtonAnswer
+
+- (void)dealloc {
+    [title release];
+    [super dealloc];
+}
+
+- (BOOL)goOnIn:(NSWindow *)panel {
+    NSButton *button = tarnwick::gui::visibleButton([panel contentView], title);
+    if (!button) {
+        return YES;
+    }
+    alertText = tarnwick::toString([firstLabel([panel contentView]) stringValue]);
+    [button performClick:self];
+    return NO;
+}
+
+@end
+
+/// Chooses in an open panel: types a folder and then the name of what is in it.
+@interface PathAnswer : PanelAnswer {
+@public
+    NSArray *texts;
+@private
+    NSUInteger _typed;
+    /// What the panel must show before the next step.
+    NSString *_shown;
+}
+@end
+
+@implementation PathAnswer
+
+- (void)dealloc {
+    [texts release];
+    [super dealloc];
+}
+
+- (BOOL)goOnIn:(NSWindow *)panel {
+    NSText *field = (NSText *)[panel firstResponder];
+    const bool isEditing = [field isKindOfClass:[NSText class]];
+    if (!isEditing || (_shown && ![[field string] isEqualToString:_shown])) {
+        return YES;
+    }
+    if (_typed < [texts count]) {
+        _shown = [texts objectAtIndex:_typed++];
+        [field selectAll:self];
+        for (NSUInteger index = 0; index < [_shown length]; ++index) {
+            driving::postKey(panel, [_shown substringWithRange:NSMakeRange(index, 1)]);
+        }
+    } else {
+        // For a folder, the first Return goes into it and the second takes it.
+        driving::postKey(panel, @"\r");
+        _shown = nil;
+    }
+    return YES;
+}
+
+@end
+
+@interface EscapeAnswer : PanelAnswer
+@end
+
+@implementation EscapeAnswer
+
+- (BOOL)goOnIn:(NSWindow *)panel {
+    driving::postKey(panel, @"\x1B");
+    return NO;
+}
+
+@end
+
+namespace tarnwick::gui {
+
+void pressInNextPanel(const std::string &buttonTitle) {
+    ButtonAnswer *answer = [[[ButtonAnswer alloc] init] autorelease];
+    answer->title = [toNSString(buttonTitle) copy];
+    [answer begin];
+}
+
+std::string lastAlertText() {
+    return alertText;
+}
+
+void chooseInNextPanel(const std::string &path) {
+    PathAnswer *answer = [[[PathAnswer alloc] init] autorelease];
+    NSString *whole = toNSString(path);
+    answer->texts = [[NSArray alloc]
+        initWithObjects:[whole stringByDeletingLastPathComponent], [whole lastPathComponent], nil];
+    [answer begin];
+}
+
+void cancelNextPanel() {
+    [[[[EscapeAnswer alloc] init] autorelease] begin];
+}
+
+} // namespace tarnwick::gui
