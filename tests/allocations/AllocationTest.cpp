@@ -35,6 +35,10 @@ struct Operation {
     void (*run)(LongList& list);
 };
 
+void PrintTo(const Operation& operation, std::ostream* stream) {
+    *stream << operation.name;
+}
+
 void launch(LongList& list) {
     list.launch();
 }

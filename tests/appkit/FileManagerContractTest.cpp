@@ -8,8 +8,9 @@
 
 #include <cstdlib>
 #include <fstream>
-#include <functional>
 #include <iterator>
+#include <memory>
+#include <ostream>
 #include <sys/stat.h>
 
 namespace tarnwick::testing {
@@ -52,15 +53,22 @@ struct OnDisk final : Files {
     }
 };
 
-using Making = std::function<std::unique_ptr<Files>()>;
+struct Implementation {
+    const char* name;
+    std::unique_ptr<Files> (*make)();
+};
 
-class FileManagerContract : public ::testing::TestWithParam<Making> {
+void PrintTo(const Implementation& implementation, std::ostream* stream) {
+    *stream << implementation.name;
+}
+
+class FileManagerContract : public ::testing::TestWithParam<Implementation> {
 protected:
     [[nodiscard]] std::string at(const std::string& name) { return files->folder() + "/" + name; }
     FileManager& manager() { return files->manager(); }
 
     Pool pool;
-    std::unique_ptr<Files> files = GetParam()();
+    std::unique_ptr<Files> files = GetParam().make();
 };
 
 TEST_P(FileManagerContract, FilesAndFoldersExist) {
@@ -122,11 +130,11 @@ TEST_P(FileManagerContract, NamesOfAnyScriptWork) {
     EXPECT_EQ(files->read(at("b")), "1");
 }
 
-INSTANTIATE_TEST_SUITE_P(InMemory, FileManagerContract,
-    ::testing::Values(Making([] { return std::make_unique<InMemory>(); })),
-    [](const auto&) { return "Port"; });
-INSTANTIATE_TEST_SUITE_P(Foundation, FileManagerContract,
-    ::testing::Values(Making([] { return std::make_unique<OnDisk>(); })), [](const auto&) { return "Port"; });
+INSTANTIATE_TEST_SUITE_P(Every, FileManagerContract,
+    ::testing::Values(
+        Implementation{"InMemory", []() -> std::unique_ptr<Files> { return std::make_unique<InMemory>(); }},
+        Implementation{"Foundation", []() -> std::unique_ptr<Files> { return std::make_unique<OnDisk>(); }}),
+    [](const auto& info) { return std::string(info.param.name); });
 
 } // namespace
 } // namespace tarnwick::testing

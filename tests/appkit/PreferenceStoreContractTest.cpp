@@ -6,7 +6,8 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
+#include <memory>
+#include <ostream>
 
 namespace tarnwick::testing {
 namespace {
@@ -28,10 +29,25 @@ struct UserDefaults final : Stores {
     PreferenceStores& stores() override { return *preferences; }
 };
 
-using Making = std::function<std::unique_ptr<Stores>()>;
+struct Implementation {
+    const char* name;
+    std::unique_ptr<Stores> (*make)();
+};
 enum class Domain { standard, suite };
 
-class PreferenceStoreContract : public ::testing::TestWithParam<std::tuple<Making, Domain>> {
+const char* nameOf(Domain domain) {
+    return domain == Domain::standard ? "StandardDomain" : "Suite";
+}
+
+void PrintTo(const Implementation& implementation, std::ostream* stream) {
+    *stream << implementation.name;
+}
+
+void PrintTo(Domain domain, std::ostream* stream) {
+    *stream << nameOf(domain);
+}
+
+class PreferenceStoreContract : public ::testing::TestWithParam<std::tuple<Implementation, Domain>> {
 protected:
     [[nodiscard]] std::unique_ptr<PreferenceStore> open() {
         return std::get<Domain>(GetParam()) == Domain::standard
@@ -40,7 +56,7 @@ protected:
     }
 
     Pool pool;
-    std::unique_ptr<Stores> stores = std::get<Making>(GetParam())();
+    std::unique_ptr<Stores> stores = std::get<Implementation>(GetParam()).make();
 };
 
 TEST_P(PreferenceStoreContract, AnAbsentKeyHasNoValue) {
@@ -97,19 +113,16 @@ TEST_P(PreferenceStoreContract, SynchronisingChangesNoValue) {
     EXPECT_EQ(store->value("dictionary"), value);
 }
 
-const auto inMemory = Making([] { return std::make_unique<InMemory>(); });
-const auto userDefaults = Making([] { return std::make_unique<UserDefaults>(); });
-
-std::string nameOf(const ::testing::TestParamInfo<std::tuple<Making, Domain>>& info) {
-    return std::get<Domain>(info.param) == Domain::standard ? "StandardDomain" : "Suite";
-}
-
-INSTANTIATE_TEST_SUITE_P(InMemory, PreferenceStoreContract,
-    ::testing::Combine(::testing::Values(inMemory), ::testing::Values(Domain::standard, Domain::suite)),
-    nameOf);
-INSTANTIATE_TEST_SUITE_P(UserDefaults, PreferenceStoreContract,
-    ::testing::Combine(::testing::Values(userDefaults), ::testing::Values(Domain::standard, Domain::suite)),
-    nameOf);
+INSTANTIATE_TEST_SUITE_P(Every, PreferenceStoreContract,
+    ::testing::Combine(
+        ::testing::Values(Implementation{"InMemory",
+                              []() -> std::unique_ptr<Stores> { return std::make_unique<InMemory>(); }},
+            Implementation{"UserDefaults",
+                []() -> std::unique_ptr<Stores> { return std::make_unique<UserDefaults>(); }}),
+        ::testing::Values(Domain::standard, Domain::suite)),
+    [](const auto& info) {
+        return std::string(std::get<Implementation>(info.param).name) + nameOf(std::get<Domain>(info.param));
+    });
 
 } // namespace
 } // namespace tarnwick::testing

@@ -21,6 +21,14 @@ struct Remains {
 /// the next synchronisation on, as with files.
 enum class Keeping { atOnce, whenSynchronised };
 
+const char* nameOf(Keeping keeping) {
+    return keeping == Keeping::atOnce ? "KeptAtOnce" : "KeptWhenSynchronised";
+}
+
+void PrintTo(Keeping keeping, std::ostream* stream) {
+    *stream << nameOf(keeping);
+}
+
 /// A window that the tests look over the shoulder of.
 class Window : public SettingsFixture {
 public:
@@ -164,8 +172,7 @@ INSTANTIATE_TEST_SUITE_P(Of, InterruptionTest,
                 [](Window& window) { window.controller().resetCreateNewFileRule(); }}),
         ::testing::Values(Keeping::atOnce, Keeping::whenSynchronised)),
     [](const auto& info) {
-        return std::string(std::get<Work>(info.param).name) +
-               (std::get<Keeping>(info.param) == Keeping::atOnce ? "KeptAtOnce" : "KeptWhenSynchronised");
+        return std::string(std::get<Work>(info.param).name) + nameOf(std::get<Keeping>(info.param));
     });
 
 } // namespace

@@ -1,13 +1,12 @@
 // The whole launch over arbitrary stores: it survives, loses nothing that was stored, and a second one over
 // what it left changes nothing.
 
-#include "tests/fuzz/Driving.h"
-#include "tests/fuzz/FuzzInput.h"
-#include "tests/fuzz/Require.h"
-
 #include "prefs/GroupContainer.h"
 #include "prefs/PreferenceKeys.h"
 #include "prefs/RuleRecord.h"
+#include "tests/fuzz/Driving.h"
+#include "tests/fuzz/FuzzInput.h"
+#include "tests/fuzz/Require.h"
 
 #include <array>
 #include <set>
