@@ -93,7 +93,7 @@ void RandomEdits::add(RuleCategory category) {
         return;
     }
     std::vector<std::string> paths;
-    for (auto left = category == RuleCategory::createNewFile ? 1 : 1 + pick(3); left > 0; --left) {
+    for (auto left = 1 + pick(3); left > 0; --left) {
         if (auto path = makeItem(category); !path.empty()) {
             paths.push_back(std::move(path));
         }
