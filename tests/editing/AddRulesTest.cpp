@@ -161,9 +161,14 @@ TEST_F(AddRulesTest, ARememberedFolderOfTheWrongTypeReadsAsMissing) {
 }
 
 struct ChooserCase {
+    RuleCategory category;
     void (Controller::*add)();
     OpenPanelRequest expected;
 };
+
+void PrintTo(const ChooserCase& chooser, std::ostream* stream) {
+    tarnwick::PrintTo(chooser.category, stream);
+}
 
 class ChooserTest : public AddRulesTest, public ::testing::WithParamInterface<ChooserCase> {};
 
@@ -187,11 +192,15 @@ OpenPanelRequest request(bool files, std::vector<std::string> types, bool hidden
 constexpr const char* desktop = "/Users/anna/Desktop";
 
 INSTANTIATE_TEST_SUITE_P(Every, ChooserTest,
-    ::testing::Values(ChooserCase{&Controller::addCreateNewFileRule, request(true, {}, false, desktop)},
-        ChooserCase{&Controller::addSendFilesToRule, request(false, {}, false, desktop)},
-        ChooserCase{&Controller::addCommonPathRule, request(false, {}, false, desktop)},
-        ChooserCase{&Controller::addCustomIconRule, request(true, {"png"}, false, desktop)},
-        ChooserCase{&Controller::addOthersRule,
+    ::testing::Values(ChooserCase{RuleCategory::createNewFile, &Controller::addCreateNewFileRule,
+                          request(true, {}, false, desktop)},
+        ChooserCase{
+            RuleCategory::copyFilesTo, &Controller::addSendFilesToRule, request(false, {}, false, desktop)},
+        ChooserCase{
+            RuleCategory::commonPath, &Controller::addCommonPathRule, request(false, {}, false, desktop)},
+        ChooserCase{
+            RuleCategory::customIcon, &Controller::addCustomIconRule, request(true, {"png"}, false, desktop)},
+        ChooserCase{RuleCategory::others, &Controller::addOthersRule,
             request(true, {"png"}, true, "/container/Templates/OthersMenuItemIcon")}));
 
 } // namespace

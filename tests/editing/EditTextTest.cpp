@@ -29,6 +29,10 @@ struct FieldCase {
     std::vector<std::string> changedFields;
 };
 
+void PrintTo(const FieldCase& field, std::ostream* stream) {
+    *stream << field.identifier;
+}
+
 class EditFieldTest : public EditTextTest, public ::testing::WithParamInterface<FieldCase> {};
 
 TEST_P(EditFieldTest, WritesItsTextAndItsMarkAndLeavesTheRest) {

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <functional>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -13,6 +14,10 @@ namespace tarnwick::testing {
 /// A first launch, or the launch of a program that has been used for long: a target without folder, common
 /// paths, an Others list from before the editors, and a template whose file cannot be made.
 enum class Start { fresh, used };
+
+inline void PrintTo(Start start, std::ostream* stream) {
+    *stream << (start == Start::fresh ? "fresh" : "used");
+}
 
 /// Edits through the controller, each also done to the model. What is edited, and how, is asked of `pick`,
 /// which gives a number from 0 to below its argument.

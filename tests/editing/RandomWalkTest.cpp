@@ -29,10 +29,14 @@ TEST_P(RandomWalkTest, KeepsScreenStoresAndTemplateFilesAsTheModelHasThem) {
     }
 }
 
+std::string seedOf(const ::testing::TestParamInfo<std::tuple<Start, unsigned>>& info) {
+    return "Seed" + std::to_string(std::get<1>(info.param));
+}
+
 INSTANTIATE_TEST_SUITE_P(FromAFreshStart, RandomWalkTest,
-    ::testing::Combine(::testing::Values(Start::fresh), ::testing::Values(1U, 42U, 1234U)));
+    ::testing::Combine(::testing::Values(Start::fresh), ::testing::Values(1U, 42U, 1234U)), seedOf);
 INSTANTIATE_TEST_SUITE_P(AfterLongUse, RandomWalkTest,
-    ::testing::Combine(::testing::Values(Start::used), ::testing::Values(2U, 43U, 1235U)));
+    ::testing::Combine(::testing::Values(Start::used), ::testing::Values(2U, 43U, 1235U)), seedOf);
 
 } // namespace
 } // namespace tarnwick::testing

@@ -83,7 +83,8 @@ TEST_P(SeedGroupTest, WritesEachKeyFirstToTheSuiteAndThenLocally) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Every, SeedGroupTest, ::testing::Range(std::size_t{0}, seedGroups.size()));
+INSTANTIATE_TEST_SUITE_P(Every, SeedGroupTest, ::testing::Range(std::size_t{0}, seedGroups.size()),
+    [](const auto& info) { return std::string(seedGroups[info.param].trigger()); });
 
 TEST_F(LoadingTest, ALaterKeyOfAGroupIsNotLookedAt) {
     platform_.preferences.local.insert_or_assign("enableMoveFilesTo", false);

@@ -1,10 +1,12 @@
 #include "prefs/PathText.h"
 #include "prefs/RecordLayouts.h"
 #include "prefs/RuleList.h"
+#include "tests/support/Printing.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <ostream>
 
 namespace tarnwick {
 namespace {
@@ -89,6 +91,11 @@ struct FlagCase {
     std::optional<bool> expected;
 };
 
+void PrintTo(const FlagCase& flag, std::ostream* stream) {
+    tarnwick::PrintTo(flag.value, stream);
+    *stream << " as " << (!flag.expected ? "none" : *flag.expected ? "on" : "off");
+}
+
 class FlagTest : public ::testing::TestWithParam<FlagCase> {};
 
 TEST_P(FlagTest, ReadsByTheOneRule) {
@@ -141,6 +148,10 @@ struct ActionCase {
     bool isProtected;
 };
 
+void PrintTo(const ActionCase& action, std::ostream* stream) {
+    *stream << ::testing::PrintToString(std::string(action.action));
+}
+
 class ActionTest : public ::testing::TestWithParam<ActionCase> {};
 
 TEST_P(ActionTest, IsKnownByItsExactIdentity) {
@@ -169,6 +180,10 @@ struct PathCase {
     const char* extension;
     const char* name;
 };
+
+void PrintTo(const PathCase& path, std::ostream* stream) {
+    *stream << ::testing::PrintToString(std::string(path.path));
+}
 
 class PathTextTest : public ::testing::TestWithParam<PathCase> {};
 

@@ -2,6 +2,7 @@
 
 #include "platform/PreferenceStore.h"
 #include "tests/support/CallLog.h"
+#include "tests/support/Printing.h"
 
 #include <functional>
 #include <map>

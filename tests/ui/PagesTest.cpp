@@ -22,6 +22,10 @@ struct PageCase {
     bool reloadsTargets;
 };
 
+void PrintTo(const PageCase& page, std::ostream* stream) {
+    *stream << "Page" << page.index;
+}
+
 class PageTest : public PagesTest, public ::testing::WithParamInterface<PageCase> {};
 
 TEST_P(PageTest, IsShownMarkedAndReloadsWhatItShould) {
@@ -124,6 +128,10 @@ struct ClickCase {
     RuleCategory category;
     void (SettingsViewController::*click)();
 };
+
+void PrintTo(const ClickCase& table, std::ostream* stream) {
+    tarnwick::PrintTo(table.category, stream);
+}
 
 class TableClickTest : public PagesTest, public ::testing::WithParamInterface<ClickCase> {};
 

@@ -49,6 +49,11 @@ struct LayoutCase {
     bool bare;
 };
 
+void PrintTo(const LayoutCase& cell, std::ostream* stream) {
+    tarnwick::PrintTo(cell.table, stream);
+    *stream << " " << cell.column;
+}
+
 class CellLayoutTest : public RowViewsTest, public ::testing::WithParamInterface<LayoutCase> {};
 
 TEST_P(CellLayoutTest, HasItsFrameAndCarriesItsRow) {
@@ -90,6 +95,11 @@ struct NameCase {
     RuleCategory table;
     const char* column;
 };
+
+void PrintTo(const NameCase& field, std::ostream* stream) {
+    tarnwick::PrintTo(field.table, stream);
+    *stream << " " << field.column;
+}
 
 class NameFieldTest : public RowViewsTest, public ::testing::WithParamInterface<NameCase> {};
 
