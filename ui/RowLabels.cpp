@@ -44,14 +44,21 @@ std::string filled(std::string format, std::string_view text) {
     return position == std::string::npos ? format : format.replace(position, placeholder.size(), text);
 }
 
+std::string rowName(const ApplicationBundle& bundle, std::string_view name, long row, bool isRepeated) {
+    if (!name.empty() && !isRepeated) {
+        return std::string(name);
+    }
+    auto number = filled(bundle.localized(rowLabel), std::to_string(row + 1));
+    return name.empty() ? number : std::string(name).append(" (").append(number).append(")");
+}
+
 } // namespace
 
-std::string rowControlLabel(
-    const ApplicationBundle& bundle, std::string_view column, std::string_view name, long row) {
+std::string rowControlLabel(const ApplicationBundle& bundle, std::string_view column, std::string_view name,
+    long row, bool isRepeated) {
     for (const auto& entry : labels) {
         if (entry.column == column) {
-            return filled(bundle.localized(entry.label),
-                name.empty() ? filled(bundle.localized(rowLabel), std::to_string(row + 1)) : name);
+            return filled(bundle.localized(entry.label), rowName(bundle, name, row, isRepeated));
         }
     }
     return {};

@@ -28,10 +28,10 @@ SettingsViewController::SettingsViewController(const Platform& platform)
     : platform_(platform), publisher_(platform.preferences, local_, lists_),
       factory_(platform, local_, lists_, publisher_),
       loading_(platform, local_, lists_, publisher_, factory_), pages_(lists_, local_, publisher_),
-      rowViews_(platform, lists_), addRules_(platform, local_, pages_), removeRule_(platform, local_, pages_),
-      resetRules_(factory_, pages_), toggleRules_(local_, pages_), reorderRules_(pages_),
-      editText_(platform, local_, pages_), choosePath_(platform, pages_), finderExtension_(platform, local_),
-      scriptHelper_(platform) {}
+      rowViews_(platform, lists_), repeatedNames_(lists_), addRules_(platform, local_, pages_),
+      removeRule_(platform, local_, pages_), resetRules_(factory_, pages_), toggleRules_(local_, pages_),
+      reorderRules_(pages_), editText_(platform, local_, pages_), choosePath_(platform, pages_),
+      finderExtension_(platform, local_), scriptHelper_(platform) {}
 
 void SettingsViewController::connect(const Outlets& outlets) {
     outlets_ = outlets;
@@ -141,7 +141,9 @@ std::string SettingsViewController::accessibilityLabel(
     RuleCategory table, std::string_view column, long row) const {
     const auto cell = viewForTableColumn(table, layoutOf(table).nameColumn, row);
     const auto* name = std::get_if<TextFieldCell>(&cell.control);
-    return rowControlLabel(platform_.bundle, column, name ? std::string_view(name->text) : "", row);
+    const auto isRepeated = name && repeatedNames_.has(table, static_cast<std::size_t>(row));
+    return rowControlLabel(
+        platform_.bundle, column, name ? std::string_view(name->text) : "", row, isRepeated);
 }
 
 void SettingsViewController::updateRemoveButton(RuleCategory category) {

@@ -19,6 +19,7 @@
 #include "prefs/RulePublisher.h"
 #include "ui/CellView.h"
 #include "ui/Outlets.h"
+#include "ui/RepeatedNames.h"
 #include "ui/RowViews.h"
 
 #include <cstddef>
@@ -177,6 +178,7 @@ private:
     PreferenceLoading loading_;
     RulePages pages_;
     RowViews rowViews_;
+    RepeatedNames repeatedNames_;
     AddRules addRules_;
     RemoveRule removeRule_;
     ResetRules resetRules_;

@@ -11,8 +11,16 @@ class RowLabelsTest : public SettingsFixture {
 protected:
     [[nodiscard]] std::string label(
         std::string_view column, std::string_view name = "TXT", long row = 0) const {
-        return rowControlLabel(platform_.bundle, column, name, row);
+        return rowControlLabel(platform_.bundle, column, name, row, false);
     }
+    [[nodiscard]] std::vector<std::string> labels(RuleCategory category, std::string_view column) const {
+        std::vector<std::string> found;
+        for (long row = 0; row < controller_.numberOfRows(category); ++row) {
+            found.push_back(controller_.accessibilityLabel(category, column, row));
+        }
+        return found;
+    }
+    using Labels = std::vector<std::string>;
 };
 
 TEST_F(RowLabelsTest, ASwitchSaysWhatItDoesToWhichRow) {
@@ -60,6 +68,36 @@ TEST_F(RowLabelsTest, EveryColumnOfARowHasALabelOfItsOwnThatNamesTheRow) {
             EXPECT_TRUE(labels.insert(found).second) << found;
         }
     }
+}
+
+TEST_F(RowLabelsTest, RowsOfTheSameNameGoByTheirNumbersToo) {
+    platform_.bundle.texts = {{"row %@", "line %@"}};
+    storeList(
+        RuleCategory::commonPath, {makeRecord({{"realPath", "/a/src"}}), makeRecord({{"realPath", "/a/doc"}}),
+                                      makeRecord({{"realPath", "/b"}, {"displayName", "src"}})});
+    launch();
+    EXPECT_EQ(labels(RuleCategory::commonPath, "realPath"),
+        (Labels{"Folder of src (line 1)", "Folder of doc", "Folder of src (line 3)"}));
+}
+
+TEST_F(RowLabelsTest, TheNumbersComeAndGoWithTheSecondRowOfAName) {
+    storeList(RuleCategory::commonPath,
+        {makeRecord({{"realPath", "/a/src"}}), makeRecord({{"realPath", "/a/doc"}})});
+    launch();
+    EXPECT_EQ(labels(RuleCategory::commonPath, "realPath"), (Labels{"Folder of src", "Folder of doc"}));
+    controller_.controlTextShouldEndEditing("commonPathDisplayName", 1, "src");
+    EXPECT_EQ(labels(RuleCategory::commonPath, "realPath"),
+        (Labels{"Folder of src (row 1)", "Folder of src (row 2)"}));
+    window_.table(RuleCategory::commonPath).selected = 0;
+    controller_.removeCommondPathRule();
+    EXPECT_EQ(labels(RuleCategory::commonPath, "realPath"), Labels{"Folder of src"});
+}
+
+TEST_F(RowLabelsTest, TheSameNameInAnotherTableIsNoRepetition) {
+    storeList(RuleCategory::copyFilesTo, {makeRecord({{"realPath", "/a/src"}})});
+    storeList(RuleCategory::commonPath, {makeRecord({{"realPath", "/a/src"}})});
+    launch();
+    EXPECT_EQ(labels(RuleCategory::copyFilesTo, "Enable"), Labels{"Offer src in the menu"});
 }
 
 TEST_F(RowLabelsTest, ARowThatIsNotThereHasNoNameButALabel) {
