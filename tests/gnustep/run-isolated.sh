@@ -14,5 +14,5 @@ export TARNWICK_TEST_FOLDER="$folder" TARNWICK_STRICT_EXCEPTIONS=1 TARNWICK_OPEN
 case " $* " in
 # The list of tests needs no screen.
 *" --gtest_list_tests "*) "$@" ;;
-*) xvfb-run -a -s "-screen 0 1280x900x24" timeout -s KILL 60 "$@" ;;
+*) "$(dirname "$0")/../../script/with-display" timeout -s KILL 60 "$@" ;;
 esac
