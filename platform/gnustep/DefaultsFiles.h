@@ -10,6 +10,11 @@ NSString *TNDefaultsFolder();
 /// behind: it is too old, three seconds, to be somebody's at work.
 void TNRemoveStaleDefaultsLock();
 
+/// Whether a settings file is there that this user may not open. It stays as it is: what it holds is not
+/// known, so nothing may be written in its place.
+bool TNSettingsFileIsClosed(NSString *path);
+
 /// The content of a settings file; nil without one. A file that is there but holds no property list
-/// dictionary is moved to `<file>.damaged-<n>`, with a log line, and counts as none.
+/// dictionary is moved to `<file>.damaged-<n>`, with a log line, and counts as none. One that is closed
+/// counts as none too; the first time a log line says so.
 NSDictionary *TNReadSettingsFile(NSString *path);

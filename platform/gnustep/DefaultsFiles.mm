@@ -1,5 +1,5 @@
 // Missing: recovery. NSUserDefaults of GNUstep Base 1.28 waits 20 seconds for the lock of a killed program,
-// and overwrites a domain's file that it cannot read.
+// and overwrites a domain's file that it cannot read or may not open.
 
 #import "DefaultsFiles.h"
 
@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <cstring>
 #include <ctime>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -41,6 +42,15 @@ void moveAside(NSString *path) {
     }
 }
 
+void reportClosed(NSString *path) {
+    static NSMutableSet *const reported = [[NSMutableSet alloc] init];
+    if (![reported containsObject:path]) {
+        std::fprintf(stderr, "Settings file %s cannot be opened and is left alone: %s\n",
+            [path fileSystemRepresentation], std::strerror(errno));
+        [reported addObject:path];
+    }
+}
+
 } // namespace
 
 NSString *TNDefaultsFolder() {
@@ -61,9 +71,22 @@ void TNRemoveStaleDefaultsLock() {
     }
 }
 
+bool TNSettingsFileIsClosed(NSString *path) {
+    const int descriptor = open([path fileSystemRepresentation], O_RDONLY | O_CLOEXEC);
+    if (descriptor >= 0) {
+        close(descriptor);
+        return false;
+    }
+    return errno != ENOENT && errno != ENOTDIR;
+}
+
 NSDictionary *TNReadSettingsFile(NSString *path) {
     struct stat status;
     if (stat([path fileSystemRepresentation], &status) != 0) {
+        return nil;
+    }
+    if (TNSettingsFileIsClosed(path)) {
+        reportClosed(path);
         return nil;
     }
     NSDictionary *content = TNDictionaryInFile(path);

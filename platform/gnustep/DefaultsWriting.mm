@@ -1,5 +1,6 @@
 // Missing: a plain word when the standard domain cannot be written, as of GNUstep Base 1.28, which says it in
-// its own way at every attempt or not at all. What is not written stays in memory and is tried again.
+// its own way at every attempt or not at all; and restraint: it replaces a file that this user may not open.
+// What is not written stays in memory and is tried again.
 
 #import "DefaultsFiles.h"
 #import "MethodReplacement.h"
@@ -12,13 +13,17 @@ using Synchronize = BOOL (*)(id self, SEL command);
 
 Synchronize nativeSynchronize = nullptr;
 bool isUnwritable = false;
+/// The first call is that of the defaults themselves, which read all domains so; there is nothing to write
+/// yet.
+bool isRead = false;
 
 BOOL synchronize(id self, SEL command) {
-    const BOOL written = nativeSynchronize(self, command);
+    NSString *name = [[[NSProcessInfo processInfo] processName] stringByAppendingPathExtension:@"plist"];
+    NSString *path = [TNDefaultsFolder() stringByAppendingPathComponent:name];
+    const BOOL written = (!isRead || !TNSettingsFileIsClosed(path)) && nativeSynchronize(self, command);
+    isRead = true;
     if (!written && !isUnwritable) {
-        NSString *name = [[[NSProcessInfo processInfo] processName] stringByAppendingPathExtension:@"plist"];
-        NSLog(
-            @"Settings file %@ cannot be written", [TNDefaultsFolder() stringByAppendingPathComponent:name]);
+        NSLog(@"Settings file %@ cannot be written", path);
     }
     isUnwritable = !written;
     return written;

@@ -136,6 +136,8 @@ void makeFolder(NSString *path) {
     [self keepContent:content ? content : [NSDictionary dictionary]];
     // It may have been moved aside.
     [self noteVersion];
+    // Its opening to this user would be no new version.
+    _wasRead = !TNSettingsFileIsClosed(_path);
     return YES;
 }
 
@@ -172,7 +174,8 @@ void makeFolder(NSString *path) {
         return _content;
     }
     NSData *file = serialised(merged);
-    if (!file || !replaceFile(_path, file)) {
+    const bool isClosed = TNSettingsFileIsClosed(_path);
+    if (!file || isClosed || !replaceFile(_path, file)) {
         if (!_isUnwritable) {
             NSLog(@"Settings file %@ cannot be written: %s", _path, std::strerror(errno));
         }

@@ -45,6 +45,7 @@ std::vector<std::string> observedChanges();
 void startUp(int argc, char** argv);
 std::string standardString(const std::string& key);
 void setStandardString(const std::string& key, const std::string& value);
+bool synchronizeStandardDomain();
 /// Whether a block given to the main queue from another thread ran on the main thread.
 bool mainQueueRunsOnMainThread();
 

@@ -23,6 +23,12 @@ void setStandardString(const std::string &key, const std::string &value) {
     }
 }
 
+bool synchronizeStandardDomain() {
+    @autoreleasepool {
+        return [[NSUserDefaults standardUserDefaults] synchronize];
+    }
+}
+
 bool mainQueueRunsOnMainThread() {
     @autoreleasepool {
         __block bool hasRun = false;

@@ -24,6 +24,10 @@ USED = {
 }
 
 
+# Nobody's number.
+OTHER_USER = 65534
+
+
 class Wrong(Exception):
     pass
 
@@ -36,7 +40,10 @@ def require(holds, what):
 class Sandbox:
     """A user folder; `defaults` is where the stores are."""
 
+    made = []
+
     def __init__(self):
+        Sandbox.made.append(self)
         self.root = pathlib.Path(tempfile.mkdtemp(prefix="tarnwick.", dir="/tmp"))
         self.defaults, self.library = self.root / "defaults", self.root / "library"
         self.container = self.library / "Group Containers" / SHARED
@@ -46,6 +53,7 @@ class Sandbox:
             f"GNUSTEP_USER_DEFAULTS_DIR={self.defaults}\nGNUSTEP_USER_DIR_LIBRARY={self.library}\n"
             "GNUSTEP_USER_CONFIG_FILE=\n")
         self.output = self.root / "output"
+        self.editor, self.other_user = EDITOR, False
         # Also when the application's own file is lost, nothing is to ask for an answer.
         self.write({"ShownEnableExtensionAlert": True}, "NSGlobalDomain")
 
@@ -64,22 +72,48 @@ class Sandbox:
                 "TARNWICK_SOAK_EDITS": str(edits), "TARNWICK_SOAK_LISTS": lists, "TARNWICK_SOAK_SEED": str(seed)}
 
     @contextlib.contextmanager
-    def running(self, edits=0, lists="", journal="journal", seed=1, seconds=120, prefix=()):
-        """The application, once it is ready; killed at the end."""
+    def running(self, edits=0, lists="", journal="journal", seed=1, seconds=120, prefix=(), asked_to_end=False):
+        """The application, once it is ready; killed at the end, or asked to end."""
         path = self.root / journal
         path.write_text("")
+        environment = self.environment(journal, edits, lists, seed)
+        if self.other_user:
+            os.chown(path, OTHER_USER, OTHER_USER)
+            prefix = ["setpriv", f"--reuid={OTHER_USER}", f"--regid={OTHER_USER}", "--clear-groups", *prefix]
+            environment["XAUTHORITY"] = str(self.root / "Xauthority")
         with open(self.output, "ab") as output:
-            process = subprocess.Popen([*prefix, EDITOR], stdout=output, stderr=output,
-                                       env=self.environment(journal, edits, lists, seed))
+            process = subprocess.Popen([*prefix, self.editor], stdout=output, stderr=output, env=environment)
         try:
             wait(lambda: path.read_text().startswith("ready") or process.poll() is not None, seconds,
                  "the application does not start")
             require(process.poll() is None, f"the application ends by itself: {self.said()[-1500:]}")
             yield process
             require(process.poll() is None, f"the application ended by itself: {self.said()[-1500:]}")
+            if asked_to_end:
+                process.terminate()
+                wait(lambda: process.poll() is not None, 20, "the application does not end when asked to")
         finally:
             process.kill()
             process.wait()
+
+    def copy_application(self):
+        """The sandbox has an application of its own from now on; gives its folder."""
+        bundle = pathlib.Path(EDITOR).parent
+        shutil.copytree(bundle, self.root / bundle.name)
+        self.editor = str(self.root / bundle.name / pathlib.Path(EDITOR).name)
+        return self.root / bundle.name
+
+    def become_other_user(self):
+        """The application runs as nobody from now on, and may write in no folder but that of temporary files."""
+        self.copy_application()
+        self.root.chmod(0o755)
+        shutil.copy(os.environ["XAUTHORITY"], self.root / "Xauthority")
+        for path in (self.root / "Xauthority", self.root / "sources", self.root / "tmp"):
+            os.chown(path, OTHER_USER, OTHER_USER)
+        shutil.rmtree(self.root / "tmp")
+        (self.root / "tmp").mkdir()
+        os.chown(self.root / "tmp", OTHER_USER, OTHER_USER)
+        self.other_user = True
 
     def edits(self, journal="journal"):
         """The edits done, the latest last: (list, checksums as the application's model has them)."""
@@ -196,6 +230,38 @@ def unwritable_store():
     require(box.read()["arrOfCommonPath"] == USED["arrOfCommonPath"], "a later start lost a list")
     box.remove()
     return f"{done} edits over a read-only folder, nothing stored was lost, said {len(complaints)} times"
+
+
+def other_user():
+    """The application runs as one who does not own the stores: not readable, or not writable, in a folder that is not
+    or that is writable."""
+    count = 0
+    for mode, folder_mode in ((0o600, 0o755), (0o644, 0o755), (0o600, 0o777)):
+        box = prepared()
+        files = [box.file(), box.file(SHARED)]
+        before = [path.read_bytes() for path in files]
+        for path in files:
+            path.chmod(mode)
+        for folder in (box.defaults, box.defaults / ".lck"):
+            folder.chmod(folder_mode)
+        box.become_other_user()
+        offset = len(box.said())
+        with box.running(edits=20, lists="12", asked_to_end=True):
+            settle()
+            done = len(box.edits())
+        which = f"{mode:o} in a folder {folder_mode:o}"
+        require(done > 5, f"{which}: the application does not go on")
+        require([path.read_bytes() for path in files] == before, f"{which}: a stored file changed")
+        strays = [path.name for path in box.defaults.iterdir() if ".damaged" in path.name or ".tmp" in path.name]
+        require(not strays, f"{which}: left behind: {strays}")
+        lines = box.said()[offset:].splitlines()
+        for path in files:
+            for words, expected in (("cannot be opened", mode == 0o600), ("cannot be written", True)):
+                found = [line for line in lines if f"{path} {words}" in line]
+                require(len(found) == expected, f"{which}: said {len(found)} times: {path.name} {words}")
+        count += done
+        box.remove()
+    return f"{count} edits over another user's files, neither file changed, said once each"
 
 
 def read_only_container():
@@ -406,7 +472,7 @@ PARTS = {
     "full-disk": full_disk, "unwritable-store": unwritable_store, "read-only-container": read_only_container,
     "missing-container": missing_container, "damaged-stores": damaged_stores, "wrong-types": wrong_types,
     "big-stores": big_stores, "two-instances": two_instances, "foreign-program": foreign_program,
-    "names": names,
+    "names": names, "other-user": other_user,
 }
 
 
@@ -420,6 +486,10 @@ def main():
         except Exception as wrong:
             failed = True
             print(f"{name}: WRONG: {wrong!r}", flush=True)
+        finally:
+            for box in Sandbox.made:
+                box.remove()
+            Sandbox.made.clear()
     sys.exit(failed)
 
 
