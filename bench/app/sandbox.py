@@ -3,7 +3,6 @@
 import os
 import pathlib
 import plistlib
-import shutil
 import subprocess
 import tempfile
 import time
@@ -12,6 +11,7 @@ LOCAL = "org.halvane.Tarnwick"
 SHARED = "H7Q2ZK5RX9.org.halvane.Tarnwick"
 LIST_KEY = "arrOfCopyFilesTo"
 PATIENCE_SECONDS = 60
+REMOVE = pathlib.Path(__file__).resolve().parents[2] / "script/remove-sandbox"
 
 
 class Sandbox:
@@ -53,7 +53,7 @@ class Sandbox:
             return plistlib.load(file)
 
     def remove(self):
-        shutil.rmtree(self.folder, ignore_errors=True)
+        subprocess.run([REMOVE, self.folder], check=True)
 
 
 def folder_records(count):

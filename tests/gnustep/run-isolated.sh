@@ -2,7 +2,8 @@
 # Runs a program of the GNUstep tests with settings, temporary files and a screen of its own.
 set -eu
 folder=$(mktemp -d /tmp/tnt.XXXXXX)
-trap 'rm -rf "$folder"' EXIT
+remove=$(cd "$(dirname "$0")/../../script" && pwd)/remove-sandbox
+trap '"$remove" "$folder"' EXIT
 mkdir "$folder/defaults" "$folder/library" "$folder/tmp"
 cat >"$folder/GNUstep.conf" <<END
 GNUSTEP_USER_DEFAULTS_DIR=$folder/defaults
