@@ -82,7 +82,8 @@ class Sandbox:
         if self.other_user:
             os.chown(path, OTHER_USER, OTHER_USER)
             prefix = ["setpriv", f"--reuid={OTHER_USER}", f"--regid={OTHER_USER}", "--clear-groups", *prefix]
-            environment["XAUTHORITY"] = str(self.root / "Xauthority")
+            if "XAUTHORITY" in environment:
+                environment["XAUTHORITY"] = str(self.root / "Xauthority")
         with open(self.output, "ab") as output:
             process = subprocess.Popen([*prefix, self.editor], stdout=output, stderr=output, env=environment)
         try:
@@ -109,12 +110,13 @@ class Sandbox:
         """The application runs as nobody from now on, and may write in no folder but that of temporary files."""
         self.copy_application()
         self.root.chmod(0o755)
-        shutil.copy(os.environ["XAUTHORITY"], self.root / "Xauthority")
-        for path in (self.root / "Xauthority", self.root / "sources", self.root / "tmp"):
-            os.chown(path, OTHER_USER, OTHER_USER)
         shutil.rmtree(self.root / "tmp")
         (self.root / "tmp").mkdir()
-        os.chown(self.root / "tmp", OTHER_USER, OTHER_USER)
+        own = [self.root / "sources", self.root / "tmp"]
+        if "XAUTHORITY" in os.environ:
+            own.append(shutil.copy(os.environ["XAUTHORITY"], self.root / "Xauthority"))
+        for path in own:
+            os.chown(path, OTHER_USER, OTHER_USER)
         self.other_user = True
 
     def edits(self, journal="journal"):
