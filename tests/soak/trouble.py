@@ -15,6 +15,7 @@ import sys
 import tempfile
 import time
 
+from pictures import make_pictures
 from stores import LISTS, LOCAL, SHARED, checksum
 
 USED = {
@@ -268,6 +269,61 @@ def other_user():
     return f"{count} edits over another user's files, neither file changed, said once each"
 
 
+def remove_resources(bundle):
+    """All that the application has beside its program and the description of its bundle."""
+    count = 0
+    for path in sorted((bundle / "Resources").rglob("*"), reverse=True):
+        if path.is_dir():
+            path.rmdir() if not any(path.iterdir()) else None
+        elif path.name != "Info-gnustep.plist":
+            path.unlink()
+            count += 1
+    return count
+
+
+def vanished_resource():
+    """Everything beside the program and the template folder, while the application runs; then starts without, and a first
+    launch without, which a whole bundle must make good."""
+    box = prepared()
+    make_pictures(box.root / "sources")
+    bundle = box.copy_application()
+    before = box.read()
+    with box.running(edits=300, lists="123", asked_to_end=True):
+        wait(lambda: len(box.edits()) > 10, 60, "the application does not begin")
+        count = remove_resources(bundle)
+        shutil.rmtree(box.container / "Templates")
+        done = -len(box.edits())
+        wait_until_quiet(box.root / "journal")
+        done += len(box.edits())
+    require(count > 80 and done > 50, f"too little to test: {count} resources, {done} edits")
+    after = box.read()
+    last = {line[2]: line[4] for line in box.edits()}
+    for key in LISTS:
+        require(checksum(after[key]) == last.get(key, checksum(before[key])), f"{key} is not as it was left")
+    with box.running(asked_to_end=True):
+        settle()
+    require({key: box.read()[key] for key in LISTS} == {key: after[key] for key in LISTS}, "a start changed a list")
+
+    for path in (box.file(), box.file(SHARED)):
+        path.unlink()
+    offset = len(box.said())
+    with box.running(asked_to_end=True):
+        settle()
+    said = re.findall('application\'s image ".*" is missing', box.said()[offset:])
+    require(said and len(said) == len(set(said)), f"said {said}")
+    shutil.rmtree(bundle)
+    box.copy_application()
+    with box.running():
+        settle()
+    for key in ("arrOfCustomIcon", "arrOfOthers"):
+        require(checksum(box.read()[key]) == checksum(before[key]), f"a whole bundle does not bring {key} back")
+    icons = box.container / "Templates/FunctionIcon"
+    require(any(icons.iterdir()), "a whole bundle does not bring the extension's icons back")
+    require("exception" not in box.said().lower(), "an exception")
+    box.remove()
+    return f"{done} edits after {count} resources had vanished, and starts without them; no list changed"
+
+
 def read_only_container():
     box = prepared()
     names = sorted(path.name for path in (box.container / "Templates/CreateNewFile").iterdir())
@@ -477,6 +533,7 @@ PARTS = {
     "missing-container": missing_container, "damaged-stores": damaged_stores, "wrong-types": wrong_types,
     "big-stores": big_stores, "two-instances": two_instances, "foreign-program": foreign_program,
     "names": names, "other-user": other_user,
+    "vanished-resource": vanished_resource,
 }
 
 
