@@ -6,9 +6,9 @@
 /// The folder of the defaults files, without touching NSUserDefaults.
 NSString *TNDefaultsFolder();
 
-/// Waits until nobody holds the lock of the defaults files, and removes one that a killed program has left
-/// behind: it is too old, three seconds, to be somebody's at work.
-void TNRemoveStaleDefaultsLock();
+/// Waits until nobody holds the lock of the defaults files, nor that of the names of message ports, and
+/// removes one that a killed program has left behind: it is too old, three seconds, to be somebody's at work.
+void TNRemoveStaleLocks();
 
 /// Whether a settings file is there that this user may not open. It stays as it is: what it holds is not
 /// known, so nothing may be written in its place.

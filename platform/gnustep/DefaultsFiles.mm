@@ -1,5 +1,6 @@
 // Missing: recovery. NSUserDefaults of GNUstep Base 1.28 waits 20 seconds for the lock of a killed program,
-// and overwrites a domain's file that it cannot read or may not open.
+// and overwrites a domain's file that it cannot read or may not open; a lock left beside the names of message
+// ports ends the program.
 
 #import "DefaultsFiles.h"
 
@@ -51,14 +52,7 @@ void reportClosed(NSString *path) {
     }
 }
 
-} // namespace
-
-NSString *TNDefaultsFolder() {
-    return GSDefaultsRootForUser(NSUserName());
-}
-
-void TNRemoveStaleDefaultsLock() {
-    NSString *lock = [TNDefaultsFolder() stringByAppendingPathComponent:@".lck/.GNUstepDefaults.lck"];
+void removeStaleLock(NSString *lock) {
     const char *path = [lock fileSystemRepresentation];
     struct stat status;
     // Whoever holds it lets go, or turns out to be gone.
@@ -69,6 +63,17 @@ void TNRemoveStaleDefaultsLock() {
         }
         usleep(pollMicroseconds);
     }
+}
+
+} // namespace
+
+NSString *TNDefaultsFolder() {
+    return GSDefaultsRootForUser(NSUserName());
+}
+
+void TNRemoveStaleLocks() {
+    removeStaleLock([TNDefaultsFolder() stringByAppendingPathComponent:@".lck/.GNUstepDefaults.lck"]);
+    removeStaleLock([NSTemporaryDirectory() stringByAppendingPathComponent:@"NSMessagePort/names/lock"]);
 }
 
 bool TNSettingsFileIsClosed(NSString *path) {

@@ -21,7 +21,7 @@ namespace {
 NSString *const processName = @"org.halvane.Tarnwick";
 
 void prepareDefaultsFile() {
-    TNRemoveStaleDefaultsLock();
+    TNRemoveStaleLocks();
     NSString *name = [processName stringByAppendingPathExtension:@"plist"];
     // Only to have a damaged file out of the way before it would be overwritten.
     TNReadSettingsFile([TNDefaultsFolder() stringByAppendingPathComponent:name]);

@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <ctime>
 #include <sys/stat.h>
+#include <unistd.h>
 #include <utime.h>
 
 using namespace tarnwick::probe;
@@ -80,6 +81,20 @@ TEST(StartUp, DoesNotWaitForTheLockOfAKilledProgram) {
     const auto begin = std::chrono::steady_clock::now();
     startUp();
     EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(8));
+    EXPECT_FALSE(exists(lock));
+}
+
+TEST(StartUp, RemovesTheLockOfAKilledProgramFromTheNamesOfPorts) {
+    auto lock = defaultsFolder() + "/../tmp/GNUstepSecure" + std::to_string(geteuid());
+    ASSERT_EQ(mkdir(lock.c_str(), 0700), 0);
+    for (const auto* part : {"/NSMessagePort", "/names", "/lock"}) {
+        lock += part;
+        ASSERT_EQ(mkdir(lock.c_str(), 0700), 0);
+    }
+    const auto fiveSecondsAgo = std::time(nullptr) - 5;
+    const utimbuf times = {fiveSecondsAgo, fiveSecondsAgo};
+    ASSERT_EQ(utime(lock.c_str(), &times), 0);
+    startUp();
     EXPECT_FALSE(exists(lock));
 }
 
