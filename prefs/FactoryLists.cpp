@@ -61,12 +61,17 @@ void FactoryLists::layOutTemplates() {
     }
     platform_.files.createFolder(*folder);
     const auto resources = platform_.bundle.resourceFolder();
+    std::size_t leftOut = 0;
+    // A file that cannot be copied is left out; its record stays.
+    const auto copy = [&](const std::string& file) {
+        leftOut += platform_.files.copy(resources + file, *folder + file) ? 0 : 1;
+    };
     for (const auto& record : lists_[RuleCategory::createNewFile]) {
-        // A file that cannot be copied is left out; its record stays.
-        const auto file = "/" + templateFileName(record);
-        platform_.files.copy(resources + file, *folder + file);
-        const auto icon = std::string("/").append(record.text(field::extension)).append(".png");
-        platform_.files.copy(resources + icon, *folder + icon);
+        copy("/" + templateFileName(record));
+        copy(std::string("/").append(record.text(field::extension)).append(".png"));
+    }
+    if (leftOut > 0) {
+        platform_.log.write("template files and icons that could not be copied: " + std::to_string(leftOut));
     }
 }
 

@@ -40,11 +40,15 @@ void PreferenceLoading::prepareStoresAndFolders() {
     }
     const GroupContainer container(platform_.folders);
     ensureTemplates(container.templateFolder());
+    std::size_t leftOut = 0;
     if (const auto folder = container.functionIconFolder()) {
-        rebuildIconFolder(*folder, functionIconNames);
+        leftOut += rebuildIconFolder(*folder, functionIconNames);
     }
     if (const auto folder = container.othersIconFolder()) {
-        rebuildIconFolder(*folder, othersIconNames);
+        leftOut += rebuildIconFolder(*folder, othersIconNames);
+    }
+    if (leftOut > 0) {
+        platform_.log.write("icons for the extension that could not be copied: " + std::to_string(leftOut));
     }
 }
 
@@ -81,20 +85,22 @@ void PreferenceLoading::ensureTemplates(const std::optional<std::string>& folder
     factory_.resetArrOfCreateNewFile();
 }
 
-void PreferenceLoading::rebuildIconFolder(
+std::size_t PreferenceLoading::rebuildIconFolder(
     const std::string& folder, std::span<const std::string_view> names) {
     if (platform_.files.exists(folder)) {
         platform_.files.remove(folder);
     }
     platform_.files.createFolder(folder);
     const auto resources = platform_.bundle.resourceFolder();
+    std::size_t copied = 0;
     for (const auto& name : names) {
         if (platform_.files.exists(resources)) {
             // An icon that the resources lack is left out.
             const auto file = std::string("/").append(name).append(".png");
-            platform_.files.copy(resources + file, folder + file);
+            copied += platform_.files.copy(resources + file, folder + file) ? 1 : 0;
         }
     }
+    return names.size() - copied;
 }
 
 void PreferenceLoading::loadLists() {

@@ -3,6 +3,7 @@
 #include "platform/Platform.h"
 #include "prefs/RuleCategory.h"
 
+#include <cstddef>
 #include <optional>
 #include <span>
 #include <string>
@@ -42,7 +43,8 @@ private:
     void seedSwitches(SharedPreferences& shared);
     void buildFeatureArray();
     void ensureTemplates(const std::optional<std::string>& folder);
-    void rebuildIconFolder(const std::string& folder, std::span<const std::string_view> names);
+    /// How many of the icons are not in the folder afterwards.
+    std::size_t rebuildIconFolder(const std::string& folder, std::span<const std::string_view> names);
     void load(RuleCategory category);
     void addImageToIconFeature();
     void addMissingEditors();

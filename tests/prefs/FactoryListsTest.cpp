@@ -45,6 +45,8 @@ TEST_F(FactoryListsTest, AMissingTemplateLeavesItsRecordAndTheOthersFiles) {
     controller_.resetCreateNewFileRule();
     EXPECT_EQ(localList(RuleCategory::createNewFile).size(), 15U);
     EXPECT_EQ(platform_.files.namesIn("/container/Templates/CreateNewFile").size(), 29U);
+    EXPECT_EQ(platform_.systemLog.lines,
+        std::vector<std::string>{"template files and icons that could not be copied: 1"});
 }
 
 TEST_F(FactoryListsTest, TheTemplateResetStoresPublishesRemovesCreatesAndCopiesInThisOrder) {

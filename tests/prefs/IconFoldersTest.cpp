@@ -45,11 +45,14 @@ TEST_F(IconFoldersTest, AStaleFileIsGoneAfterTheNextLoad) {
     EXPECT_TRUE(platform_.log.holds("remove " + others));
 }
 
-TEST_F(IconFoldersTest, AMissingResourceLeavesTheRestComplete) {
+TEST_F(IconFoldersTest, AMissingResourceLeavesTheRestCompleteAndIsSaidOnce) {
     platform_.files.files.erase("/resources/Paste.png");
+    platform_.files.files.erase("/resources/customIcon.png");
     load();
     EXPECT_EQ(platform_.files.namesIn(others).size(), 13U);
     EXPECT_EQ(copiesInto(others).size(), 14U);
+    EXPECT_EQ(platform_.systemLog.lines,
+        std::vector<std::string>{"icons for the extension that could not be copied: 2"});
 }
 
 TEST_F(IconFoldersTest, WithoutAResourceFolderNothingIsCopied) {
