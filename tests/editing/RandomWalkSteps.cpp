@@ -1,3 +1,4 @@
+#include "tests/editing/CategoryActions.h"
 #include "tests/editing/RandomWalk.h"
 
 #include <algorithm>
@@ -6,23 +7,10 @@ namespace tarnwick::testing {
 namespace {
 
 using Controller = SettingsViewController;
-using Action = void (Controller::*)();
 
-constexpr std::array<Action, 5> addActions{&Controller::addCreateNewFileRule, &Controller::addSendFilesToRule,
-    &Controller::addCommonPathRule, &Controller::addCustomIconRule, &Controller::addOthersRule};
-constexpr std::array<Action, 5> removeActions{&Controller::removeCreateNewFileRule,
-    &Controller::removeCopyFilesToRule, &Controller::removeCommondPathRule, &Controller::removeCustomIconRule,
-    &Controller::removeOthersRule};
-constexpr std::array<Action, 5> resetActions{&Controller::resetCreateNewFileRule,
-    &Controller::resetCopyFilesToRule, nullptr, &Controller::resetCustomIconRule,
-    &Controller::resetOthersRule};
-constexpr std::array<Action, 5> enableAllActions{&Controller::enableAllOfCreateNewFilesClick, nullptr,
-    nullptr, &Controller::enableAllOfCustomIconClick, &Controller::enableAllOfOthersClick};
-
-constexpr std::array<const char*, 5> nameFields{
-    "NewFileDisplayName", "Note", "commonPathDisplayName", "CustomIconName", "OthersDisplayName"};
-constexpr std::array<const char*, 5> nameMarks{"modified", "", "", "modified", "nameModified"};
-
+constexpr std::array<CategoryAction, 5> addActions{&Controller::addCreateNewFileRule,
+    &Controller::addSendFilesToRule, &Controller::addCommonPathRule, &Controller::addCustomIconRule,
+    &Controller::addOthersRule};
 /// Names of factory templates, of nothing, and of places outside the template folder.
 constexpr std::array<const char*, 8> awkwardNames{
     "TXT", "Word", "Memo", "Memo", "", ".", "../Outside", "a/b"};

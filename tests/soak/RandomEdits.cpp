@@ -1,6 +1,7 @@
 #include "tests/soak/RandomEdits.h"
 
 #include "prefs/PreferenceKeys.h"
+#include "tests/editing/CategoryActions.h"
 #include "tests/soak/Canonical.h"
 #include "tests/soak/EditingApplication.h"
 #include "tests/soak/StoredState.h"
@@ -14,24 +15,16 @@ namespace tarnwick::soak {
 namespace {
 
 using Controller = SettingsViewController;
-using Action = void (Controller::*)();
+using testing::enableAllActions;
+using testing::nameFields;
+using testing::nameMarks;
+using testing::removeActions;
+using testing::resetActions;
 using Switch = void (Controller::*)(long row, bool on);
 
-constexpr std::array<Action, 5> removeActions{&Controller::removeCreateNewFileRule,
-    &Controller::removeCopyFilesToRule, &Controller::removeCommondPathRule, &Controller::removeCustomIconRule,
-    &Controller::removeOthersRule};
-constexpr std::array<Action, 5> resetActions{&Controller::resetCreateNewFileRule,
-    &Controller::resetCopyFilesToRule, nullptr, &Controller::resetCustomIconRule,
-    &Controller::resetOthersRule};
-constexpr std::array<Action, 5> enableAllActions{&Controller::enableAllOfCreateNewFilesClick, nullptr,
-    nullptr, &Controller::enableAllOfCustomIconClick, &Controller::enableAllOfOthersClick};
 constexpr std::array<Switch, 5> switches{&Controller::onOffcheckedStateChangedOfCreateNewFile,
     &Controller::onOffcheckedStateChangedOfCopyTo, nullptr, &Controller::onOffcheckedStateChangedOfCustomIcon,
     &Controller::onOffcheckedStateChangedOfOthers};
-
-constexpr std::array<const char*, 5> nameFields{
-    "NewFileDisplayName", "Note", "commonPathDisplayName", "CustomIconName", "OthersDisplayName"};
-constexpr std::array<const char*, 5> nameMarks{"modified", "", "", "modified", "nameModified"};
 
 /// The lists stay of a size.
 constexpr std::size_t shortestList = 10;
