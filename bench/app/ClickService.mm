@@ -28,11 +28,11 @@ struct Versions {
     std::array<ino_t, 2> files{};
 
     static Versions now() {
-        static NSArray *const names = [[NSArray alloc]
-            initWithObjects:@"org.halvane.Tarnwick.plist", @"H7Q2ZK5RX9.org.halvane.Tarnwick.plist", nil];
+        static NSArray *const domains = [[NSArray alloc]
+            initWithObjects:@"org.halvane.Tarnwick", @"H7Q2ZK5RX9.org.halvane.Tarnwick", nil];
         Versions versions;
-        for (NSUInteger index = 0; index < [names count]; ++index) {
-            NSString *path = [TNDefaultsFolder() stringByAppendingPathComponent:[names objectAtIndex:index]];
+        for (NSUInteger index = 0; index < [domains count]; ++index) {
+            NSString *path = TNSettingsFileOf([domains objectAtIndex:index]);
             struct stat status = {};
             if (stat([path fileSystemRepresentation], &status) == 0) {
                 versions.files[index] = status.st_ino;

@@ -23,9 +23,7 @@ TNThemeAppearance chosenAppearance() {
 void rereadSettings() {
     NSUserDefaults *defaults = [NSUserDefaults standardUserDefaults];
     [defaults synchronize];
-    NSString *file = [[TNDefaultsFolder() stringByAppendingPathComponent:NSGlobalDomain]
-        stringByAppendingPathExtension:@"plist"];
-    if (![[NSFileManager defaultManager] fileExistsAtPath:file] &&
+    if (![[NSFileManager defaultManager] fileExistsAtPath:TNSettingsFileOf(NSGlobalDomain)] &&
         [defaults persistentDomainForName:NSGlobalDomain]) {
         [defaults removePersistentDomainForName:NSGlobalDomain];
     }

@@ -5,6 +5,8 @@
 
 /// The folder of the defaults files, without touching NSUserDefaults.
 NSString *TNDefaultsFolder();
+/// The file of a domain in it.
+NSString *TNSettingsFileOf(NSString *domain);
 
 /// Waits until nobody holds the lock of the defaults files, nor that of the names of message ports, and
 /// removes one that a killed program has left behind: it is too old, three seconds, to be somebody's at work.

@@ -71,6 +71,11 @@ NSString *TNDefaultsFolder() {
     return GSDefaultsRootForUser(NSUserName());
 }
 
+NSString *TNSettingsFileOf(NSString *domain) {
+    return
+        [TNDefaultsFolder() stringByAppendingPathComponent:[domain stringByAppendingPathExtension:@"plist"]];
+}
+
 void TNRemoveStaleLocks() {
     removeStaleLock([TNDefaultsFolder() stringByAppendingPathComponent:@".lck/.GNUstepDefaults.lck"]);
     removeStaleLock([NSTemporaryDirectory() stringByAppendingPathComponent:@"NSMessagePort/names/lock"]);

@@ -18,8 +18,7 @@ bool isUnwritable = false;
 bool isRead = false;
 
 BOOL synchronize(id self, SEL command) {
-    NSString *name = [[[NSProcessInfo processInfo] processName] stringByAppendingPathExtension:@"plist"];
-    NSString *path = [TNDefaultsFolder() stringByAppendingPathComponent:name];
+    NSString *path = TNSettingsFileOf([[NSProcessInfo processInfo] processName]);
     const BOOL written = (!isRead || !TNSettingsFileIsClosed(path)) && nativeSynchronize(self, command);
     isRead = true;
     if (!written && !isUnwritable) {

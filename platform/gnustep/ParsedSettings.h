@@ -3,7 +3,6 @@
 @class NSData;
 
 /// From now on parsing the same large property list twice in a row gives the same values, without parsing.
-/// Once.
 void TNKeepParsedSettings();
 
 /// Remembers what the bytes of a large property list stand for: parsing the same bytes gives `value` again.

@@ -22,9 +22,8 @@ NSString *const processName = @"org.halvane.Tarnwick";
 
 void prepareDefaultsFile() {
     TNRemoveStaleLocks();
-    NSString *name = [processName stringByAppendingPathExtension:@"plist"];
     // Only to have a damaged file out of the way before it would be overwritten.
-    TNReadSettingsFile([TNDefaultsFolder() stringByAppendingPathComponent:name]);
+    TNReadSettingsFile(TNSettingsFileOf(processName));
 }
 
 /// `han` is the font of Chinese characters, without its weight.

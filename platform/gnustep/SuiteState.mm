@@ -21,9 +21,7 @@ NSMutableDictionary *statesByName() {
 - (instancetype)initWithName:(NSString *)name {
     self = [super init];
     if (self) {
-        NSString *fileName = [name stringByAppendingPathExtension:@"plist"];
-        _file =
-            [[TNSuiteFile alloc] initWithPath:[TNDefaultsFolder() stringByAppendingPathComponent:fileName]];
+        _file = [[TNSuiteFile alloc] initWithPath:TNSettingsFileOf(name)];
         _values = [[NSMutableDictionary alloc] init];
         _changes = [[NSMutableDictionary alloc] init];
     }
