@@ -40,12 +40,13 @@ void FactoryLists::resetArrOfCreateNewFile() {
 
 void FactoryLists::finishTemplateFiles() {
     const auto& stored = lists_[RuleCategory::createNewFile];
-    const auto factory = templateRecords();
-    // Any other list has files of its own that the layout would remove.
-    if (templateFiles_.isLayoutPending() &&
-        std::equal(stored.begin(), stored.end(), factory.begin(), factory.end())) {
-        platform_.log.write("the template folder is laid out again after an interruption");
-        layOutTemplates();
+    if (templateFiles_.isLayoutPending()) {
+        const auto factory = templateRecords();
+        // Any other list has files of its own that the layout would remove.
+        if (std::equal(stored.begin(), stored.end(), factory.begin(), factory.end())) {
+            platform_.log.write("the template folder is laid out again after an interruption");
+            layOutTemplates();
+        }
     }
     templateFiles_.finish(stored);
 }

@@ -109,9 +109,8 @@ void TemplateFiles::noteCopies(const std::vector<std::string>& paths) {
 }
 
 bool TemplateFiles::copy(const std::string& path) {
-    const auto folder = GroupContainer(platform_.folders).templateFolder();
-    return folder &&
-           platform_.files.copy(path, std::string(*folder).append("/").append(lastPathComponent(path)));
+    const auto copied = templatePath(platform_, std::string(lastPathComponent(path)));
+    return copied && platform_.files.copy(path, *copied);
 }
 
 void TemplateFiles::noteLayout() {
@@ -124,7 +123,7 @@ bool TemplateFiles::isLayoutPending() const {
 }
 
 void TemplateFiles::finish(const RuleList& templates) {
-    if (!GroupContainer(platform_.folders).templateFolder()) {
+    if (!local_.contains(key::pendingTemplateFiles) || !GroupContainer(platform_.folders).templateFolder()) {
         return;
     }
     const auto words = notedWords(local_);
