@@ -1,5 +1,6 @@
 #include "tests/fuzz/Driving.h"
 
+#include "tests/support/SettingsFixture.h"
 #include "ui/WindowLayout.h"
 
 #include <algorithm>
@@ -22,13 +23,7 @@ const PlistValue* valueAt(const PlistDictionary& store, const std::string& key) 
 
 Program::Program(testing::InMemoryPlatform& platform)
     : platform_(platform), window_(platform.log), controller_(platform.ports()) {
-    controller_.connect(window_.outlets());
-    for (const auto category : allRuleCategories) {
-        window_.table(category).rowCount = [this, category] { return controller_.numberOfRows(category); };
-    }
-    platform_.preferences.observer = [this](std::string_view key, const PlistValue& value) {
-        controller_.observeValue(key, value);
-    };
+    testing::connect(platform_, window_, controller_);
 }
 
 void Program::launch() {

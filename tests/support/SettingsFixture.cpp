@@ -17,14 +17,20 @@ const PlistArray& arrayAt(const PlistDictionary& store, std::string_view key) {
 
 } // namespace
 
-SettingsFixture::SettingsFixture() : window_(platform_.log), controller_(platform_.ports()) {
-    controller_.connect(window_.outlets());
+void connect(InMemoryPlatform& platform, InMemoryWindow& window, SettingsViewController& controller) {
+    controller.connect(window.outlets());
     for (const auto category : allRuleCategories) {
-        window_.table(category).rowCount = [this, category] { return controller_.numberOfRows(category); };
+        window.table(category).rowCount = [&controller, category] {
+            return controller.numberOfRows(category);
+        };
     }
-    platform_.preferences.observer = [this](std::string_view key, const PlistValue& value) {
-        controller_.observeValue(key, value);
+    platform.preferences.observer = [&controller](std::string_view key, const PlistValue& value) {
+        controller.observeValue(key, value);
     };
+}
+
+SettingsFixture::SettingsFixture() : window_(platform_.log), controller_(platform_.ports()) {
+    connect(platform_, window_, controller_);
 }
 
 void SettingsFixture::launch() {

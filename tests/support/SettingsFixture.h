@@ -14,6 +14,9 @@
 
 namespace tarnwick::testing {
 
+/// Connects the controller to all controls, the tables to its rows, and both to changes of the preferences.
+void connect(InMemoryPlatform& platform, InMemoryWindow& window, SettingsViewController& controller);
+
 /// The controller over the in-memory platform, with all controls connected.
 class SettingsFixture : public ::testing::Test {
 protected:
