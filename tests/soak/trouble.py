@@ -83,8 +83,6 @@ class Sandbox:
         if self.other_user:
             os.chown(path, OTHER_USER, OTHER_USER)
             prefix = ["setpriv", f"--reuid={OTHER_USER}", f"--regid={OTHER_USER}", "--clear-groups", *prefix]
-            if "XAUTHORITY" in environment:
-                environment["XAUTHORITY"] = str(self.root / "Xauthority")
         with open(self.output, "ab") as output:
             process = subprocess.Popen([*prefix, self.editor], stdout=output, stderr=output, env=environment)
         try:
@@ -113,10 +111,7 @@ class Sandbox:
         self.root.chmod(0o755)
         shutil.rmtree(self.root / "tmp")
         (self.root / "tmp").mkdir()
-        own = [self.root / "sources", self.root / "tmp"]
-        if "XAUTHORITY" in os.environ:
-            own.append(shutil.copy(os.environ["XAUTHORITY"], self.root / "Xauthority"))
-        for path in own:
+        for path in (self.root / "sources", self.root / "tmp"):
             os.chown(path, OTHER_USER, OTHER_USER)
         self.other_user = True
 
