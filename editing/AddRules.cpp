@@ -61,10 +61,12 @@ OpenPanelRequest AddRules::chooser(RuleCategory category) const {
 }
 
 void AddRules::add(RuleCategory category) {
+    pages_.endEditing();
     platform_.openPanel.begin(chooser(category), [this, category](const OpenPanelAnswer& answer) {
         if (!answer.confirmed || answer.paths.empty()) {
             return;
         }
+        pages_.endEditing();
         appendRecords(category, answer.paths);
         // Also when every item was skipped.
         if (const auto key = factsOf(category).rememberedFolderKey; !key.empty()) {
@@ -78,6 +80,7 @@ void AddRules::addPaths(RuleCategory category, const std::vector<std::string>& p
     if (paths.empty()) {
         return;
     }
+    pages_.endEditing();
     appendRecords(category, paths);
     commit(category);
 }

@@ -7,15 +7,20 @@
 namespace tarnwick {
 
 void ChoosePath::selectPath(long row) {
+    pages_.endEditing();
     OpenPanelRequest request;
     request.canChooseFiles = false;
     request.canChooseDirectories = true;
     request.canCreateDirectories = true;
     request.startFolder = homeSubfolder(platform_.folders, "Desktop");
     platform_.openPanel.begin(request, [this, row](const OpenPanelAnswer& answer) {
+        if (!answer.confirmed || answer.paths.empty()) {
+            return;
+        }
+        pages_.endEditing();
         constexpr auto category = RuleCategory::copyFilesTo;
         auto& list = pages_.list(category);
-        if (!answer.confirmed || answer.paths.empty() || !list.holds(row)) {
+        if (!list.holds(row)) {
             return;
         }
         const auto index = static_cast<std::size_t>(row);

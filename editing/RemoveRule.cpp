@@ -5,6 +5,7 @@
 namespace tarnwick {
 
 void RemoveRule::remove(RuleCategory category) {
+    pages_.endEditing();
     const auto row = pages_.selectedRow(category);
     auto& list = pages_.list(category);
     if (list.holds(row)) {

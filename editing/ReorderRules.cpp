@@ -9,6 +9,7 @@ std::optional<long> ReorderRules::acceptDrop(
     if (!target || source != target) {
         return std::nullopt;
     }
+    pages_.endEditing();
     const auto category = *target;
     auto& list = pages_.list(category);
     if (!list.holds(from)) {
@@ -43,6 +44,7 @@ bool ReorderRules::canMoveSelection(RuleCategory category, MoveDirection directi
 }
 
 void ReorderRules::moveSelection(RuleCategory category, MoveDirection direction) {
+    pages_.endEditing();
     if (!canMoveSelection(category, direction)) {
         return;
     }

@@ -6,6 +6,7 @@
 namespace tarnwick {
 
 void ResetRules::reset(RuleCategory category) {
+    pages_.endEditing();
     switch (category) {
     case RuleCategory::createNewFile:
         factory_.resetArrOfCreateNewFile();

@@ -5,6 +5,12 @@
 
 namespace tarnwick {
 
+void RulePages::endEditing() {
+    if (rowEditing_) {
+        rowEditing_->end();
+    }
+}
+
 void RulePages::store(RuleCategory category) {
     local_.store(lists_[category]);
 }

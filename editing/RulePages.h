@@ -19,11 +19,16 @@ public:
     RulePages(RuleLists& lists, LocalPreferences& local, RulePublisher& publisher)
         : lists_(lists), local_(local), publisher_(publisher) {}
 
-    void connect(
-        const std::array<TableControl*, 5>& tables, const std::array<ButtonControl*, 5>& removeButtons) {
+    void connect(const std::array<TableControl*, 5>& tables,
+        const std::array<ButtonControl*, 5>& removeButtons, RowEditing* rowEditing) {
         tables_ = tables;
         removeButtons_ = removeButtons;
+        rowEditing_ = rowEditing;
     }
+
+    /// Ends an edit in progress, whose text then reaches the record of its own row. Everything that changes a
+    /// list for another reason does this first of all: afterwards rows may stand elsewhere.
+    void endEditing();
 
     [[nodiscard]] RuleList& list(RuleCategory category) { return lists_[category]; }
 
@@ -53,6 +58,7 @@ private:
     RulePublisher& publisher_;
     std::array<TableControl*, 5> tables_{};
     std::array<ButtonControl*, 5> removeButtons_{};
+    RowEditing* rowEditing_ = nullptr;
 };
 
 } // namespace tarnwick

@@ -34,6 +34,7 @@ void ToggleRules::setEnabledInMainMenu(long row, bool on) {
 }
 
 void ToggleRules::setFlag(RuleCategory category, long row, std::string_view key, bool on) {
+    pages_.endEditing();
     auto& list = pages_.list(category);
     if (!list.holds(row)) {
         return;
@@ -50,7 +51,9 @@ void ToggleRules::enableAll(RuleCategory category) {
     if (key.empty()) {
         return;
     }
+    // What the switch has stored goes ahead of an edit in progress, whose publishing may store it anew.
     const auto enable = local_.flag(key);
+    pages_.endEditing();
     auto& list = pages_.list(category);
     std::vector<RuleRecord> records;
     records.reserve(list.size());

@@ -67,6 +67,15 @@ public:
     virtual void selectTab(int index) = 0;
 };
 
+/// The text field of a table row that is being edited, when there is one.
+class RowEditing {
+public:
+    virtual ~RowEditing() = default;
+    /// Ends the edit as the Return key does: the text reaches the controller, which stores it, before this
+    /// returns. Nothing happens while no row is being edited.
+    virtual void end() = 0;
+};
+
 /// The window around the controls.
 class WindowControl {
 public:

@@ -20,6 +20,7 @@ struct Outlets {
     std::array<ButtonControl*, pageCount> pageButtons{};
     std::array<TableControl*, 5> tables{};
     std::array<ButtonControl*, 5> removeButtons{};
+    RowEditing* rowEditing = nullptr;
     ButtonControl* restartFinderButton = nullptr;
     ButtonControl* helpButton = nullptr;
 

@@ -35,7 +35,7 @@ SettingsViewController::SettingsViewController(const Platform& platform)
 
 void SettingsViewController::connect(const Outlets& outlets) {
     outlets_ = outlets;
-    pages_.connect(outlets.tables, outlets.removeButtons);
+    pages_.connect(outlets.tables, outlets.removeButtons, outlets.rowEditing);
 }
 
 void SettingsViewController::awakeFromNib() {
@@ -94,6 +94,7 @@ void SettingsViewController::start() {
 }
 
 void SettingsViewController::showPage(Page page) {
+    pages_.endEditing();
     const auto current = static_cast<std::size_t>(page);
     if (outlets_.tabView) {
         outlets_.tabView->selectTab(static_cast<int>(current));

@@ -135,6 +135,9 @@ public:
     /// Always true: editing ends, whatever the text.
     bool controlTextShouldEndEditing(std::string_view identifier, long row, std::string_view text);
     void selectPath(long row) { choosePath_.selectPath(row); }
+    /// Ends an edit in progress into its own row, where one runs. All that changes a list or shows another
+    /// page does so itself; the window does so before it closes and before the application quits.
+    void endEditing() { pages_.endEditing(); }
 
     // The Finder and its extension
     [[nodiscard]] bool isExtensionEnabled() const { return finderExtension_.isExtensionEnabled(); }

@@ -14,4 +14,17 @@
     }
 }
 
+/// A field that is taken away while it is being edited stores nothing: its row may be another one by now.
+- (void)viewWillMoveToWindow:(NSWindow *)window {
+    [super viewWillMoveToWindow:window];
+    if (window) {
+        return;
+    }
+    for (NSView *view in [self subviews]) {
+        if ([view isKindOfClass:[NSTextField class]]) {
+            [static_cast<NSTextField *>(view) abortEditing];
+        }
+    }
+}
+
 @end

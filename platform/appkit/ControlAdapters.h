@@ -15,6 +15,8 @@ namespace tarnwick {
 [[nodiscard]] std::unique_ptr<ButtonControl> makeButtonControl(NSButton* button);
 [[nodiscard]] std::unique_ptr<LabelControl> makeLabelControl(NSTextField* label);
 [[nodiscard]] std::unique_ptr<TabControl> makeTabControl(NSTabView* tabView);
+/// The window is that of the pages.
+[[nodiscard]] std::unique_ptr<RowEditing> makeRowEditing(NSTabView* tabView);
 [[nodiscard]] std::unique_ptr<WindowControl> makeWindowControl(NSWindow* window);
 
 /// The handles of one window.
@@ -24,6 +26,7 @@ struct ControlAdapters {
     std::vector<std::unique_ptr<ButtonControl>> pageButtons;
     std::vector<std::unique_ptr<TableControl>> tables;
     std::vector<std::unique_ptr<ButtonControl>> removeButtons;
+    std::unique_ptr<RowEditing> rowEditing;
     std::unique_ptr<ButtonControl> restartFinderButton;
     std::unique_ptr<ButtonControl> helpButton;
 

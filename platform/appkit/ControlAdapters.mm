@@ -100,6 +100,33 @@ private:
     NSTabView *tabView_;
 };
 
+/// The table that a view stands in; nil when it stands in none.
+NSTableView *tableAround(NSView *view) {
+    while (view && ![view isKindOfClass:[NSTableView class]]) {
+        view = [view superview];
+    }
+    return static_cast<NSTableView *>(view);
+}
+
+class AppKitRowEditing final : public RowEditing {
+public:
+    explicit AppKitRowEditing(NSTabView *tabView) : tabView_(tabView) {}
+    /// The keyboard goes back to the table.
+    void end() override {
+        id editor = [[tabView_ window] firstResponder];
+        if (![editor isKindOfClass:[NSText class]] || ![editor isFieldEditor] ||
+            ![[editor delegate] isKindOfClass:[NSTextField class]]) {
+            return;
+        }
+        if (NSTableView *table = tableAround(static_cast<NSTextField *>([editor delegate]))) {
+            [[tabView_ window] makeFirstResponder:table];
+        }
+    }
+
+private:
+    NSTabView *tabView_;
+};
+
 class AppKitWindow final : public WindowControl {
 public:
     explicit AppKitWindow(NSWindow *window) : window_(window) {}
@@ -139,6 +166,10 @@ std::unique_ptr<TabControl> makeTabControl(NSTabView *tabView) {
     return std::make_unique<AppKitTabs>(tabView);
 }
 
+std::unique_ptr<RowEditing> makeRowEditing(NSTabView *tabView) {
+    return std::make_unique<AppKitRowEditing>(tabView);
+}
+
 std::unique_ptr<WindowControl> makeWindowControl(NSWindow *window) {
     return std::make_unique<AppKitWindow>(window);
 }
@@ -155,6 +186,7 @@ Outlets ControlAdapters::outlets() const {
     fill(outlets.pageButtons, pageButtons);
     fill(outlets.tables, tables);
     fill(outlets.removeButtons, removeButtons);
+    outlets.rowEditing = rowEditing.get();
     outlets.restartFinderButton = restartFinderButton.get();
     outlets.helpButton = helpButton.get();
     return outlets;

@@ -52,6 +52,19 @@ void observeApplications(::SettingsViewController *controller) {
                  object:nil];
 }
 
+/// The delegate's own callbacks have nothing to do with what is being edited.
+void observeEnds(::SettingsViewController *controller, NSWindow *window) {
+    NSNotificationCenter *center = [NSNotificationCenter defaultCenter];
+    [center addObserver:controller
+               selector:@selector(endEditing:)
+                   name:NSWindowWillCloseNotification
+                 object:window];
+    [center addObserver:controller
+               selector:@selector(endEditing:)
+                   name:NSApplicationWillTerminateNotification
+                 object:nil];
+}
+
 } // namespace
 
 struct MainInterface::Ports {
@@ -95,6 +108,7 @@ MainInterface::MainInterface() : ports_(std::make_unique<Ports>(*this)) {
     delegate_ = [[AppDelegate alloc] initWithPlatform:platform window:window_];
     installMainMenu(controller_);
     [NSApp setDelegate:delegate_];
+    observeEnds(controller_, window_);
     [controller_ awakeFromNib];
     // The tables were built before there were lists to show.
     for (const auto category : allRuleCategories) {
@@ -104,6 +118,7 @@ MainInterface::MainInterface() : ports_(std::make_unique<Ports>(*this)) {
 
 MainInterface::~MainInterface() {
     [NSApp setDelegate:nil];
+    [[NSNotificationCenter defaultCenter] removeObserver:controller_];
     [delegate_ release];
     [window_ release];
     [controller_ release];

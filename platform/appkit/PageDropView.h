@@ -13,7 +13,6 @@
 @private
     tarnwick::RuleCategory _category;
     SettingsViewController *_controller;
-    RuleTableView *_table;
     NSView *_mark;
     NSDragOperation _answer;
 }
@@ -23,7 +22,7 @@
                      category:(tarnwick::RuleCategory)category
                    controller:(SettingsViewController *)controller;
 /// The list's table, around which a frame is shown while a drop would be taken. Call once, when the table has
-/// its place on the page. Not retained.
+/// its place on the page.
 - (void)takeDropsFor:(RuleTableView *)table;
 
 @end

@@ -78,7 +78,6 @@ NSDragOperation operationFrom(NSDragOperation offered) {
 }
 
 - (void)takeDropsFor:(RuleTableView *)table {
-    _table = table;
     [table setFileDropView:self];
     NSView *list = [table enclosingScrollView];
     _mark = [[[DropMarkView alloc] initWithFrame:[list frame]] autorelease];
@@ -114,10 +113,6 @@ NSDragOperation operationFrom(NSDragOperation offered) {
 
 - (BOOL)performDragOperation:(id<NSDraggingInfo>)info {
     [_mark setHidden:YES];
-    if ([[[self window] firstResponder] isKindOfClass:[NSText class]]) {
-        // The name being edited counts as it stands, before its row is built anew.
-        [[self window] makeFirstResponder:_table];
-    }
     return [_controller controller]->addDroppedItems(_category, itemsOn([info draggingPasteboard]));
 }
 

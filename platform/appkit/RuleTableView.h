@@ -22,6 +22,9 @@
 /// Takes the drags of files in the table's place. Not retained: the table stands in it.
 - (void)setFileDropView:(NSView *)view;
 
+/// Ends the edit of a field in this table without storing anything: the row shows what it did before.
+- (void)abandonEditOf:(NSControl *)field;
+
 /// Shown in the middle of the table while that has no rows.
 - (void)setEmptyHint:(NSView *)hint;
 

@@ -116,6 +116,13 @@ NSControl *controlIn(NSView *cell, Class wanted) {
     }
 }
 
+- (void)abandonEditOf:(NSControl *)field {
+    [field abortEditing];
+    [[self window] makeFirstResponder:self];
+    // The field itself may have taken the text on as it was typed.
+    [self reloadData];
+}
+
 - (void)toggleSelectedSwitch {
     [[self selectedControlInColumn:_switchColumn ofClass:[NSButton class]] performClick:self];
 }

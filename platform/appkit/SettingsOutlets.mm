@@ -36,6 +36,7 @@
     [_tabView release];
     _tabView = tabView;
     _adapters.tabView = tarnwick::makeTabControl(tabView);
+    _adapters.rowEditing = tarnwick::makeRowEditing(tabView);
 }
 
 - (void)addPageButton:(NSButton *)button {

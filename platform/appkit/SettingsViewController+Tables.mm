@@ -2,6 +2,7 @@
 
 #import "platform/appkit/CellFactory.h"
 #import "platform/appkit/RulePageActions.h"
+#import "platform/appkit/RuleTableView.h"
 #import "platform/appkit/SettingsOutlets.h"
 #import "platform/appkit/StringConversion.h"
 
@@ -92,6 +93,19 @@ long firstDraggedRow(NSPasteboard *pasteboard) {
     return [self controller]->acceptDrop(knownCategoryOf(tableView, [self outlets]),
         knownCategoryOf([info draggingSource], [self outlets]), firstDraggedRow([info draggingPasteboard]),
         row);
+}
+
+/// The Escape key.
+- (BOOL)control:(NSControl *)control textView:(NSTextView *)textView doCommandBySelector:(SEL)command {
+    NSView *view = control;
+    while (view && ![view isKindOfClass:[RuleTableView class]]) {
+        view = [view superview];
+    }
+    if (!view || !sel_isEqual(command, @selector(cancelOperation:))) {
+        return NO;
+    }
+    [static_cast<RuleTableView *>(view) abandonEditOf:control];
+    return YES;
 }
 
 - (BOOL)control:(NSControl *)control textShouldEndEditing:(NSText *)fieldEditor {

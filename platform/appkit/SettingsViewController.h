@@ -24,6 +24,9 @@ struct Platform;
 - (void)setOutlets:(SettingsOutlets *)outlets;
 - (SettingsOutlets *)outlets;
 
+/// The name or note being edited counts as it stands, now that its window closes or the application ends.
+- (void)endEditing:(NSNotification *)notification;
+
 /// Valid for the life of the receiver.
 - (tarnwick::SettingsViewController *)controller;
 

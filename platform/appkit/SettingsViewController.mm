@@ -36,6 +36,10 @@
     return _outlets;
 }
 
+- (void)endEditing:(NSNotification *)notification {
+    _controller->endEditing();
+}
+
 - (tarnwick::SettingsViewController *)controller {
     return _controller;
 }

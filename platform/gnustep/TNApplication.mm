@@ -1,5 +1,5 @@
-// Missing: Return for a field that is being edited, reports of failing event handlers, and the prompt end of
-// a modal session, as of GNUstep GUI 0.29.
+// Missing: Return and Escape for a field that is being edited, reports of failing event handlers, and the
+// prompt end of a modal session, as of GNUstep GUI 0.29.
 
 #import "TNApplication.h"
 
@@ -28,26 +28,31 @@
     TNWakeRunLoop();
 }
 
-- (BOOL)isReturnForEditedField:(NSEvent *)event {
+/// The editor of the field that a key is meant for; nil without one, and in panels, whose buttons have Return
+/// and Escape.
+- (NSTextView *)fieldEditorFor:(NSEvent *)event {
     NSWindow *window = [event window];
     if ([event type] != NSEventTypeKeyDown || [window isKindOfClass:[NSPanel class]]) {
-        return NO;
+        return nil;
     }
     id responder = [window firstResponder];
-    if (![responder isKindOfClass:[NSText class]] || ![responder isFieldEditor]) {
-        return NO;
-    }
-    NSString *characters = [event characters];
-    return [characters length] == 1 && [characters characterAtIndex:0] == NSCarriageReturnCharacter;
+    return [responder isKindOfClass:[NSTextView class]] && [responder isFieldEditor] ? responder : nil;
 }
 
-/// A default button would take Return away from the field that is being edited.
+/// A default button would take Return away from the field that is being edited, and Escape asks GNUstep to
+/// complete the text.
 - (void)sendEvent:(NSEvent *)event {
-    if ([self isReturnForEditedField:event]) {
-        [[[event window] firstResponder] keyDown:event];
-        return;
+    constexpr unichar escape = 0x1B;
+    NSTextView *editor = [self fieldEditorFor:event];
+    NSString *characters = editor ? [event characters] : nil;
+    const unichar key = [characters length] == 1 ? [characters characterAtIndex:0] : 0;
+    if (key == NSCarriageReturnCharacter) {
+        [editor keyDown:event];
+    } else if (key == escape) {
+        [editor doCommandBySelector:@selector(cancelOperation:)];
+    } else {
+        [super sendEvent:event];
     }
-    [super sendEvent:event];
 }
 
 - (void)reportException:(NSException *)exception {

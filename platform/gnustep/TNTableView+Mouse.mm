@@ -152,6 +152,7 @@ bool extends(NSUInteger modifiers) {
 }
 
 - (BOOL)editFieldAtColumn:(NSInteger)column row:(NSInteger)row {
+    [self finishReload];
     NSTextField *field = editableField([self cellAtColumn:column row:row]);
     return field && [[self window] makeFirstResponder:field];
 }

@@ -52,8 +52,14 @@ NSArray *deferringModes() {
     _rowViews[row] = std::move(cells);
 }
 
+/// A field that is still being edited goes without a word: its row may be another one by now.
 - (void)dropCells:(const std::vector<NSView *> &)cells {
+    NSTextField *field = [self editedField];
     for (NSView *cell : cells) {
+        if ([field isDescendantOf:cell]) {
+            [field abortEditing];
+            [[self window] makeFirstResponder:self];
+        }
         [cell removeFromSuperview];
         [cell release];
     }
@@ -173,6 +179,15 @@ NSArray *deferringModes() {
     }
     if (static_cast<NSInteger>([selection lastIndex]) < [self numberOfRows]) {
         [self selectRowIndexes:selection byExtendingSelection:NO];
+    }
+}
+
+- (void)finishReload {
+    if (_reloadIsPending) {
+        [NSObject cancelPreviousPerformRequestsWithTarget:self
+                                                 selector:@selector(exchangeRowViews)
+                                                   object:nil];
+        [self exchangeRowViews];
     }
 }
 

@@ -12,7 +12,7 @@ protected:
         launch();
         preferences_.open(ports_.preferences);
         const auto outlets = window_.outlets();
-        pages_.connect(outlets.tables, outlets.removeButtons);
+        pages_.connect(outlets.tables, outlets.removeButtons, nullptr);
         platform_.log.clear();
     }
 

@@ -30,6 +30,8 @@ void pressCommand(char key);
 /// With the Option and Command keys.
 void pressOptionCommand(Key key);
 void type(const std::string& text);
+/// Loads a table anew, as the program may at any moment.
+void reloadTable(RuleCategory table);
 /// Sends the controller an action without a control, as a menu item does.
 void sendAction(const std::string& selector);
 

@@ -120,6 +120,11 @@ void type(const std::string &text) {
     driving::type(settingsWindow(), toNSString(text));
 }
 
+void reloadTable(RuleCategory table) {
+    [tableOf(table) reloadData];
+    driving::settle();
+}
+
 void sendAction(const std::string &selector) {
     [NSApp sendAction:NSSelectorFromString(toNSString(selector)) to:settingsController() from:nil];
     driving::settle();

@@ -33,6 +33,13 @@ void InMemoryButton::setEnabled(bool on) {
     enabled = on;
 }
 
+void InMemoryRowEditing::end() {
+    if (const auto ended = std::exchange(edit, nullptr)) {
+        log_.add("end edit");
+        ended();
+    }
+}
+
 void InMemoryWindowFrame::setMovableByBackground(bool movable) {
     log_.add(movable ? "movable by background" : "not movable by background");
 }
@@ -42,7 +49,8 @@ void InMemoryWindowFrame::setBackground(const Colour& colour) {
     background = colour;
 }
 
-InMemoryWindow::InMemoryWindow(CallLog& log) : restartFinderButton(log, "restart"), helpButton(log, "help") {
+InMemoryWindow::InMemoryWindow(CallLog& log)
+    : rowEditing(log), restartFinderButton(log, "restart"), helpButton(log, "help") {
     for (const auto* name : {"createNewFile", "copyFilesTo", "commonPath", "customIcon", "others"}) {
         tables.emplace_back(log, name);
         removeButtons.emplace_back(log, std::string("remove ") + name);
@@ -64,6 +72,7 @@ Outlets InMemoryWindow::outlets() {
     for (std::size_t index = 0; index < pageButtons.size(); ++index) {
         outlets.pageButtons[index] = &pageButtons[index];
     }
+    outlets.rowEditing = &rowEditing;
     outlets.restartFinderButton = &restartFinderButton;
     outlets.helpButton = &helpButton;
     return outlets;

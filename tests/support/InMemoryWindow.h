@@ -56,6 +56,19 @@ private:
     std::string name_;
 };
 
+/// Logs "end edit" when it ends one.
+class InMemoryRowEditing final : public RowEditing {
+public:
+    explicit InMemoryRowEditing(CallLog& log) : log_(log) {}
+    /// The edit in progress: gives the controller its text, as the field does. Empty: none.
+    std::function<void()> edit;
+
+    void end() override;
+
+private:
+    CallLog& log_;
+};
+
 class InMemoryLabel final : public LabelControl {
 public:
     std::string text;
@@ -100,6 +113,7 @@ public:
     std::deque<InMemoryButton> pageButtons;
     std::deque<InMemoryTable> tables;
     std::deque<InMemoryButton> removeButtons;
+    InMemoryRowEditing rowEditing;
     InMemoryButton restartFinderButton;
     InMemoryButton helpButton;
 };

@@ -33,6 +33,8 @@
 /// Brings the live views in line with the rows on screen.
 - (void)syncRowViews;
 - (void)dropRowViews;
+/// Exchanges the views now that an edit had to wait for; otherwise that happens in the run loop.
+- (void)finishReload;
 /// Gives the columns that resize with the table equal shares of what is gained or lost.
 - (void)fillWidth;
 /// The field being edited in this table; nil when there is none.

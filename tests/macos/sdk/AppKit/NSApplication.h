@@ -6,6 +6,8 @@
 
 @class NSMenu;
 
+extern "C" NSString *const NSApplicationWillTerminateNotification;
+
 @protocol NSApplicationDelegate <NSObject>
 @optional
 - (void)applicationWillFinishLaunching:(NSNotification *)notification;

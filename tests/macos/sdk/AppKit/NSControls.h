@@ -33,18 +33,24 @@ typedef TN_ENUM(NSUInteger, NSBezelStyle){NSBezelStyleRounded = 1};
 @property (nullable, strong) NSFont *font;
 - (void)performClick:(nullable id)sender;
 - (void)sizeToFit;
+- (BOOL)abortEditing;
 @end
 
 @interface NSText : NSView
+@property (getter=isFieldEditor) BOOL fieldEditor;
 - (void)cut:(nullable id)sender;
 - (void)copy:(nullable id)sender;
 - (void)paste:(nullable id)sender;
 - (void)selectAll:(nullable id)sender;
 @end
 
+@interface NSTextView : NSText
+@end
+
 @protocol NSControlTextEditingDelegate <NSObject>
 @optional
 - (BOOL)control:(NSControl *)control textShouldEndEditing:(NSText *)fieldEditor;
+- (BOOL)control:(NSControl *)control textView:(NSTextView *)textView doCommandBySelector:(SEL)command;
 @end
 
 @protocol NSTextFieldDelegate <NSControlTextEditingDelegate>

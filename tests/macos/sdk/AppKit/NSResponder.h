@@ -7,7 +7,12 @@
 @class NSApplication, NSButton, NSEvent, NSMenuItem, NSTabView, NSTableView, NSText, NSTextField, NSView,
     NSWindow;
 
-@interface NSResponder : NSObject
+@protocol NSStandardKeyBindingResponding <NSObject>
+@optional
+- (void)cancelOperation:(nullable id)sender;
+@end
+
+@interface NSResponder : NSObject <NSStandardKeyBindingResponding>
 - (void)keyDown:(NSEvent *)event;
 @end
 

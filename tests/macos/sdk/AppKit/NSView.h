@@ -44,6 +44,7 @@ typedef TN_OPTIONS(NSUInteger, NSAutoresizingMaskOptions){
 - (nullable NSView *)hitTest:(NSPoint)point;
 - (void)drawRect:(NSRect)rect;
 - (void)resizeSubviewsWithOldSize:(NSSize)size;
+- (void)viewWillMoveToWindow:(nullable NSWindow *)window;
 - (void)registerForDraggedTypes:(NSArray<NSString *> *)types;
 @end
 

@@ -12,6 +12,7 @@ typedef TN_OPTIONS(NSUInteger, NSWindowStyleMask){
 };
 typedef TN_ENUM(NSUInteger, NSBackingStoreType){NSBackingStoreBuffered = 2};
 extern "C" NSString *const NSWindowDidUpdateNotification;
+extern "C" NSString *const NSWindowWillCloseNotification;
 
 @interface NSWindow : NSResponder
 @property (copy) NSString *title;

@@ -10,6 +10,9 @@ typedef signed char BOOL;
 #define nil nullptr
 #define Nil nullptr
 
+typedef struct objc_selector *SEL;
+extern "C" BOOL sel_isEqual(SEL _Nonnull one, SEL _Nonnull other);
+
 typedef long NSInteger;
 typedef unsigned long NSUInteger;
 
