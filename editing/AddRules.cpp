@@ -6,8 +6,8 @@
 #include "prefs/GroupContainer.h"
 #include "prefs/HomeFolder.h"
 #include "prefs/LocalPreferences.h"
-#include "prefs/PathText.h"
 #include "prefs/RecordLayouts.h"
+#include "values/PathText.h"
 
 #include <array>
 #include <string_view>

@@ -1,6 +1,6 @@
 #include "editing/DropFiles.h"
 
-#include "prefs/PathText.h"
+#include "values/PathText.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "integration/ShellCommand.h"
 
-#include "integration/Utf8.h"
 #include "platform/ShellTask.h"
+#include "values/Utf8.h"
 
 namespace tarnwick {
 

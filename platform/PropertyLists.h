@@ -1,6 +1,6 @@
 #pragma once
 
-#include "prefs/PlistValue.h"
+#include "values/PlistValue.h"
 
 #include <optional>
 #include <string>

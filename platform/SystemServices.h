@@ -12,8 +12,8 @@ class RunLoop;
 class SystemVersion;
 class UserScripts;
 
-/// The ports whose implementation differs from platform to platform: `platform/macos/` or
-/// `platform/gnustep/adapters/`; the build picks one.
+/// The ports whose implementation differs from platform to platform: `adapters/macos/` or
+/// `adapters/linux/`; the build picks one.
 
 /// What must happen before anything else of the toolkit is touched, first of all in `main`.
 void prepareProcess(int argc, char* argv[]);

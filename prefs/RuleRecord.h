@@ -1,6 +1,6 @@
 #pragma once
 
-#include "prefs/PlistValue.h"
+#include "values/PlistValue.h"
 
 #include <memory>
 #include <optional>

@@ -4,9 +4,9 @@
 #include "platform/SystemLog.h"
 #include "prefs/GroupContainer.h"
 #include "prefs/LocalPreferences.h"
-#include "prefs/PathText.h"
 #include "prefs/PreferenceKeys.h"
 #include "prefs/RuleList.h"
+#include "values/PathText.h"
 
 #include <algorithm>
 #include <iterator>

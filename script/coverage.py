@@ -6,7 +6,7 @@ import json
 import os
 import sys
 
-FOLDERS = ("app", "editing", "integration", "prefs", "ui")
+FOLDERS = ("app", "editing", "integration", "prefs", "ui", "values")
 
 
 def main():

@@ -2,8 +2,8 @@
 
 #include "platform/ApplicationBundle.h"
 #include "prefs/HomeFolder.h"
-#include "prefs/PathText.h"
 #include "prefs/RuleRecord.h"
+#include "values/PathText.h"
 
 #include <array>
 #include <string_view>

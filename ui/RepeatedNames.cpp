@@ -1,7 +1,7 @@
 #include "ui/RepeatedNames.h"
 
-#include "prefs/PathText.h"
 #include "prefs/RuleList.h"
+#include "values/PathText.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #import "bench/app/ClickService.h"
 
-#import "platform/gnustep/DefaultsFiles.h"
+#import "gnustep/defaults/DefaultsFiles.h"
 #import "tests/driving/Driving.h"
 
 #include <array>

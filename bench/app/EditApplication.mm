@@ -1,9 +1,9 @@
 // The application itself, its window on the page of copy targets, clicked in the check box of the second row.
 
 #import "bench/app/ClickService.h"
-#import "platform/appkit/MainInterface.h"
-#import "platform/appkit/SettingsOutlets.h"
-#import "platform/appkit/SettingsViewController.h"
+#import "front/MainInterface.h"
+#import "front/SettingsOutlets.h"
+#import "front/SettingsViewController.h"
 #import "tests/driving/Driving.h"
 
 #include "platform/SystemServices.h"

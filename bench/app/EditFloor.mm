@@ -3,7 +3,7 @@
 // values are made beforehand.
 
 #import "bench/app/ClickService.h"
-#import "platform/gnustep/include/TNStartUp.h"
+#import "gnustep/include/TNStartUp.h"
 
 #include <array>
 

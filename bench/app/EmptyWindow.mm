@@ -5,7 +5,7 @@
 #import <AppKit/AppKit.h>
 
 #ifdef TARNWICK_BENCH_WITH_LAYER
-#import "platform/gnustep/include/TNStartUp.h"
+#import "gnustep/include/TNStartUp.h"
 #endif
 
 namespace {

@@ -1,9 +1,9 @@
 // Image data of a record, through the real conversions: bytes that are a picture become one and keep their
 // size; any others become none.
 
+#include "adapters/foundation/Adapters.h"
 #include "platform/Images.h"
-#include "platform/appkit/Adapters.h"
-#include "tests/appkit/Pool.h"
+#include "tests/adapters/Pool.h"
 #include "tests/fuzz/Require.h"
 
 #include <cstdint>

@@ -4,7 +4,7 @@
 #include "Probe.h"
 
 #import "TNStartUp.h"
-#import "platform/gnustep/Languages.h"
+#import "gnustep/start/Languages.h"
 
 #import <Foundation/Foundation.h>
 

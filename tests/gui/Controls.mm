@@ -3,7 +3,7 @@
 #include "tests/gui/Input.h"
 #include "tests/gui/SettingsWindow.h"
 
-#import "platform/appkit/StringConversion.h"
+#import "adapters/foundation/StringConversion.h"
 
 #import <AppKit/AppKit.h>
 

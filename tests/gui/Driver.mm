@@ -3,7 +3,7 @@
 #include "tests/gui/Panels.h"
 #include "tests/gui/SettingsWindow.h"
 
-#import "platform/appkit/MainInterface.h"
+#import "front/MainInterface.h"
 #import "tests/driving/Driving.h"
 
 #include "platform/SystemServices.h"

@@ -3,7 +3,7 @@
 #include "tests/gui/SettingsWindow.h"
 #include "tests/gui/Shown.h"
 
-#import "platform/appkit/StringConversion.h"
+#import "adapters/foundation/StringConversion.h"
 #import "tests/driving/Driving.h"
 
 #import <AppKit/AppKit.h>

@@ -2,8 +2,8 @@
 
 #include "tests/gui/SettingsWindow.h"
 
-#import "platform/appkit/SettingsOutlets.h"
-#import "platform/appkit/StringConversion.h"
+#import "adapters/foundation/StringConversion.h"
+#import "front/SettingsOutlets.h"
 #import "tests/driving/Driving.h"
 
 namespace tarnwick::gui {

@@ -2,7 +2,7 @@
 
 #include "tests/gui/SettingsWindow.h"
 
-#import "platform/appkit/StringConversion.h"
+#import "adapters/foundation/StringConversion.h"
 #import "tests/driving/Driving.h"
 
 namespace {

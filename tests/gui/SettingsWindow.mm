@@ -1,9 +1,9 @@
 #include "tests/gui/SettingsWindow.h"
 
-#import "platform/appkit/MainInterface.h"
-#import "platform/appkit/SettingsOutlets.h"
-#import "platform/appkit/SettingsViewController.h"
-#import "platform/appkit/StringConversion.h"
+#import "adapters/foundation/StringConversion.h"
+#import "front/MainInterface.h"
+#import "front/SettingsOutlets.h"
+#import "front/SettingsViewController.h"
 
 namespace tarnwick::gui {
 namespace {

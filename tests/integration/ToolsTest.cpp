@@ -1,6 +1,6 @@
 #include "integration/TerminalService.h"
-#include "integration/Utf8.h"
 #include "tests/support/SettingsFixture.h"
+#include "values/Utf8.h"
 
 namespace tarnwick::testing {
 namespace {

@@ -1,4 +1,4 @@
-#include "integration/Utf8.h"
+#include "values/Utf8.h"
 
 #include "integration/ShellCommand.h"
 #include "tests/support/InMemoryPlatform.h"

@@ -1,7 +1,7 @@
 #include "IconProbe.h"
 
-#import "platform/appkit/ImageConversion.h"
-#import "platform/appkit/StringConversion.h"
+#import "adapters/foundation/ImageConversion.h"
+#import "adapters/foundation/StringConversion.h"
 
 namespace tarnwick::standins {
 

@@ -1,7 +1,7 @@
-#include "prefs/PathText.h"
 #include "prefs/RecordLayouts.h"
 #include "prefs/RuleList.h"
 #include "tests/support/Printing.h"
+#include "values/PathText.h"
 
 #include <gtest/gtest.h>
 

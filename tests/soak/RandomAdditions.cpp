@@ -1,5 +1,5 @@
+#include "adapters/foundation/Adapters.h"
 #include "platform/Images.h"
-#include "platform/appkit/Adapters.h"
 #include "tests/soak/EditingApplication.h"
 #include "tests/soak/RandomEdits.h"
 

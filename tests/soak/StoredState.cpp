@@ -1,8 +1,8 @@
 #include "tests/soak/StoredState.h"
 
+#include "adapters/foundation/Adapters.h"
 #include "platform/PreferenceStore.h"
 #include "platform/PropertyLists.h"
-#include "platform/appkit/Adapters.h"
 #include "prefs/PreferenceKeys.h"
 #include "tests/soak/EditingApplication.h"
 

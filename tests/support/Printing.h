@@ -1,7 +1,7 @@
 #pragma once
 
-#include "prefs/PlistValue.h"
 #include "prefs/RuleCategory.h"
+#include "values/PlistValue.h"
 
 #include <iosfwd>
 

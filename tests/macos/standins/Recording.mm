@@ -1,6 +1,6 @@
 #include "Recording.h"
 
-#import "platform/appkit/StringConversion.h"
+#import "adapters/foundation/StringConversion.h"
 
 #include <chrono>
 

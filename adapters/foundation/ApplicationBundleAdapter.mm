@@ -1,0 +1,36 @@
+#import "adapters/foundation/StringConversion.h"
+
+#include "adapters/foundation/Adapters.h"
+#include "platform/ApplicationBundle.h"
+
+#import <Foundation/Foundation.h>
+
+namespace tarnwick {
+namespace {
+
+class MainBundle final : public ApplicationBundle {
+public:
+    std::string localized(std::string_view key) const override {
+        return toString([bundle() localizedStringForKey:toNSString(key) value:@"" table:nil]);
+    }
+    std::string resourceFolder() const override { return toString([bundle() resourcePath]); }
+    std::string plugInsFolder() const override {
+        NSString *folder = [bundle() builtInPlugInsPath];
+        return folder ? toString(folder) : toString([bundle() bundlePath]) + "/Contents/PlugIns";
+    }
+    std::string shortVersion() const override {
+        id version = [bundle() objectForInfoDictionaryKey:@"CFBundleShortVersionString"];
+        return [version isKindOfClass:[NSString class]] ? toString(version) : std::string();
+    }
+
+private:
+    static NSBundle *bundle() { return [NSBundle mainBundle]; }
+};
+
+} // namespace
+
+std::unique_ptr<ApplicationBundle> makeApplicationBundle() {
+    return std::make_unique<MainBundle>();
+}
+
+} // namespace tarnwick

@@ -1,0 +1,67 @@
+#import "adapters/foundation/ObjectPointer.h"
+#import "adapters/foundation/PlistConversion.h"
+#import "adapters/foundation/StringConversion.h"
+
+#include "adapters/foundation/Adapters.h"
+#include "platform/PreferenceStore.h"
+
+namespace tarnwick {
+namespace {
+
+class UserDefaultsStore final : public PreferenceStore {
+public:
+    explicit UserDefaultsStore(ObjectPointer<NSUserDefaults> defaults) : defaults_(std::move(defaults)) {}
+
+    std::optional<PlistValue> value(std::string_view key) const override {
+        return toPlistValue([defaults_.get() objectForKey:toNSString(key)]);
+    }
+    void setValue(std::string_view key, const PlistValue &value) override {
+        @autoreleasepool {
+            if (const auto *flag = value.boolean()) {
+                [defaults_.get() setBool:*flag forKey:toNSString(key)];
+            } else {
+                [defaults_.get() setObject:toObject(value) forKey:toNSString(key)];
+            }
+        }
+    }
+    void removeValue(std::string_view key) override {
+        @autoreleasepool {
+            [defaults_.get() removeObjectForKey:toNSString(key)];
+        }
+    }
+    void synchronize() override { [defaults_.get() synchronize]; }
+
+private:
+    ObjectPointer<NSUserDefaults> defaults_;
+};
+
+class UserDefaultsStores final : public PreferenceStores {
+public:
+    explicit UserDefaultsStores(std::function<void(std::string_view)> observe)
+        : observe_(std::move(observe)) {}
+
+    std::unique_ptr<PreferenceStore> openStandardDomain() override {
+        return std::make_unique<UserDefaultsStore>(
+            ObjectPointer<NSUserDefaults>::retaining([NSUserDefaults standardUserDefaults]));
+    }
+    std::unique_ptr<PreferenceStore> openSuite(std::string_view name) override {
+        return std::make_unique<UserDefaultsStore>(ObjectPointer<NSUserDefaults>::adopting(
+            [[NSUserDefaults alloc] initWithSuiteName:toNSString(name)]));
+    }
+    void observeStandardKey(std::string_view key) override { observe_(key); }
+    std::optional<std::string> systemWideString(std::string_view key) const override {
+        NSString *text = [[NSUserDefaults standardUserDefaults] stringForKey:toNSString(key)];
+        return text ? std::optional(toString(text)) : std::nullopt;
+    }
+
+private:
+    std::function<void(std::string_view)> observe_;
+};
+
+} // namespace
+
+std::unique_ptr<PreferenceStores> makePreferenceStores(std::function<void(std::string_view)> observe) {
+    return std::make_unique<UserDefaultsStores>(std::move(observe));
+}
+
+} // namespace tarnwick

@@ -1,0 +1,64 @@
+#import "adapters/foundation/ObjectPointer.h"
+#import "adapters/foundation/StringConversion.h"
+
+#include "platform/SystemServices.h"
+#include "platform/UserScript.h"
+
+#import <Foundation/Foundation.h>
+
+namespace tarnwick {
+namespace {
+
+NSAppleEventDescriptor *appleEvent(const HandlerCallEvent &event) {
+    NSAppleEventDescriptor *target =
+        [NSAppleEventDescriptor descriptorWithDescriptorType:event.targetType
+                                                       bytes:event.targetBytes.data()
+                                                      length:event.targetBytes.size()];
+    NSAppleEventDescriptor *result =
+        [NSAppleEventDescriptor appleEventWithEventClass:event.eventClass
+                                                 eventID:event.eventIdentifier
+                                        targetDescriptor:target
+                                                returnID:event.returnIdentifier
+                                           transactionID:event.transactionIdentifier];
+    [result setParamDescriptor:[NSAppleEventDescriptor descriptorWithString:toNSString(event.parameterText)]
+                    forKeyword:event.parameterKeyword];
+    return result;
+}
+
+/// A compiled AppleScript, which runs outside the sandbox.
+class AppleScriptTask final : public UserScriptTask {
+public:
+    explicit AppleScriptTask(ObjectPointer<NSUserAppleScriptTask> task) : task_(std::move(task)) {}
+
+    void execute(const HandlerCallEvent &event) override {
+        [task_.get() executeWithAppleEvent:appleEvent(event)
+                         completionHandler:^(NSAppleEventDescriptor *, NSError *){
+                             // What the script gives or fails with is nobody's business.
+                         }];
+    }
+
+private:
+    ObjectPointer<NSUserAppleScriptTask> task_;
+};
+
+class AppleScripts final : public UserScripts {
+public:
+    UserScriptTaskResult makeTask(const std::string &path) override {
+        NSError *error = nil;
+        NSURL *url = [NSURL fileURLWithPath:toNSString(path)];
+        auto task = ObjectPointer<NSUserAppleScriptTask>::adopting(
+            [[NSUserAppleScriptTask alloc] initWithURL:url error:&error]);
+        if (!task.get()) {
+            return {nullptr, toString([error description])};
+        }
+        return {std::make_unique<AppleScriptTask>(std::move(task)), ""};
+    }
+};
+
+} // namespace
+
+std::unique_ptr<UserScripts> makeUserScripts() {
+    return std::make_unique<AppleScripts>();
+}
+
+} // namespace tarnwick

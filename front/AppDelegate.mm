@@ -1,0 +1,58 @@
+#import "front/AppDelegate.h"
+
+#import "adapters/foundation/StringConversion.h"
+#import "front/ControlAdapters.h"
+
+#include "platform/Platform.h"
+
+@implementation AppDelegate
+
+- (instancetype)initWithPlatform:(const tarnwick::Platform &)platform window:(NSWindow *)window {
+    self = [super init];
+    if (self) {
+        _window = window;
+        _windowControl = tarnwick::makeWindowControl(window);
+        _delegate = std::make_unique<tarnwick::ApplicationDelegate>(platform, _windowControl.get());
+    }
+    return self;
+}
+
+- (NSWindow *)window {
+    return _window;
+}
+
+- (void)applicationWillFinishLaunching:(NSNotification *)notification {
+    _delegate->applicationWillFinishLaunching();
+}
+
+- (void)applicationDidFinishLaunching:(NSNotification *)notification {
+}
+
+- (void)applicationWillTerminate:(NSNotification *)notification {
+}
+
+- (BOOL)applicationShouldTerminateAfterLastWindowClosed:(NSApplication *)sender {
+    return _delegate->applicationShouldTerminateAfterLastWindowClosed();
+}
+
+- (BOOL)application:(NSApplication *)sender openFile:(NSString *)filename {
+    return _delegate->openFile(tarnwick::toString(filename));
+}
+
+- (void)handleInputSourceChange:(NSNotification *)notification {
+    _delegate->handleInputSourceChange(tarnwick::toString([notification description]));
+}
+
+- (void)observeValueForKeyPath:(NSString *)keyPath
+                      ofObject:(id)object
+                        change:(NSDictionary *)change
+                       context:(void *)context {
+    _delegate->observeValue(tarnwick::toString(keyPath),
+        tarnwick::toString([[change objectForKey:NSKeyValueChangeNewKey] description]));
+}
+
+- (void)darkModeChanged:(NSNotification *)notification {
+    _delegate->darkModeChanged();
+}
+
+@end

@@ -1,0 +1,103 @@
+#import "front/CellFactory.h"
+
+#import "adapters/foundation/ImageAccess.h"
+#import "adapters/foundation/StringConversion.h"
+#import "front/CellContainerView.h"
+#import "front/SettingsViewController.h"
+
+#include "ui/CellView.h"
+
+namespace tarnwick {
+namespace {
+
+NSRect rectOf(const Frame &frame) {
+    return NSMakeRect(frame.x, frame.y, frame.width, frame.height);
+}
+
+SEL selectorOf(RowSwitchAction action) {
+    switch (action) {
+    case RowSwitchAction::onOffcheckedStateChangedOfCreateNewFile:
+        return @selector(OnOffcheckedStateChangedOfCreateNewFile:);
+    case RowSwitchAction::onOffEnableMainMenuStateChangedOfCreateNewFile:
+        return @selector(OnOffEnableMainMenuStateChangedOfCreateNewFile:);
+    case RowSwitchAction::onOffcheckedStateChangedOfCopyTo:
+        return @selector(OnOffcheckedStateChangedOfCopyTo:);
+    case RowSwitchAction::onOffcheckedStateChangedOfCustomIcon:
+        return @selector(OnOffcheckedStateChangedOfCustomIcon:);
+    case RowSwitchAction::onOffcheckedStateChangedOfOthers:
+        break;
+    }
+    return @selector(OnOffcheckedStateChangedOfOthers:);
+}
+
+NSTextField *makeTextField(const TextFieldCell &cell, id controller) {
+    NSTextField *field = [[[NSTextField alloc] init] autorelease];
+    [field setBezeled:NO];
+    [field setDrawsBackground:NO];
+    [field setEditable:cell.editable];
+    [[field cell] setLineBreakMode:NSLineBreakByTruncatingTail];
+    if (cell.alignment == TextAlignment::centred) {
+        [field setAlignment:NSTextAlignmentCenter];
+    }
+    if (cell.hasDelegate) {
+        [field setDelegate:controller];
+    }
+    if (!cell.identifier.empty()) {
+        [field setIdentifier:toNSString(cell.identifier)];
+    }
+    [field setStringValue:toNSString(cell.text)];
+    return field;
+}
+
+NSButton *makeCheckBox(const CheckBoxCell &cell, id controller) {
+    NSButton *box = [[[NSButton alloc] init] autorelease];
+    [box setButtonType:NSButtonTypeSwitch];
+    [box setTitle:@""];
+    [box setState:cell.on ? NSControlStateValueOn : NSControlStateValueOff];
+    [box setEnabled:cell.enabled];
+    [box setTarget:controller];
+    [box setAction:selectorOf(cell.action)];
+    return box;
+}
+
+NSImageView *makeImageView(const ImageCell &cell) {
+    NSImageView *view = [[[NSImageView alloc] init] autorelease];
+    [view setImageScaling:NSImageScaleProportionallyDown];
+    [view setImage:imageOf(cell.image)];
+    return view;
+}
+
+NSView *makeControl(const CellView &cell, id controller) {
+    NSControl *control = nil;
+    if (const auto *field = std::get_if<TextFieldCell>(&cell.control)) {
+        control = makeTextField(*field, controller);
+    } else if (const auto *box = std::get_if<CheckBoxCell>(&cell.control)) {
+        control = makeCheckBox(*box, controller);
+    } else if (const auto *image = std::get_if<ImageCell>(&cell.control)) {
+        control = makeImageView(*image);
+    }
+    if (cell.tag) {
+        [control setTag:*cell.tag];
+    }
+    if (cell.frame) {
+        [control setFrame:rectOf(*cell.frame)];
+    }
+    return control;
+}
+
+} // namespace
+
+NSView *makeCell(const CellView &cell, NSString *label, id controller) {
+    NSView *control = makeControl(cell, controller);
+    [control setAccessibilityLabel:label];
+    if (cell.bare) {
+        return control;
+    }
+    NSView *container = [[[CellContainerView alloc] initWithFrame:rectOf(cellContainerFrame)] autorelease];
+    if (control) {
+        [container addSubview:control];
+    }
+    return container;
+}
+
+} // namespace tarnwick

@@ -1,0 +1,89 @@
+#import "front/MoreAppsPage.h"
+
+#import "front/ControlMaking.h"
+#import "front/LinkButton.h"
+#import "front/PageFrame.h"
+#import "front/SettingsViewController.h"
+
+#include "integration/Links.h"
+#include "ui/WindowLayout.h"
+
+#include <array>
+
+namespace tarnwick {
+namespace {
+
+struct Tile {
+    std::string_view image;
+    std::string_view name;
+    std::string_view description;
+    std::string_view buttonTitle;
+    std::string_view address;
+};
+
+constexpr std::array<Tile, 3> tiles{{
+    {"app-Snapfin", "Snapfin", "Takes, pins and annotates screenshots.", "View in Store", link::snapfin},
+    {"app-Allbright", "Allbright", "Keeps the brightness of all displays in step.", "View in Store",
+        link::allbright},
+    {"app-Website", "Website", "News, help and everything else we make.", "Visit", link::website},
+}};
+
+constexpr CGFloat tileHeight = 84;
+constexpr CGFloat tilePadding = 16;
+constexpr CGFloat imageSize = 52;
+constexpr CGFloat textLeft = tilePadding + imageSize + tilePadding;
+
+NSView *makeTile(const Tile &facts, CGFloat width, ::SettingsViewController *controller) {
+    NSBox *tile = [[[NSBox alloc] initWithFrame:NSMakeRect(0, 0, width, tileHeight)] autorelease];
+    [tile setTitlePosition:NSNoTitle];
+    [tile setContentViewMargins:NSMakeSize(0, 0)];
+    NSView *content = [tile contentView];
+    const CGFloat contentWidth = NSWidth([content bounds]);
+    const CGFloat middle = NSHeight([content bounds]) / 2;
+
+    NSImageView *picture = [[[NSImageView alloc]
+        initWithFrame:NSMakeRect(tilePadding, middle - imageSize / 2, imageSize, imageSize)] autorelease];
+    [picture setImage:resourceImage(facts.image)];
+    [picture setImageScaling:NSImageScaleProportionallyUpOrDown];
+    [picture setAccessibilityLabel:localizedText(facts.name)];
+    [content addSubview:picture];
+
+    NSButton *button = [LinkButton buttonWithTitle:localizedText(facts.buttonTitle)
+                                           address:facts.address
+                                        controller:controller];
+    // Two of the buttons bear the same title.
+    [button setAccessibilityLabel:[NSString stringWithFormat:@"%@, %@", localizedText(facts.name),
+                                            localizedText(facts.buttonTitle)]];
+    const CGFloat buttonLeft = contentWidth - tilePadding - NSWidth([button frame]);
+    [button setFrameOrigin:NSMakePoint(buttonLeft, middle - NSHeight([button frame]) / 2)];
+    [button setAutoresizingMask:NSViewMinXMargin];
+    [content addSubview:button];
+
+    const auto addLine = [&](NSTextField *label, CGFloat bottom) {
+        [label setFrame:NSMakeRect(textLeft, bottom, buttonLeft - textLeft - tilePadding, 20)];
+        [label setAutoresizingMask:NSViewWidthSizable];
+        [content addSubview:label];
+    };
+    addLine(
+        makeLabel(localizedText(facts.name), [NSFont boldSystemFontOfSize:14], [NSColor controlTextColor]),
+        middle);
+    addLine(makeLabel(localizedText(facts.description), [NSFont systemFontOfSize:12], secondaryTextColor()),
+        middle - 21);
+    return tile;
+}
+
+} // namespace
+
+NSView *makeMoreAppsPage(const PageLayout &layout, NSSize size, ::SettingsViewController *controller) {
+    NSView *page = [[[NSView alloc] initWithFrame:NSMakeRect(0, 0, size.width, size.height)] autorelease];
+    [page setAutoresizingMask:NSViewWidthSizable | NSViewHeightSizable];
+    PageFrame column(page, size);
+    column.addHeading(layout);
+    for (const auto &tile : tiles) {
+        column.add(makeTile(tile, column.width(), controller), tileHeight);
+        column.skip(tilePadding);
+    }
+    return page;
+}
+
+} // namespace tarnwick

@@ -1,0 +1,204 @@
+#import "front/PageViewBuilder.h"
+
+#import "adapters/foundation/StringConversion.h"
+#import "front/ChooseFolderButton.h"
+#import "front/ControlMaking.h"
+#import "front/PageDropView.h"
+#import "front/PageFrame.h"
+#import "front/PreferenceSwitch.h"
+#import "front/RulePageActions.h"
+#import "front/RuleTableView.h"
+#import "front/SettingsOutlets.h"
+#import "front/SettingsViewController.h"
+
+#include "ui/CellView.h"
+#include "ui/WindowLayout.h"
+
+#include <algorithm>
+
+namespace tarnwick {
+namespace {
+
+constexpr CGFloat margin = PageFrame::margin;
+constexpr CGFloat switchHeight = 22;
+constexpr CGFloat switchRowPitch = 26;
+constexpr CGFloat gap = 12;
+constexpr CGFloat buttonBarHeight = 28;
+
+/// Two to a row.
+void addSwitches(PageFrame &column, const PageLayout &layout) {
+    const CGFloat half = column.width() / 2;
+    for (std::size_t index = 0; index < layout.switches.size(); ++index) {
+        const auto &facts = layout.switches[index];
+        const bool right = index % 2 == 1;
+        if (!right) {
+            column.skip(switchRowPitch);
+        }
+        PreferenceSwitch *box = [[[PreferenceSwitch alloc] initWithTitle:localizedText(facts.title)
+                                                                     key:toNSString(facts.key)] autorelease];
+        [box setToolTip:localizedText(facts.toolTip)];
+        [box sizeToFit];
+        column.need(2 * (NSWidth([box frame]) + (right ? 0 : gap)));
+        column.place(box,
+            NSMakeRect(margin + (right ? half : 0), column.top(), right ? half : half - gap, switchHeight),
+            (right ? NSViewMinXMargin : NSViewMaxXMargin) | NSViewWidthSizable | NSViewMinYMargin);
+    }
+    column.skip(gap);
+}
+
+void addEnableAllSwitch(PageFrame &column, const PageLayout &layout, const RulePageActions &actions,
+    ::SettingsViewController *controller) {
+    if (!actions.enableAll) {
+        return;
+    }
+    PreferenceSwitch *box = [[[PreferenceSwitch alloc]
+        initWithTitle:localizedText(layout.enableAllTitle)
+                  key:toNSString(factsOf(*layout.category).enableAllKey)] autorelease];
+    [box setFollowUpTarget:controller action:actions.enableAll];
+    // In line with the check boxes of the rows below it.
+    column.skip(switchHeight);
+    column.place(box, NSMakeRect(margin + 7, column.top(), column.width() - 7, switchHeight),
+        NSViewWidthSizable | NSViewMinYMargin);
+    column.skip(6);
+}
+
+NSTableColumn *makeColumn(const ColumnLayout &facts) {
+    NSTableColumn *column =
+        [[[NSTableColumn alloc] initWithIdentifier:toNSString(facts.identifier)] autorelease];
+    [[column headerCell] setStringValue:facts.title.empty() ? @"" : localizedText(facts.title)];
+    [[column headerCell] setAlignment:facts.centredTitle ? NSTextAlignmentCenter : NSTextAlignmentLeft];
+    [column setWidth:facts.width];
+    [column setEditable:NO];
+    if (facts.flexible) {
+        [column setMinWidth:120];
+        [column setResizingMask:NSTableColumnAutoresizingMask | NSTableColumnUserResizingMask];
+    } else {
+        [column setMinWidth:facts.width];
+        [column setMaxWidth:facts.width];
+        [column setResizingMask:NSTableColumnNoResizing];
+    }
+    return column;
+}
+
+RuleTableView *makeTable(const PageLayout &layout, const RulePageActions &actions,
+    ::SettingsViewController *controller, NSRect frame) {
+    RuleTableView *table = [[[RuleTableView alloc] initWithFrame:frame] autorelease];
+    for (const auto &facts : layout.columns) {
+        [table addTableColumn:makeColumn(facts)];
+    }
+    [table setRowHeight:rowHeight];
+    [table setIntercellSpacing:NSMakeSize(0, 0)];
+    [table setAllowsMultipleSelection:NO];
+    [table setAllowsEmptySelection:YES];
+    [table setAllowsColumnReordering:NO];
+    [table setGridStyleMask:NSTableViewGridNone];
+    [table setColumnAutoresizingStyle:NSTableViewUniformColumnAutoresizingStyle];
+    [table setNameColumn:toNSString(layout.nameColumn) switchColumn:toNSString(layout.switchColumn)];
+    [table setAccessibilityLabel:localizedText(layout.title)];
+    [table setTarget:controller];
+    [table setAction:actions.click];
+    [table setDataSource:controller];
+    [table setDelegate:controller];
+    return table;
+}
+
+/// A centred title and an explanation below it, for a table without rows.
+NSView *makeEmptyHint(const PageLayout &layout, CGFloat width) {
+    constexpr CGFloat titleHeight = 22;
+    // Two lines, which the explanation takes in a narrow window.
+    constexpr CGFloat hintHeight = 36;
+    NSView *hint =
+        [[[NSView alloc] initWithFrame:NSMakeRect(0, 0, width, titleHeight + hintHeight)] autorelease];
+    const auto addLine = [&](std::string_view text, NSFont *font, NSColor *color, CGFloat bottom,
+                             CGFloat height) {
+        NSTextField *line = makeLabel(localizedText(text), font, color, true);
+        [line setAlignment:NSTextAlignmentCenter];
+        [line setFrame:NSMakeRect(0, bottom, width, height)];
+        [line setAutoresizingMask:NSViewWidthSizable];
+        [hint addSubview:line];
+    };
+    addLine(layout.emptyTitle, [NSFont boldSystemFontOfSize:14], [NSColor controlTextColor], hintHeight,
+        titleHeight);
+    addLine(layout.emptyHint, [NSFont systemFontOfSize:12], secondaryTextColor(), 0, hintHeight);
+    return hint;
+}
+
+NSScrollView *makeScrollView(NSTableView *table, NSRect frame) {
+    NSScrollView *scroll = [[[NSScrollView alloc] initWithFrame:frame] autorelease];
+    [scroll setBorderType:NSBezelBorder];
+    [scroll setHasVerticalScroller:YES];
+    [scroll setHasHorizontalScroller:NO];
+    [scroll setAutohidesScrollers:YES];
+    [scroll setDocumentView:table];
+    return scroll;
+}
+
+ChooseFolderButton *makeChooseFolderButton(::SettingsViewController *controller, NSTableView *table) {
+    ChooseFolderButton *button = [[[ChooseFolderButton alloc] init] autorelease];
+    preparePushButton(button, localizedText("Choose Folder\u2026"), controller, @selector(selectPath:));
+    [button followTable:table];
+    [table setDoubleAction:@selector(copyFilesToViewDoubleClick:)];
+    return button;
+}
+
+/// Add, remove and the page's extra button from the left; reset at the right. Gives the remove button.
+NSButton *addButtonBar(PageFrame &column, const PageLayout &layout, const RulePageActions &actions,
+    ::SettingsViewController *controller, NSButton *extra) {
+    CGFloat left = margin;
+    const auto placeLeft = [&](NSButton *button) {
+        column.place(button, NSMakeRect(left, margin, NSWidth([button frame]), buttonBarHeight),
+            NSViewMaxXMargin | NSViewMaxYMargin);
+        left = NSMaxX([button frame]) + gap;
+    };
+    placeLeft(makePushButton(localizedText(layout.addTitle), controller, actions.add));
+    NSButton *remove = makePushButton(localizedText("Remove"), controller, actions.remove);
+    placeLeft(remove);
+    if (extra) {
+        placeLeft(extra);
+    }
+    if (actions.reset) {
+        NSButton *reset = makePushButton(localizedText("Reset List"), controller, actions.reset);
+        [reset setToolTip:localizedText("Puts the list back to how it came with Tarnwick.")];
+        const CGFloat width = NSWidth([reset frame]);
+        column.place(reset, NSMakeRect(margin + column.width() - width, margin, width, buttonBarHeight),
+            NSViewMinXMargin | NSViewMaxYMargin);
+        left += width;
+    }
+    column.need(left - margin);
+    return remove;
+}
+
+} // namespace
+
+NSView *makeRulePage(const PageLayout &layout, NSSize size, ::SettingsViewController *controller,
+    SettingsOutlets *outlets, CGFloat &neededWidth) {
+    const auto actions = actionsOf(*layout.category);
+    PageDropView *page = [[[PageDropView alloc] initWithFrame:NSMakeRect(0, 0, size.width, size.height)
+                                                     category:*layout.category
+                                                   controller:controller] autorelease];
+    [page setAutoresizingMask:NSViewWidthSizable | NSViewHeightSizable];
+    PageFrame column(page, size);
+    column.addHeading(layout);
+    addSwitches(column, layout);
+    addEnableAllSwitch(column, layout, actions, controller);
+
+    const CGFloat bottom = margin + buttonBarHeight + gap;
+    const NSRect frame = NSMakeRect(margin, bottom, column.width(), column.top() - bottom);
+    RuleTableView *table =
+        makeTable(layout, actions, controller, NSMakeRect(0, 0, NSWidth(frame), NSHeight(frame)));
+    column.place(makeScrollView(table, frame), frame, NSViewWidthSizable | NSViewHeightSizable);
+    [page takeDropsFor:table];
+    [table sizeToFit];
+    [table setEmptyHint:makeEmptyHint(layout, NSWidth(frame) - 2 * margin)];
+
+    ChooseFolderButton *chooseFolder =
+        layout.category == RuleCategory::copyFilesTo ? makeChooseFolderButton(controller, table) : nil;
+    NSButton *remove = addButtonBar(column, layout, actions, controller, chooseFolder);
+    [remove setEnabled:NO];
+    [table setRemoveButton:remove];
+    [outlets addTable:table removeButton:remove];
+    neededWidth = std::max(neededWidth, column.neededWidth());
+    return page;
+}
+
+} // namespace tarnwick

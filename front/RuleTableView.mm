@@ -1,0 +1,153 @@
+#import "front/RuleTableView.h"
+
+namespace {
+
+/// The first control of the wanted class in a cell, the cell itself included; nil when there is none.
+NSControl *controlIn(NSView *cell, Class wanted) {
+    if ([cell isKindOfClass:wanted]) {
+        return static_cast<NSControl *>(cell);
+    }
+    for (NSView *view in [cell subviews]) {
+        if ([view isKindOfClass:wanted]) {
+            return static_cast<NSControl *>(view);
+        }
+    }
+    return nil;
+}
+
+} // namespace
+
+@implementation RuleTableView
+
+- (void)dealloc {
+    [_nameColumn release];
+    [_switchColumn release];
+    [super dealloc];
+}
+
+- (void)setRemoveButton:(NSButton *)button {
+    _removeButton = button;
+}
+
+- (void)setNameColumn:(NSString *)nameColumn switchColumn:(NSString *)switchColumn {
+    [_nameColumn autorelease];
+    _nameColumn = [nameColumn copy];
+    [_switchColumn autorelease];
+    _switchColumn = [switchColumn copy];
+}
+
+- (void)setEmptyHint:(NSView *)hint {
+    _emptyHint = hint;
+    const NSSize size = [hint frame].size;
+    [hint setFrameOrigin:NSMakePoint((NSWidth([self bounds]) - size.width) / 2,
+                             (NSHeight([self bounds]) - size.height) / 2)];
+    [hint setAutoresizingMask:NSViewWidthSizable | NSViewMinYMargin | NSViewMaxYMargin];
+    [self addSubview:hint];
+    [self showOrHideEmptyHint];
+}
+
+- (void)showOrHideEmptyHint {
+    const BOOL hasRows = [self numberOfRows] > 0;
+    [_emptyHint setHidden:hasRows];
+    // Stripes behind the hint would only disturb it.
+    [self setUsesAlternatingRowBackgroundColors:hasRows];
+}
+
+- (void)reloadData {
+    [super reloadData];
+    [self showOrHideEmptyHint];
+}
+
+- (void)setFileDropView:(NSView *)view {
+    _fileDropView = view;
+}
+
+/// A file manager may drag files as text too, the one kind that the table itself is registered for.
+- (NSView *)fileDropViewFor:(id<NSDraggingInfo>)info {
+    return [[[info draggingPasteboard] types] containsObject:NSFilenamesPboardType] ? _fileDropView : nil;
+}
+
+- (NSDragOperation)draggingEntered:(id<NSDraggingInfo>)info {
+    NSView *view = [self fileDropViewFor:info];
+    return view ? [view draggingEntered:info] : [super draggingEntered:info];
+}
+
+- (NSDragOperation)draggingUpdated:(id<NSDraggingInfo>)info {
+    NSView *view = [self fileDropViewFor:info];
+    return view ? [view draggingUpdated:info] : [super draggingUpdated:info];
+}
+
+- (void)draggingExited:(id<NSDraggingInfo>)info {
+    // Without a drag to tell about, both have ended theirs.
+    [_fileDropView draggingExited:info];
+    [super draggingExited:info];
+}
+
+- (BOOL)prepareForDragOperation:(id<NSDraggingInfo>)info {
+    NSView *view = [self fileDropViewFor:info];
+    return view ? [view prepareForDragOperation:info] : [super prepareForDragOperation:info];
+}
+
+- (BOOL)performDragOperation:(id<NSDraggingInfo>)info {
+    NSView *view = [self fileDropViewFor:info];
+    return view ? [view performDragOperation:info] : [super performDragOperation:info];
+}
+
+- (void)concludeDragOperation:(id<NSDraggingInfo>)info {
+    [_fileDropView concludeDragOperation:info];
+    [super concludeDragOperation:info];
+}
+
+- (NSControl *)selectedControlInColumn:(NSString *)identifier ofClass:(Class)wanted {
+    const NSInteger row = [self selectedRow];
+    const NSInteger column = [identifier length] > 0 ? [self columnWithIdentifier:identifier] : -1;
+    if (row < 0 || column < 0) {
+        return nil;
+    }
+    [self scrollRowToVisible:row];
+    return controlIn([self viewAtColumn:column row:row makeIfNecessary:YES], wanted);
+}
+
+- (void)editSelectedName {
+    NSTextField *field = static_cast<NSTextField *>([self selectedControlInColumn:_nameColumn
+                                                                          ofClass:[NSTextField class]]);
+    if ([field isEditable]) {
+        [[self window] makeFirstResponder:field];
+    }
+}
+
+- (void)abandonEditOf:(NSControl *)field {
+    [field abortEditing];
+    [[self window] makeFirstResponder:self];
+    // The field itself may have taken the text on as it was typed.
+    [self reloadData];
+}
+
+- (void)toggleSelectedSwitch {
+    [[self selectedControlInColumn:_switchColumn ofClass:[NSButton class]] performClick:self];
+}
+
+- (void)keyDown:(NSEvent *)event {
+    NSString *characters = [event charactersIgnoringModifiers];
+    const unichar key = [characters length] == 1 ? [characters characterAtIndex:0] : 0;
+    switch (key) {
+    case NSDeleteCharacter:
+    case NSBackspaceCharacter:
+    case NSDeleteFunctionKey:
+        if ([_removeButton isEnabled]) {
+            [_removeButton performClick:self];
+        }
+        return;
+    case NSCarriageReturnCharacter:
+    case NSEnterCharacter:
+        [self editSelectedName];
+        return;
+    case ' ':
+        [self toggleSelectedSwitch];
+        return;
+    default:
+        [super keyDown:event];
+    }
+}
+
+@end

@@ -1,0 +1,34 @@
+// Missing: reports of exceptions in event handlers. `-[NSApplication run]` of GNUstep GUI 0.29 drops them
+// unless the default NSExceptionHandlerMask is 1, and shows a modal panel for those outside the loop.
+
+#import "gnustep/events/Exceptions.h"
+
+#import <Foundation/Foundation.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <unistd.h>
+
+namespace {
+
+constexpr int softwareErrorStatus = 70;
+
+void reportUncaught(NSException *exception) {
+    TNReportException(exception);
+    _exit(softwareErrorStatus);
+}
+
+} // namespace
+
+void TNReportException(NSException *exception) {
+    std::fprintf(stderr, "Uncaught exception %s: %s\n", [[exception name] UTF8String],
+        [[exception reason] UTF8String]);
+    std::fflush(stderr);
+    if (std::getenv("TARNWICK_STRICT_EXCEPTIONS")) {
+        _exit(softwareErrorStatus);
+    }
+}
+
+void TNInstallExceptionReporting() {
+    NSSetUncaughtExceptionHandler(reportUncaught);
+}

@@ -1,0 +1,62 @@
+// Missing: Return and Escape for a field that is being edited, reports of failing event handlers, and the
+// prompt end of a modal session, as of GNUstep GUI 0.29.
+
+#import "TNApplication.h"
+
+#import "gnustep/events/EventPump.h"
+#import "gnustep/events/Exceptions.h"
+
+@implementation TNApplication
+
+/// A session that is ended from a timer would wait for the next event to return.
+- (void)stopModalWithCode:(NSInteger)code {
+    [super stopModalWithCode:code];
+    [self postEvent:[NSEvent otherEventWithType:NSEventTypeApplicationDefined
+                                       location:NSZeroPoint
+                                  modifierFlags:0
+                                      timestamp:0
+                                   windowNumber:0
+                                        context:nil
+                                        subtype:0
+                                          data1:0
+                                          data2:0]
+            atStart:NO];
+}
+
+- (void)postEvent:(NSEvent *)event atStart:(BOOL)atStart {
+    [super postEvent:event atStart:atStart];
+    TNWakeRunLoop();
+}
+
+/// The editor of the field that a key is meant for; nil without one, and in panels, whose buttons have Return
+/// and Escape.
+- (NSTextView *)fieldEditorFor:(NSEvent *)event {
+    NSWindow *window = [event window];
+    if ([event type] != NSEventTypeKeyDown || [window isKindOfClass:[NSPanel class]]) {
+        return nil;
+    }
+    id responder = [window firstResponder];
+    return [responder isKindOfClass:[NSTextView class]] && [responder isFieldEditor] ? responder : nil;
+}
+
+/// A default button would take Return away from the field that is being edited, and Escape asks GNUstep to
+/// complete the text.
+- (void)sendEvent:(NSEvent *)event {
+    constexpr unichar escape = 0x1B;
+    NSTextView *editor = [self fieldEditorFor:event];
+    NSString *characters = editor ? [event characters] : nil;
+    const unichar key = [characters length] == 1 ? [characters characterAtIndex:0] : 0;
+    if (key == NSCarriageReturnCharacter) {
+        [editor keyDown:event];
+    } else if (key == escape) {
+        [editor doCommandBySelector:@selector(cancelOperation:)];
+    } else {
+        [super sendEvent:event];
+    }
+}
+
+- (void)reportException:(NSException *)exception {
+    TNReportException(exception);
+}
+
+@end

@@ -1,0 +1,26 @@
+// Missing: the list of running applications. `runningApplicationsWithBundleIdentifier:` of GNUstep GUI 0.29
+// gives nil; nothing on this platform knows bundle identifiers of other programs, so the list is empty.
+
+#import <AppKit/AppKit.h>
+
+#import "gnustep/runtime/MethodReplacement.h"
+
+namespace {
+
+NSArray *noApplications(id, SEL, NSString *) {
+    return [NSArray array];
+}
+
+} // namespace
+
+@interface NSRunningApplication (TNRunningApplications)
+@end
+
+@implementation NSRunningApplication (TNRunningApplications)
+
++ (void)load {
+    TNReplaceMethod(
+        object_getClass(self), @selector(runningApplicationsWithBundleIdentifier:), noApplications);
+}
+
+@end

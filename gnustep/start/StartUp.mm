@@ -1,0 +1,87 @@
+// Missing: what a program on macOS finds prepared. GNUstep names the defaults file after the executable,
+// knows no fonts for Chinese text, and creates a plain application object.
+
+#import "TNStartUp.h"
+#import "gnustep/events/Signals.h"
+
+#import "TNApplication.h"
+#import "gnustep/defaults/DefaultsFiles.h"
+#import "gnustep/defaults/DefaultsSchedule.h"
+#import "gnustep/defaults/ParsedSettings.h"
+#import "gnustep/defaults/SuiteDefaults.h"
+#import "gnustep/events/EventPump.h"
+#import "gnustep/events/Exceptions.h"
+#import "gnustep/start/Languages.h"
+#import "gnustep/theme/ImageReaders.h"
+
+#include <cstdlib>
+
+namespace {
+
+NSString *const processName = @"org.halvane.Tarnwick";
+
+void prepareDefaultsFile() {
+    TNRemoveStaleLocks();
+    // Only to have a damaged file out of the way before it would be overwritten.
+    TNReadSettingsFile(TNSettingsFileOf(processName));
+}
+
+/// `han` is the font of Chinese characters, without its weight.
+void registerInitialDefaults(NSArray *languages, NSString *han) {
+    // Latin letters beside Chinese characters come from their font too: otherwise these would never be bold,
+    // and sit lower than the rest of the line.
+    const bool inHan = TNLanguageUsesHanCharacters(languages);
+    NSString *regular = inHan ? [han stringByAppendingString:@"-Regular"] : @"Inter-Regular";
+    NSString *bold = inHan ? [han stringByAppendingString:@"-Bold"] : @"Inter-Bold";
+    NSMutableDictionary *values = [NSMutableDictionary dictionary];
+    for (NSString *key in
+        [NSArray arrayWithObjects:@"NSFont", @"NSLabelFont", @"NSMessageFont", @"NSMenuFont",
+                 @"NSControlContentFont", @"NSUserFont", @"NSToolTipsFont", nil]) {
+        [values setObject:regular forKey:key];
+    }
+    [values setObject:bold forKey:@"NSBoldFont"];
+    [values setObject:bold forKey:@"NSTitleBarFont"];
+    [values setObject:@"13" forKey:@"NSFontSize"];
+    [values setObject:@"12" forKey:@"NSToolTipsFontSize"];
+    [values setObject:@"YES" forKey:@"GSScrollViewNoInnerBorder"];
+    [values setObject:@"YES" forKey:@"GSSuppressAppIcon"];
+    [values setObject:@"NSMacintoshInterfaceStyle" forKey:@"NSInterfaceStyleDefault"];
+    // The menu bar stands in the window.
+    [values setObject:@"NSWindows95InterfaceStyle" forKey:@"NSMenuInterfaceStyle"];
+    // Report, instead of dropping, what event handlers raise.
+    [values setObject:@"1" forKey:@"NSExceptionHandlerMask"];
+    [[NSUserDefaults standardUserDefaults] registerDefaults:values];
+}
+
+/// What is still only in memory when the program ends goes to its files.
+void writeDefaultsAtExit() {
+    @autoreleasepool {
+        [[NSUserDefaults standardUserDefaults] synchronize];
+        TNWriteAllSuites();
+    }
+}
+
+} // namespace
+
+void TNPrepareProcess(int, char **) {
+    @autoreleasepool {
+        [[NSProcessInfo processInfo] setProcessName:processName];
+        TNKeepParsedSettings();
+        prepareDefaultsFile();
+        TNUseLanguagesOfUser();
+        NSArray *languages = [[NSUserDefaults standardUserDefaults] stringArrayForKey:@"NSLanguages"];
+        NSString *han = TNHanFontForLanguages(languages);
+        registerInitialDefaults(languages, han);
+        TNWriteDefaultsPromptly();
+        std::atexit(writeDefaultsAtExit);
+        TNUseBitmapReadersOnly();
+        [TNApplication sharedApplication];
+        TNInstallEventPump();
+        TNInstallSignalHandling();
+        TNInstallExceptionReporting();
+        // Before any text is drawn: a failed substitution of a Chinese character is remembered for the whole
+        // run.
+        [NSFont setPreferredFontNames:[NSArray arrayWithObject:[han stringByAppendingString:@"-Regular"]]];
+        TNInstallTheme();
+    }
+}

@@ -1,0 +1,58 @@
+// Missing: opening in other applications and news of them. NSWorkspace of GNUstep GUI 0.29 shows a modal
+// panel for a web address, opens nothing else, and never tells of activations.
+
+#import "TNConstants.h"
+
+#import "gnustep/runtime/MethodReplacement.h"
+
+#include <cstdlib>
+
+NSString *const NSWorkspaceDidActivateApplicationNotification =
+    @"NSWorkspaceDidActivateApplicationNotification";
+NSString *const NSWorkspaceDidDeactivateApplicationNotification =
+    @"NSWorkspaceDidDeactivateApplicationNotification";
+NSString *const NSWorkspaceApplicationKey = @"NSWorkspaceApplicationKey";
+
+namespace {
+
+/// The desktop's opener, or the program that TARNWICK_OPENER names.
+NSString *opener() {
+    const char *configured = std::getenv("TARNWICK_OPENER");
+    if (configured && *configured) {
+        return [NSString stringWithUTF8String:configured];
+    }
+    return @"/usr/bin/xdg-open";
+}
+
+/// Whether the opener could be started; it is not waited for.
+BOOL openInOpener(NSString *argument) {
+    @try {
+        [NSTask launchedTaskWithLaunchPath:opener() arguments:[NSArray arrayWithObject:argument]];
+        return YES;
+    } @catch (NSException *exception) {
+        NSLog(@"%@ could not be opened: %@", argument, [exception reason]);
+        return NO;
+    }
+}
+
+BOOL openURL(id, SEL, NSURL *address) {
+    return address && openInOpener([address absoluteString]);
+}
+
+BOOL openFile(id, SEL, NSString *path) {
+    return path && openInOpener(path);
+}
+
+} // namespace
+
+@interface NSWorkspace (TNOpening)
+@end
+
+@implementation NSWorkspace (TNOpening)
+
++ (void)load {
+    TNReplaceMethod(self, @selector(openURL:), openURL);
+    TNReplaceMethod(self, @selector(openFile:), openFile);
+}
+
+@end

@@ -1,0 +1,71 @@
+// Missing: the system's light or dark appearance, as of GNUstep GUI 0.29. It is asked for and announced as on
+// macOS: by AppleInterfaceStyle in the system-wide settings, which is there when the appearance is dark, and
+// by a distributed notification when it has changed.
+
+#import "TNTheme.h"
+
+#import "TNApplication.h"
+#import "TNStartUp.h"
+#import "gnustep/defaults/DefaultsFiles.h"
+
+namespace {
+
+NSString *const styleKey = @"AppleInterfaceStyle";
+NSString *const changed = @"AppleInterfaceThemeChangedNotification";
+
+TNThemeAppearance chosenAppearance() {
+    NSString *style = [[NSUserDefaults standardUserDefaults] stringForKey:styleKey];
+    return style ? TNThemeAppearance::dark : TNThemeAppearance::light;
+}
+
+/// What another program has written is seen only after this; and even then not that it has removed the last
+/// value of a domain, and with it the file.
+void rereadSettings() {
+    NSUserDefaults *defaults = [NSUserDefaults standardUserDefaults];
+    [defaults synchronize];
+    if (![[NSFileManager defaultManager] fileExistsAtPath:TNSettingsFileOf(NSGlobalDomain)] &&
+        [defaults persistentDomainForName:NSGlobalDomain]) {
+        [defaults removePersistentDomainForName:NSGlobalDomain];
+    }
+}
+
+void redisplay(NSView *view) {
+    [view setNeedsDisplay:YES];
+    for (NSView *inner in [view subviews]) {
+        redisplay(inner);
+    }
+}
+
+} // namespace
+
+@interface TNApplication (TNAppearance)
+@end
+
+@implementation TNApplication (TNAppearance)
+
+/// Ahead of the delegate, which is told of this notification too, and by then sees the new setting.
+- (void)finishLaunching {
+    [[NSDistributedNotificationCenter defaultCenter] addObserver:self
+                                                        selector:@selector(tnAppearanceChanged:)
+                                                            name:changed
+                                                          object:nil];
+    [super finishLaunching];
+}
+
+- (void)tnAppearanceChanged:(NSNotification *)notification {
+    rereadSettings();
+    TNInstallTheme();
+    for (NSWindow *window in [self windows]) {
+        redisplay([[window contentView] superview]);
+    }
+}
+
+@end
+
+void TNInstallTheme() {
+    TNThemeUseAppearance(chosenAppearance());
+    // A new one each time: GNUstep asks for the colours when a theme takes the place of another.
+    TNTheme *theme = [[[TNTheme alloc] initWithBundle:[NSBundle bundleForClass:[GSTheme class]]] autorelease];
+    [GSTheme setTheme:theme];
+    TNThemeInstallImages();
+}

@@ -1,0 +1,23 @@
+// Missing: labels for assistive technology, as of GNUstep GUI 0.29, which talks to none.
+
+#import "TNAdditions.h"
+
+#import "gnustep/views/ViewAttachments.h"
+
+namespace {
+
+NSString *const labelName = @"accessibilityLabel";
+
+} // namespace
+
+@implementation NSView (TNAccessibility)
+
+- (void)setAccessibilityLabel:(NSString *)label {
+    TNSetAttachment(self, labelName, [[label copy] autorelease]);
+}
+
+- (NSString *)accessibilityLabel {
+    return TNAttachment(self, labelName);
+}
+
+@end
