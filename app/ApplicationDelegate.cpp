@@ -1,11 +1,12 @@
 #include "app/ApplicationDelegate.h"
 
-#include "app/InstallGuard.h"
-#include "app/ServiceRelaunch.h"
+#include "app/ApplicationWindow.h"
 #include "platform/DistributedNotifications.h"
+#include "platform/Ports.h"
 #include "platform/PreferenceStore.h"
+#include "platform/Process.h"
 #include "platform/SystemLog.h"
-#include "platform/SystemVersion.h"
+#include "ui/Colour.h"
 
 #include <string>
 
@@ -18,40 +19,40 @@ constexpr Colour lightBackground{1, 1, 1, 1};
 
 } // namespace
 
+ApplicationDelegate::ApplicationDelegate(const Ports& ports, ApplicationWindow& window)
+    : guard_(ports.workspace, ports.bundle, ports.panels, ports.process),
+      relaunch_(ports.workspace, ports.bundle, ports.runLoop), window_(window),
+      notifications_(ports.notifications), preferences_(ports.preferences), process_(ports.process),
+      log_(ports.log) {}
+
 void ApplicationDelegate::applicationWillFinishLaunching() {
-    if (!runInstallGuard(platform_)) {
+    if (!guard_.run()) {
         return;
     }
-    if (window_) {
-        window_->setMovableByBackground(true);
-        window_->setTextBackground();
-    }
-    platform_.notifications.observe("AppleInterfaceThemeChangedNotification", [this] { darkModeChanged(); });
-    relaunchService(platform_);
-    if (window_) {
-        window_->activateApplication();
-    }
+    window_.setMovableByBackground(true);
+    window_.setTextBackground();
+    notifications_.observe("AppleInterfaceThemeChangedNotification", [this] { darkModeChanged(); });
+    relaunch_.run();
+    window_.activateApplication();
 }
 
 bool ApplicationDelegate::openFile(std::string_view name) {
-    platform_.log.write(name);
+    log_.write(name);
     return true;
 }
 
 void ApplicationDelegate::handleInputSourceChange(std::string_view notificationDescription) {
-    platform_.log.write(notificationDescription);
+    log_.write(notificationDescription);
 }
 
 void ApplicationDelegate::observeValue(std::string_view keyPath, std::string_view newValueDescription) {
-    platform_.log.write(std::string(keyPath).append("\uFF1A").append(newValueDescription));
+    log_.write(std::string(keyPath).append("\uFF1A").append(newValueDescription));
 }
 
 void ApplicationDelegate::darkModeChanged() {
-    const auto isDark = platform_.systemVersion.isAtLeast(10, 15, 0) &&
-                        platform_.preferences.systemWideString("AppleInterfaceStyle").has_value();
-    if (window_) {
-        window_->setBackground(isDark ? darkBackground : lightBackground);
-    }
+    const auto isDark = process_.isSystemAtLeast(10, 15, 0) &&
+                        preferences_.systemWideString("AppleInterfaceStyle").has_value();
+    window_.setBackground(isDark ? darkBackground : lightBackground);
 }
 
 } // namespace tarnwick

@@ -1,18 +1,23 @@
 #pragma once
 
-#include "platform/Platform.h"
-#include "platform/WindowControls.h"
+#include "app/InstallGuard.h"
+#include "app/ServiceRelaunch.h"
 
 #include <string_view>
 
 namespace tarnwick {
 
+class ApplicationWindow;
+class DistributedNotifications;
+class PreferenceStores;
+class Process;
+class SystemLog;
+struct Ports;
+
 /// What the application delegate does around the window.
 class ApplicationDelegate {
 public:
-    /// A null window makes the steps that need it do nothing.
-    ApplicationDelegate(const Platform& platform, WindowControl* window)
-        : platform_(platform), window_(window) {}
+    ApplicationDelegate(const Ports& ports, ApplicationWindow& window);
 
     /// The install guard, then: window movable by its background, text background colour, appearance
     /// observer, service relaunch in the background, activation; in this order.
@@ -29,8 +34,13 @@ public:
     void darkModeChanged();
 
 private:
-    Platform platform_;
-    WindowControl* window_;
+    InstallGuard guard_;
+    ServiceRelaunch relaunch_;
+    ApplicationWindow& window_;
+    DistributedNotifications& notifications_;
+    const PreferenceStores& preferences_;
+    const Process& process_;
+    SystemLog& log_;
 };
 
 } // namespace tarnwick

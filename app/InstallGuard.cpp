@@ -1,10 +1,9 @@
 #include "app/InstallGuard.h"
 
 #include "app/ApplicationIdentity.h"
-#include "platform/Alerts.h"
 #include "platform/ApplicationBundle.h"
-#include "platform/LaunchServices.h"
-#include "platform/ProcessControl.h"
+#include "platform/Panels.h"
+#include "platform/Process.h"
 #include "platform/Workspace.h"
 
 namespace tarnwick {
@@ -17,9 +16,9 @@ bool isIgnored(std::string_view path) {
 
 } // namespace
 
-std::optional<std::string> findInstallConflict(const Platform& platform) {
-    const auto copies = platform.launchServices.applications(applicationIdentifier).paths;
-    if (copies.size() <= 1 && platform.workspace.applicationPath(applicationIdentifier) == installationPath) {
+std::optional<std::string> InstallGuard::findConflict() const {
+    const auto copies = workspace_.registeredApplications(applicationIdentifier).paths;
+    if (copies.size() <= 1 && workspace_.applicationPath(applicationIdentifier) == installationPath) {
         return std::nullopt;
     }
     std::string listing = "\n";
@@ -35,21 +34,20 @@ std::optional<std::string> findInstallConflict(const Platform& platform) {
     return listing;
 }
 
-bool runInstallGuard(const Platform& platform) {
-    const auto listing = findInstallConflict(platform);
+bool InstallGuard::run() {
+    const auto listing = findConflict();
     if (!listing) {
         return true;
     }
-    const auto& bundle = platform.bundle;
-    const AlertRequest request{.messageText = bundle.localized("Warning"),
+    const AlertRequest request{.messageText = bundle_.localized("Warning"),
         .informativeText =
-            bundle.localized(
+            bundle_.localized(
                 "In order to ensure the stability of Tarnwick, only one Tarnwick can be installed on "
                 "your computer, and it can only be installed in the application of the system!") +
-            "\n" + bundle.localized("The current installation paths are:") + "\n" + *listing,
-        .buttons = {bundle.localized("OK")}};
-    platform.alerts.runModal(request);
-    platform.process.exit(0);
+            "\n" + bundle_.localized("The current installation paths are:") + "\n" + *listing,
+        .buttons = {bundle_.localized("OK")}};
+    panels_.runAlert(request);
+    process_.exit(0);
     return false;
 }
 

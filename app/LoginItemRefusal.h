@@ -1,11 +1,13 @@
 #pragma once
 
-#include "platform/Platform.h"
-
 namespace tarnwick {
+
+class ApplicationBundle;
+class Panels;
+class Process;
 
 /// Refuses to run when the application was started as a login item: an alert, then the process ends with
 /// status 0. Otherwise nothing happens.
-void refuseLoginItemStart(const Platform& platform);
+void refuseLoginItemStart(const ApplicationBundle& bundle, Panels& panels, Process& process);
 
 } // namespace tarnwick

@@ -3,17 +3,16 @@
 #include "app/ApplicationIdentity.h"
 #include "platform/ApplicationBundle.h"
 #include "platform/RunLoop.h"
-#include "platform/RunningApplications.h"
 #include "platform/Workspace.h"
 
 #include <string>
 
 namespace tarnwick {
 
-void relaunchService(const Platform& platform) {
-    platform.runLoop.performInBackground([platform] {
-        platform.runningApplications.terminateAll(serviceIdentifier);
-        platform.workspace.launchApplication(platform.bundle.plugInsFolder().append("/").append(serviceFile));
+void ServiceRelaunch::run() {
+    runLoop_.performInBackground([this] {
+        workspace_.terminateAll(serviceIdentifier);
+        workspace_.launchApplication(bundle_.plugInsFolder().append("/").append(serviceFile));
     });
 }
 

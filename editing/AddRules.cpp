@@ -1,36 +1,15 @@
 #include "editing/AddRules.h"
 
-#include "editing/RulePages.h"
+#include "editing/ListEditor.h"
 #include "platform/Images.h"
-#include "platform/KnownFolders.h"
 #include "prefs/GroupContainer.h"
 #include "prefs/HomeFolder.h"
 #include "prefs/LocalPreferences.h"
 #include "prefs/RecordLayouts.h"
 #include "values/PathText.h"
 
-#include <array>
-#include <string_view>
-
 namespace tarnwick {
 namespace {
-
-enum class Chooses { files, folders };
-
-/// How the choosers differ, a line a category; every one allows several items. An empty type: any.
-struct ChooserFacts {
-    Chooses chooses;
-    std::string_view allowedType;
-    bool extensionsHidden;
-};
-
-constexpr std::array<ChooserFacts, 5> choosers{{
-    {Chooses::files, "", false},    // CreateNewFile
-    {Chooses::folders, "", false},  // CopyFilesTo
-    {Chooses::folders, "", false},  // CommonPath
-    {Chooses::files, "png", false}, // CustomIcon
-    {Chooses::files, "png", true},  // Others
-}};
 
 PlistData tiffOf(const ImagePointer& image) {
     return image ? image->tiff() : PlistData();
@@ -39,96 +18,102 @@ PlistData tiffOf(const ImagePointer& image) {
 } // namespace
 
 OpenPanelRequest AddRules::chooser(RuleCategory category) const {
-    const auto& facts = choosers[static_cast<std::size_t>(category)];
+    const auto& facts = factsOf(category);
     OpenPanelRequest request;
-    request.canChooseFiles = facts.chooses == Chooses::files;
-    request.canChooseDirectories = facts.chooses == Chooses::folders;
-    request.canCreateDirectories = facts.chooses == Chooses::folders;
+    request.canChooseFiles = facts.source == RuleSource::files;
+    request.canChooseDirectories = facts.source == RuleSource::folders;
+    request.canCreateDirectories = facts.source == RuleSource::folders;
     request.allowsMultipleSelection = true;
-    request.extensionsHidden = facts.extensionsHidden;
+    request.extensionsHidden = facts.choosesWithoutExtensions;
     if (!facts.allowedType.empty()) {
         request.allowedFileTypes.emplace_back(facts.allowedType);
     }
-    const auto rememberedKey = factsOf(category).rememberedFolderKey;
-    if (rememberedKey.empty()) {
-        request.startFolder = GroupContainer(platform_.folders).othersIconFolder();
-    } else if (auto remembered = local_.text(rememberedKey)) {
+    if (facts.rememberedFolderKey.empty()) {
+        request.startFolder = GroupContainer(folders_).othersIconFolder();
+    } else if (auto remembered = local_.text(facts.rememberedFolderKey)) {
         request.startFolder = std::move(remembered);
     } else {
-        request.startFolder = homeSubfolder(platform_.folders, "Desktop");
+        request.startFolder = homeSubfolder(folders_, "Desktop");
     }
     return request;
 }
 
 void AddRules::add(RuleCategory category) {
-    pages_.endEditing();
-    platform_.openPanel.begin(chooser(category), [this, category](const OpenPanelAnswer& answer) {
+    editor_.endEditing();
+    panels_.choose(chooser(category), [this, category](const OpenPanelAnswer& answer) {
         if (!answer.confirmed || answer.paths.empty()) {
             return;
         }
-        pages_.endEditing();
-        appendRecords(category, answer.paths);
+        editor_.endEditing();
+        const auto files = beginCopying(category, answer.paths);
+        auto records = makeRecords(category, answer.paths);
         // Also when every item was skipped.
         if (const auto key = factsOf(category).rememberedFolderKey; !key.empty()) {
             local_.set(key, withoutLastPathComponent(answer.paths.front()));
         }
-        commit(category);
+        editor_.append(category, std::move(records), files);
     });
 }
 
-void AddRules::addPaths(RuleCategory category, const std::vector<std::string>& paths) {
+bool AddRules::addDropped(RuleCategory category, const std::vector<DroppedItem>& items) {
+    const auto paths = droppablePaths(category, items);
     if (paths.empty()) {
-        return;
+        return false;
     }
-    pages_.endEditing();
-    appendRecords(category, paths);
-    commit(category);
+    editor_.endEditing();
+    const auto files = beginCopying(category, paths);
+    editor_.append(category, makeRecords(category, paths), files);
+    return true;
 }
 
-void AddRules::appendRecords(RuleCategory category, const std::vector<std::string>& paths) {
-    if (category == RuleCategory::createNewFile) {
-        templates_.noteCopies(paths);
-    }
+TemplateWork AddRules::beginCopying(RuleCategory category, const std::vector<std::string>& paths) {
+    return factsOf(category).hasTemplateFiles ? templates_.beginCopying(paths) : TemplateWork();
+}
+
+std::vector<RuleRecord> AddRules::makeRecords(RuleCategory category, const std::vector<std::string>& paths) {
+    std::vector<RuleRecord> records;
     for (const auto& path : paths) {
         if (auto record = makeRecord(category, path)) {
-            pages_.list(category).append(*std::move(record));
+            records.push_back(*std::move(record));
         }
     }
-}
-
-void AddRules::commit(RuleCategory category) {
-    pages_.store(category);
-    if (category == RuleCategory::createNewFile) {
-        templates_.forgetCopies();
-    }
-    local_.synchronize();
-    pages_.reload(category);
-    pages_.publish(category);
+    return records;
 }
 
 std::optional<RuleRecord> AddRules::makeRecord(RuleCategory category, const std::string& path) {
     switch (category) {
     case RuleCategory::createNewFile:
-        if (!templates_.copy(path)) {
-            return std::nullopt;
-        }
-        return makeTemplateRecord(
-            lastComponentWithoutExtension(path), pathExtension(path), "1", RecordOrigin::user);
+        return makeTemplate(path);
     case RuleCategory::copyFilesTo:
     case RuleCategory::commonPath:
         return makeFolderRecord(path, lastPathComponent(path));
-    case RuleCategory::customIcon: {
-        auto icon = tiffOf(platform_.images.fromFile(path));
-        if (icon.empty()) {
-            return std::nullopt;
-        }
-        return makeIconRecord(std::move(icon), lastPathComponent(path), RecordOrigin::user);
-    }
+    case RuleCategory::customIcon:
+        return makeIcon(path);
     case RuleCategory::others:
-        break;
+        return makeAction(path);
     }
+    return std::nullopt;
+}
+
+std::optional<RuleRecord> AddRules::makeTemplate(const std::string& path) {
+    if (!templates_.copy(path)) {
+        return std::nullopt;
+    }
+    return makeTemplateRecord(
+        lastComponentWithoutExtension(path), pathExtension(path), "1", RecordOrigin::user);
+}
+
+std::optional<RuleRecord> AddRules::makeIcon(const std::string& path) {
+    auto icon = tiffOf(images_.fromFile(path));
+    if (icon.empty()) {
+        return std::nullopt;
+    }
+    return makeIconRecord(std::move(icon), lastPathComponent(path), RecordOrigin::user);
+}
+
+std::optional<RuleRecord> AddRules::makeAction(const std::string& path) {
     const auto name = lastComponentWithoutExtension(path);
-    auto icon = tiffOf(platform_.images.named(name));
+    auto icon = tiffOf(images_.named(name));
     if (icon.empty()) {
         return std::nullopt;
     }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/OpenPanel.h"
-#include "platform/Platform.h"
+#include "editing/DropFiles.h"
+#include "platform/Panels.h"
 #include "prefs/RuleCategory.h"
 #include "prefs/TemplateFiles.h"
 
@@ -11,36 +11,46 @@
 
 namespace tarnwick {
 
+class Images;
+class KnownFolders;
+class ListEditor;
 class LocalPreferences;
-class RulePages;
 class RuleRecord;
 
 /// Adds rules from files or folders that the user chooses. An item that cannot become a record is skipped
 /// without a message.
 class AddRules {
 public:
-    AddRules(const Platform& platform, LocalPreferences& local, RulePages& pages)
-        : platform_(platform), local_(local), templates_(platform, local), pages_(pages) {}
+    AddRules(Panels& panels, Images& images, const KnownFolders& folders, LocalPreferences& local,
+        TemplateFiles& templates, ListEditor& editor)
+        : panels_(panels), images_(images), folders_(folders), local_(local), templates_(templates),
+          editor_(editor) {}
 
     /// Opens the category's chooser and returns; once it is confirmed, adds what was chosen. Order: the
     /// records, the remembered folder (not for Others), store, synchronise, reload, publish.
     void add(RuleCategory category);
 
-    /// The same for paths that came some other way, without touching the remembered folder.
-    void addPaths(RuleCategory category, const std::vector<std::string>& paths);
-
-    /// How the category's chooser is set up just now.
-    [[nodiscard]] OpenPanelRequest chooser(RuleCategory category) const;
+    /// Adds what the list takes of a drop, as if chosen, without touching the remembered folder; false when
+    /// that is nothing.
+    bool addDropped(RuleCategory category, const std::vector<DroppedItem>& items);
 
 private:
-    void appendRecords(RuleCategory category, const std::vector<std::string>& paths);
-    void commit(RuleCategory category);
+    [[nodiscard]] OpenPanelRequest chooser(RuleCategory category) const;
+    /// What is copied in for the records, ahead of them.
+    [[nodiscard]] TemplateWork beginCopying(RuleCategory category, const std::vector<std::string>& paths);
+    [[nodiscard]] std::vector<RuleRecord> makeRecords(
+        RuleCategory category, const std::vector<std::string>& paths);
     [[nodiscard]] std::optional<RuleRecord> makeRecord(RuleCategory category, const std::string& path);
+    [[nodiscard]] std::optional<RuleRecord> makeTemplate(const std::string& path);
+    [[nodiscard]] std::optional<RuleRecord> makeIcon(const std::string& path);
+    [[nodiscard]] std::optional<RuleRecord> makeAction(const std::string& path);
 
-    Platform platform_;
+    Panels& panels_;
+    Images& images_;
+    const KnownFolders& folders_;
     LocalPreferences& local_;
-    TemplateFiles templates_;
-    RulePages& pages_;
+    TemplateFiles& templates_;
+    ListEditor& editor_;
 };
 
 } // namespace tarnwick

@@ -1,15 +1,16 @@
 #pragma once
 
-#include "platform/Platform.h"
-
 namespace tarnwick {
 
-class RulePages;
+class KnownFolders;
+class ListEditor;
+class Panels;
 
 /// Gives a copy/move-to target a folder that the user chooses.
 class ChoosePath {
 public:
-    ChoosePath(const Platform& platform, RulePages& pages) : platform_(platform), pages_(pages) {}
+    ChoosePath(Panels& panels, const KnownFolders& folders, ListEditor& editor)
+        : panels_(panels), folders_(folders), editor_(editor) {}
 
     /// Opens a folder chooser at the Desktop and returns. Once it is confirmed, the record that then stands
     /// at `row` gets the first chosen folder and an empty name; if there is none any more, nothing changes.
@@ -17,8 +18,9 @@ public:
     void selectPath(long row);
 
 private:
-    Platform platform_;
-    RulePages& pages_;
+    Panels& panels_;
+    const KnownFolders& folders_;
+    ListEditor& editor_;
 };
 
 } // namespace tarnwick

@@ -17,24 +17,18 @@ bool isSameType(std::string_view one, std::string_view other) {
         [](char first, char second) { return lowerCase(first) == lowerCase(second); });
 }
 
-bool isChoosable(const OpenPanelRequest& chooser, const DroppedItem& item) {
-    if (item.isFolder) {
-        return chooser.canChooseDirectories;
-    }
-    const auto& types = chooser.allowedFileTypes;
-    return chooser.canChooseFiles &&
-           (types.empty() || std::any_of(types.begin(), types.end(), [&item](const std::string& type) {
-               return isSameType(type, pathExtension(item.path));
-           }));
+bool isTaken(const RuleCategoryFacts& facts, const DroppedItem& item) {
+    return item.isFolder == (facts.source == RuleSource::folders) &&
+           (facts.allowedType.empty() || isSameType(facts.allowedType, pathExtension(item.path)));
 }
 
 } // namespace
 
-std::vector<std::string> choosablePaths(
-    const OpenPanelRequest& chooser, const std::vector<DroppedItem>& items) {
+std::vector<std::string> droppablePaths(RuleCategory category, const std::vector<DroppedItem>& items) {
+    const auto& facts = factsOf(category);
     std::vector<std::string> paths;
     for (const auto& item : items) {
-        if (isChoosable(chooser, item)) {
+        if (facts.takesDrops && isTaken(facts, item)) {
             paths.push_back(item.path);
         }
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/OpenPanel.h"
+#include "prefs/RuleCategory.h"
 
 #include <string>
 #include <vector>
@@ -15,8 +15,9 @@ struct DroppedItem {
     bool isFolder = false;
 };
 
-/// The paths of the items that a chooser so set up would let the user choose, in their order.
-[[nodiscard]] std::vector<std::string> choosablePaths(
-    const OpenPanelRequest& chooser, const std::vector<DroppedItem>& items);
+/// The paths of the items that the category's list takes, in their order: what its chooser would let the user
+/// choose, and nothing where it takes no drops.
+[[nodiscard]] std::vector<std::string> droppablePaths(
+    RuleCategory category, const std::vector<DroppedItem>& items);
 
 } // namespace tarnwick

@@ -1,11 +1,10 @@
 #include "editing/EditText.h"
 
-#include "editing/RulePages.h"
-#include "prefs/RuleRecord.h"
+#include "editing/ListEditor.h"
+#include "prefs/RuleList.h"
 
 #include <algorithm>
 #include <array>
-#include <string>
 
 namespace tarnwick {
 namespace {
@@ -34,25 +33,13 @@ constexpr std::array<EditableField, 7> editableFields{{
 void EditText::endEditing(std::string_view identifier, long row, std::string_view text) {
     const auto edited = std::find_if(editableFields.begin(), editableFields.end(),
         [&](const auto& candidate) { return candidate.identifier == identifier; });
-    if (edited == editableFields.end() || !pages_.list(edited->category).holds(row)) {
+    if (edited == editableFields.end() || !editor_.list(edited->category).holds(row)) {
         return;
     }
-    auto& list = pages_.list(edited->category);
     const auto index = static_cast<std::size_t>(row);
-    const auto old = list[index];
-    auto changed = edited->mark.empty() ? old : old.with(edited->mark, "1");
-    changed = changed.with(edited->textField, text);
-    list.replace(index, changed);
-    const bool isTemplate = edited->category == RuleCategory::createNewFile;
-    if (isTemplate) {
-        templates_.noteMove(old, changed);
-    }
-    pages_.storeAndSynchronize(edited->category);
-    pages_.reload(edited->category);
-    pages_.publish(edited->category);
-    if (isTemplate) {
-        templates_.move(old, changed);
-    }
+    const auto& old = editor_.list(edited->category)[index];
+    const auto marked = edited->mark.empty() ? old : old.with(edited->mark, "1");
+    editor_.replace(edited->category, index, marked.with(edited->textField, text));
 }
 
 } // namespace tarnwick

@@ -1,39 +1,29 @@
 #include "editing/RemoveRule.h"
 
-#include "editing/RulePages.h"
+#include "editing/ListEditor.h"
+#include "editing/RuleTables.h"
+#include "prefs/RuleList.h"
 
 namespace tarnwick {
 
 void RemoveRule::remove(RuleCategory category) {
-    pages_.endEditing();
-    const auto row = pages_.selectedRow(category);
-    auto& list = pages_.list(category);
+    editor_.endEditing();
+    const auto row = tables_.selectedRow(category);
+    const auto& list = editor_.list(category);
     if (list.holds(row)) {
-        const auto index = static_cast<std::size_t>(row);
-        const auto removed = list[index];
-        list.remove(index);
-        const bool isTemplate = category == RuleCategory::createNewFile;
-        if (isTemplate) {
-            templates_.noteRemoval(removed);
-        }
-        pages_.storeAndSynchronize(category);
-        pages_.reload(category);
-        if (isTemplate) {
-            templates_.remove(removed);
-        }
+        editor_.remove(category, static_cast<std::size_t>(row));
     }
     const auto neighbour = row > 0 ? row - 1 : row;
-    if (row <= 0 && pages_.numberOfRows(category) == 0) {
-        pages_.setRemoveButtonEnabled(category, false);
+    if (row <= 0 && tables_.numberOfRows(category) == 0) {
+        tables_.setRemoveButtonEnabled(category, false);
     } else if (row < 0) {
         return;
     } else {
-        pages_.selectRow(category, neighbour);
+        tables_.selectRow(category, neighbour);
     }
-    pages_.publish(category);
-    if (category == RuleCategory::others && list.holds(neighbour) &&
-        list[static_cast<std::size_t>(neighbour)].hasProtectedAction()) {
-        pages_.setRemoveButtonEnabled(category, false);
+    editor_.publish(category);
+    if (list.holds(neighbour) && list.isProtected(static_cast<std::size_t>(neighbour))) {
+        tables_.setRemoveButtonEnabled(category, false);
     }
 }
 

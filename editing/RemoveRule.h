@@ -1,28 +1,25 @@
 #pragma once
 
-#include "platform/Platform.h"
 #include "prefs/RuleCategory.h"
-#include "prefs/TemplateFiles.h"
 
 namespace tarnwick {
 
-class LocalPreferences;
-class RulePages;
+class ListEditor;
+class RuleTables;
 
 /// Removes the selected row of a table. Order: list, store, synchronise, reload, template file (CreateNewFile
-/// only), selection of a neighbour or disabling of the remove button, publish; for Others, last, the remove
-/// button of a neighbour that may not be removed. The row itself is not tested for protection: that rests on
-/// the remove button alone.
+/// only), selection of a neighbour or disabling of the remove button, publish; last, the remove button of a
+/// neighbour that may not be removed. The row itself is not tested for protection: that rests on the remove
+/// button alone.
 class RemoveRule {
 public:
-    RemoveRule(const Platform& platform, LocalPreferences& local, RulePages& pages)
-        : templates_(platform, local), pages_(pages) {}
+    RemoveRule(ListEditor& editor, RuleTables& tables) : editor_(editor), tables_(tables) {}
 
     void remove(RuleCategory category);
 
 private:
-    TemplateFiles templates_;
-    RulePages& pages_;
+    ListEditor& editor_;
+    RuleTables& tables_;
 };
 
 } // namespace tarnwick

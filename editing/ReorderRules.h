@@ -1,14 +1,21 @@
 #pragma once
 
-#include "platform/WindowControls.h"
 #include "prefs/RuleCategory.h"
 
 #include <cstdint>
 #include <optional>
+#include <string_view>
 
 namespace tarnwick {
 
-class RulePages;
+class ListEditor;
+class RuleTables;
+
+/// What a table lets a drag do, as the platform numbers it.
+inline constexpr std::uint32_t dragOperationNone = 0;
+inline constexpr std::uint32_t dragOperationLink = 2;
+inline constexpr std::uint32_t dragOperationMove = 16;
+inline constexpr std::uint32_t dragOperationEvery = 0xFFFFFFFFU;
 
 /// The drag type that tables register and under which the dragged row indexes travel.
 inline constexpr std::string_view rowDragType = "NSStringPboardType";
@@ -26,7 +33,7 @@ enum class MoveDirection { up, down };
 /// Moves a row to another place in its list.
 class ReorderRules {
 public:
-    explicit ReorderRules(RulePages& pages) : pages_(pages) {}
+    ReorderRules(ListEditor& editor, RuleTables& tables) : editor_(editor), tables_(tables) {}
 
     /// Drops the record at index `from` into the gap above row `to`; the number of rows means below the last.
     /// Nothing happens unless target and source are the same table, nor for a fixed Others action. A record
@@ -43,7 +50,8 @@ public:
     void moveSelection(RuleCategory category, MoveDirection direction);
 
 private:
-    RulePages& pages_;
+    ListEditor& editor_;
+    RuleTables& tables_;
 };
 
 } // namespace tarnwick

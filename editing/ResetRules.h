@@ -4,20 +4,18 @@
 
 namespace tarnwick {
 
-class FactoryLists;
-class RulePages;
+class ListEditor;
 
-/// Puts a list back to its factory state, without asking. The common paths have none and are left alone.
+/// Puts a list back to its factory state, without asking. A category without factory list is left alone.
 class ResetRules {
 public:
-    ResetRules(FactoryLists& factory, RulePages& pages) : factory_(factory), pages_(pages) {}
+    explicit ResetRules(ListEditor& editor) : editor_(editor) {}
 
     /// Order: rebuild (with its own store and synchronise), reload, disable the remove button, publish.
     void reset(RuleCategory category);
 
 private:
-    FactoryLists& factory_;
-    RulePages& pages_;
+    ListEditor& editor_;
 };
 
 } // namespace tarnwick

@@ -1,26 +1,23 @@
 #include "editing/ToggleRules.h"
 
-#include "editing/RulePages.h"
+#include "editing/ListEditor.h"
 #include "prefs/LocalPreferences.h"
-#include "prefs/SharedPreferences.h"
+#include "prefs/RuleList.h"
 
 #include <vector>
 
 namespace tarnwick {
 namespace {
 
-constexpr int asInteger(bool on) {
-    return on ? 1 : 0;
-}
-
-RuleRecord switched(const RuleRecord& record, RuleCategory category, std::string_view key, bool on) {
-    if (category == RuleCategory::others && record.hasFixedAction()) {
+RuleRecord switched(const RuleList& list, std::size_t index, std::string_view key, bool on) {
+    const auto& record = list[index];
+    if (list.isFixed(index)) {
         return record;
     }
     // A target without a folder cannot be switched on.
     const auto allowed =
-        category != RuleCategory::copyFilesTo || record.text(field::realPath) != undefinedPath;
-    return record.with(key, asInteger(on && allowed));
+        list.category() != RuleCategory::copyFilesTo || record.text(field::realPath) != undefinedPath;
+    return record.with(key, on && allowed ? 1 : 0);
 }
 
 } // namespace
@@ -34,16 +31,12 @@ void ToggleRules::setEnabledInMainMenu(long row, bool on) {
 }
 
 void ToggleRules::setFlag(RuleCategory category, long row, std::string_view key, bool on) {
-    pages_.endEditing();
-    auto& list = pages_.list(category);
-    if (!list.holds(row)) {
-        return;
+    editor_.endEditing();
+    const auto& list = editor_.list(category);
+    if (list.holds(row)) {
+        const auto index = static_cast<std::size_t>(row);
+        editor_.replace(category, index, switched(list, index, key, on));
     }
-    const auto index = static_cast<std::size_t>(row);
-    list.replace(index, switched(list[index], category, key, on));
-    pages_.storeAndSynchronize(category);
-    pages_.reload(category);
-    pages_.publish(category);
 }
 
 void ToggleRules::enableAll(RuleCategory category) {
@@ -53,24 +46,15 @@ void ToggleRules::enableAll(RuleCategory category) {
     }
     // What the switch has stored goes ahead of an edit in progress, whose publishing may store it anew.
     const auto enable = local_.flag(key);
-    pages_.endEditing();
-    auto& list = pages_.list(category);
+    editor_.endEditing();
+    const auto& list = editor_.list(category);
     std::vector<RuleRecord> records;
     records.reserve(list.size());
-    for (const auto& record : list) {
-        const auto fixed = category == RuleCategory::others && record.hasFixedAction();
-        records.push_back(record.with(field::enable, fixed ? PlistValue(1) : PlistValue(enable)));
+    for (std::size_t index = 0; index < list.size(); ++index) {
+        const auto value = list.isFixed(index) ? PlistValue(1) : PlistValue(enable);
+        records.push_back(list[index].with(field::enable, value));
     }
-    list.assign(std::move(records));
-    pages_.reload(category);
-    pages_.store(category);
-    pages_.publish(category);
-}
-
-void mirrorSwitch(PreferenceStores& stores, std::string_view key, const PlistValue& newValue) {
-    SharedPreferences shared(stores);
-    shared.set(key, flagValue(newValue).value_or(false));
-    shared.synchronize();
+    editor_.assign(category, std::move(records));
 }
 
 } // namespace tarnwick

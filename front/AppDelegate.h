@@ -2,22 +2,23 @@
 
 #import <AppKit/AppKit.h>
 
-#include "app/ApplicationDelegate.h"
+namespace tarnwick {
+class ApplicationDelegate;
+} // namespace tarnwick
 
-#include <memory>
-
-/// The application delegate as AppKit sees it; forwards to the C++ delegate.
+/// The application delegate as AppKit sees it; hands everything to the core's.
 @interface AppDelegate : NSObject <NSApplicationDelegate> {
 @private
     NSWindow *_window;
-    std::unique_ptr<tarnwick::WindowControl> _windowControl;
-    std::unique_ptr<tarnwick::ApplicationDelegate> _delegate;
+    tarnwick::ApplicationDelegate *_delegate;
 }
 
-/// The window is held weakly: its owner keeps it alive.
-- (instancetype)initWithPlatform:(const tarnwick::Platform &)platform window:(NSWindow *)window;
+/// Both outlive the receiver.
+- (instancetype)initWithDelegate:(tarnwick::ApplicationDelegate &)delegate window:(NSWindow *)window;
 
-- (NSWindow *)window;
+/// The main window, held weakly: its owner keeps it alive.
+@property (nonatomic, assign) NSWindow *window;
+
 - (void)handleInputSourceChange:(NSNotification *)notification;
 - (void)darkModeChanged:(NSNotification *)notification;
 

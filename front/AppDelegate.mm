@@ -1,24 +1,20 @@
 #import "front/AppDelegate.h"
 
 #import "adapters/foundation/StringConversion.h"
-#import "front/ControlAdapters.h"
 
-#include "platform/Platform.h"
+#include "app/ApplicationDelegate.h"
 
 @implementation AppDelegate
 
-- (instancetype)initWithPlatform:(const tarnwick::Platform &)platform window:(NSWindow *)window {
+@synthesize window = _window;
+
+- (instancetype)initWithDelegate:(tarnwick::ApplicationDelegate &)delegate window:(NSWindow *)window {
     self = [super init];
     if (self) {
         _window = window;
-        _windowControl = tarnwick::makeWindowControl(window);
-        _delegate = std::make_unique<tarnwick::ApplicationDelegate>(platform, _windowControl.get());
+        _delegate = &delegate;
     }
     return self;
-}
-
-- (NSWindow *)window {
-    return _window;
 }
 
 - (void)applicationWillFinishLaunching:(NSNotification *)notification {

@@ -2,12 +2,15 @@
 
 #import <AppKit/AppKit.h>
 
+#include "prefs/RuleCategory.h"
+
 namespace tarnwick {
 
 struct CellView;
 
 /// Builds exactly the control that the core decided on, which calls itself `label` to those who do not see
-/// it; autoreleased. `controller` becomes the target of check boxes and the delegate of editable fields.
-[[nodiscard]] NSView *makeCell(const CellView &cell, NSString *label, id controller);
+/// it; autoreleased. `controller` becomes the target of check boxes, whose action is that of the
+/// category, and the delegate of editable fields.
+[[nodiscard]] NSView *makeCell(const CellView &cell, RuleCategory category, NSString *label, id controller);
 
 } // namespace tarnwick

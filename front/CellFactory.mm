@@ -3,7 +3,7 @@
 #import "adapters/foundation/ImageAccess.h"
 #import "adapters/foundation/StringConversion.h"
 #import "front/CellContainerView.h"
-#import "front/SettingsViewController.h"
+#import "front/Selectors.h"
 
 #include "ui/CellView.h"
 
@@ -12,22 +12,6 @@ namespace {
 
 NSRect rectOf(const Frame &frame) {
     return NSMakeRect(frame.x, frame.y, frame.width, frame.height);
-}
-
-SEL selectorOf(RowSwitchAction action) {
-    switch (action) {
-    case RowSwitchAction::onOffcheckedStateChangedOfCreateNewFile:
-        return @selector(OnOffcheckedStateChangedOfCreateNewFile:);
-    case RowSwitchAction::onOffEnableMainMenuStateChangedOfCreateNewFile:
-        return @selector(OnOffEnableMainMenuStateChangedOfCreateNewFile:);
-    case RowSwitchAction::onOffcheckedStateChangedOfCopyTo:
-        return @selector(OnOffcheckedStateChangedOfCopyTo:);
-    case RowSwitchAction::onOffcheckedStateChangedOfCustomIcon:
-        return @selector(OnOffcheckedStateChangedOfCustomIcon:);
-    case RowSwitchAction::onOffcheckedStateChangedOfOthers:
-        break;
-    }
-    return @selector(OnOffcheckedStateChangedOfOthers:);
 }
 
 NSTextField *makeTextField(const TextFieldCell &cell, id controller) {
@@ -49,14 +33,14 @@ NSTextField *makeTextField(const TextFieldCell &cell, id controller) {
     return field;
 }
 
-NSButton *makeCheckBox(const CheckBoxCell &cell, id controller) {
+NSButton *makeCheckBox(const CheckBoxCell &cell, RuleCategory category, id controller) {
     NSButton *box = [[[NSButton alloc] init] autorelease];
     [box setButtonType:NSButtonTypeSwitch];
     [box setTitle:@""];
     [box setState:cell.on ? NSControlStateValueOn : NSControlStateValueOff];
     [box setEnabled:cell.enabled];
     [box setTarget:controller];
-    [box setAction:selectorOf(cell.action)];
+    [box setAction:actionOf(category, cell.turns)];
     return box;
 }
 
@@ -67,12 +51,12 @@ NSImageView *makeImageView(const ImageCell &cell) {
     return view;
 }
 
-NSView *makeControl(const CellView &cell, id controller) {
+NSView *makeControl(const CellView &cell, RuleCategory category, id controller) {
     NSControl *control = nil;
     if (const auto *field = std::get_if<TextFieldCell>(&cell.control)) {
         control = makeTextField(*field, controller);
     } else if (const auto *box = std::get_if<CheckBoxCell>(&cell.control)) {
-        control = makeCheckBox(*box, controller);
+        control = makeCheckBox(*box, category, controller);
     } else if (const auto *image = std::get_if<ImageCell>(&cell.control)) {
         control = makeImageView(*image);
     }
@@ -87,8 +71,8 @@ NSView *makeControl(const CellView &cell, id controller) {
 
 } // namespace
 
-NSView *makeCell(const CellView &cell, NSString *label, id controller) {
-    NSView *control = makeControl(cell, controller);
+NSView *makeCell(const CellView &cell, RuleCategory category, NSString *label, id controller) {
+    NSView *control = makeControl(cell, category, controller);
     [control setAccessibilityLabel:label];
     if (cell.bare) {
         return control;

@@ -5,18 +5,18 @@
 #include <string>
 #include <string_view>
 
-@class SettingsViewController;
-
-/// A push button that opens one fixed address.
+/// A push button for one fixed address, which its target opens.
 @interface LinkButton : NSButton {
 @private
     std::string _address;
-    SettingsViewController *_controller;
 }
 
-/// The controller is not retained. Autoreleased.
+/// Autoreleased.
 + (LinkButton *)buttonWithTitle:(NSString *)title
                         address:(std::string_view)address
-                     controller:(SettingsViewController *)controller;
+                         target:(id)target
+                         action:(SEL)action;
+
+- (std::string_view)address;
 
 @end

@@ -1,24 +1,21 @@
 #import "front/LinkButton.h"
 
 #import "front/ControlMaking.h"
-#import "front/SettingsViewController.h"
-
-#include "ui/SettingsViewController.h"
 
 @implementation LinkButton
 
 + (LinkButton *)buttonWithTitle:(NSString *)title
                         address:(std::string_view)address
-                     controller:(SettingsViewController *)controller {
+                         target:(id)target
+                         action:(SEL)action {
     LinkButton *button = [[[LinkButton alloc] init] autorelease];
     button->_address = address;
-    button->_controller = controller;
-    tarnwick::preparePushButton(button, title, button, @selector(openAddress:));
+    tarnwick::preparePushButton(button, title, target, action);
     return button;
 }
 
-- (void)openAddress:(id)sender {
-    [_controller controller]->openLink(_address);
+- (std::string_view)address {
+    return _address;
 }
 
 @end

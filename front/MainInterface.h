@@ -2,8 +2,6 @@
 
 #import <AppKit/AppKit.h>
 
-#include "platform/Platform.h"
-
 #include <memory>
 
 @class AppDelegate;
@@ -21,13 +19,13 @@ public:
     MainInterface(const MainInterface &) = delete;
     MainInterface &operator=(const MainInterface &) = delete;
 
-    [[nodiscard]] ::SettingsViewController *controller() const { return controller_; }
+    [[nodiscard]] SettingsViewController *controller() const { return controller_; }
     [[nodiscard]] NSWindow *window() const { return window_; }
 
 private:
-    struct Ports;
-    std::unique_ptr<Ports> ports_;
-    ::SettingsViewController *controller_ = nil;
+    struct Parts;
+    std::unique_ptr<Parts> parts_;
+    SettingsViewController *controller_ = nil;
     NSWindow *window_ = nil;
     AppDelegate *delegate_ = nil;
 };

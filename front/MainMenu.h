@@ -7,6 +7,6 @@
 namespace tarnwick {
 
 /// Builds the application's menu bar and makes it the main menu.
-void installMainMenu(::SettingsViewController *controller);
+void installMainMenu(SettingsViewController *controller);
 
 } // namespace tarnwick

@@ -2,140 +2,83 @@
 
 #import "adapters/foundation/StringConversion.h"
 #import "front/ControlMaking.h"
+#import "front/Selectors.h"
 #import "front/SettingsViewController.h"
 
+#include "ui/MenuLayout.h"
 #include "ui/WindowLayout.h"
 
 #include <string>
 
-/// Actions that the responder chain answers without any header saying so.
-@protocol UndoActions
-- (void)undo:(id)sender;
-- (void)redo:(id)sender;
-@end
-
 namespace tarnwick {
 namespace {
 
-NSMenu *makeMenu(std::string_view title) {
-    return [[[NSMenu alloc] initWithTitle:localizedText(title)] autorelease];
+NSUInteger modifierMask(KeyModifiers modifiers) {
+    switch (modifiers) {
+    case KeyModifiers::command:
+        break;
+    case KeyModifiers::shiftCommand:
+        return NSEventModifierFlagCommand | NSEventModifierFlagShift;
+    case KeyModifiers::optionCommand:
+        return NSEventModifierFlagCommand | NSEventModifierFlagOption;
+    }
+    return NSEventModifierFlagCommand;
 }
 
-void addSubmenu(NSMenu *bar, NSMenu *menu) {
-    NSMenuItem *item = [[[NSMenuItem alloc] initWithTitle:[menu title] action:nullptr
-                                            keyEquivalent:@""] autorelease];
-    [item setSubmenu:menu];
-    [bar addItem:item];
-}
-
-/// Without a target the item goes to the first responder that answers.
-NSMenuItem *addItem(NSMenu *menu, std::string_view title, SEL action, NSString *key = @"", id target = nil) {
+NSMenuItem *makeItem(std::string_view title, SEL action, NSString *key, id target) {
     NSMenuItem *item = [[[NSMenuItem alloc] initWithTitle:localizedText(title)
                                                    action:action
                                             keyEquivalent:key] autorelease];
     [item setTarget:target];
-    [menu addItem:item];
     return item;
 }
 
-void addSeparator(NSMenu *menu) {
-    [menu addItem:[NSMenuItem separatorItem]];
-}
-
-NSMenu *makeApplicationMenu(::SettingsViewController *controller) {
-    NSMenu *menu = makeMenu("Tarnwick");
-    addItem(menu, "About Tarnwick", @selector(orderFrontStandardAboutPanel:));
-    addSeparator(menu);
-    addItem(menu, "Enable Extension\u2026", @selector(openSystemPreferences), @"", controller);
-    addItem(menu, "Install Script Helper\u2026", @selector(doInstallScript), @"", controller);
-    addItem(menu, "Initialize All Settings\u2026", @selector(initialize), @"", controller);
-    addSeparator(menu);
-    addItem(menu, "Hide Tarnwick", @selector(hide:), @"h");
-    [addItem(menu, "Hide Others", @selector(hideOtherApplications:), @"h")
-        setKeyEquivalentModifierMask:NSEventModifierFlagCommand | NSEventModifierFlagOption];
-    addItem(menu, "Show All", @selector(unhideAllApplications:));
-    addSeparator(menu);
-    addItem(menu, "Quit Tarnwick", @selector(terminate:), @"q");
-    return menu;
-}
-
-NSMenu *makeFileMenu(::SettingsViewController *controller) {
-    NSMenu *menu = makeMenu("File");
-    addItem(menu, "Add\u2026", @selector(addRuleOfCurrentPage:), @"n", controller);
-    addSeparator(menu);
-    addItem(menu, "Close Window", @selector(performClose:), @"w");
-    return menu;
-}
-
-NSString *keyOf(unichar character) {
-    return [NSString stringWithCharacters:&character length:1];
-}
-
-NSMenu *makeEditMenu(::SettingsViewController *controller) {
-    NSMenu *menu = makeMenu("Edit");
-    addItem(menu, "Undo", @selector(undo:), @"z");
-    [addItem(menu, "Redo", @selector(redo:), @"z")
-        setKeyEquivalentModifierMask:NSEventModifierFlagCommand | NSEventModifierFlagShift];
-    addSeparator(menu);
-    addItem(menu, "Cut Text", @selector(cut:), @"x");
-    addItem(menu, "Copy Text", @selector(copy:), @"c");
-    addItem(menu, "Paste Text", @selector(paste:), @"v");
-    addItem(menu, "Select All", @selector(selectAll:), @"a");
-    addSeparator(menu);
-    const NSUInteger optionCommand = NSEventModifierFlagOption | NSEventModifierFlagCommand;
-    [addItem(menu, "Move Up", @selector(moveSelectedRuleUp:), keyOf(NSUpArrowFunctionKey), controller)
-        setKeyEquivalentModifierMask:optionCommand];
-    [addItem(menu, "Move Down", @selector(moveSelectedRuleDown:), keyOf(NSDownArrowFunctionKey), controller)
-        setKeyEquivalentModifierMask:optionCommand];
-    return menu;
-}
-
-NSMenu *makeViewMenu(::SettingsViewController *controller) {
-    NSMenu *menu = makeMenu("View");
-    const SEL actions[] = {
-        @selector(createNewFilePressed:),
-        @selector(copyFilesToPressed:),
-        @selector(commonPathPressed:),
-        @selector(customIconFolder:),
-        @selector(otherOptionPressed:),
-        @selector(moreAppPressed:)
-    };
-    for (const auto &layout : pageLayouts()) {
-        const auto index = static_cast<std::size_t>(layout.page);
-        addItem(menu, layout.title, actions[index], toNSString(std::to_string(index + 1)), controller);
+NSMenuItem *makeItem(const MenuItemLayout &layout, SettingsViewController *controller) {
+    if (layout.command == Command::separator) {
+        return static_cast<NSMenuItem *>([NSMenuItem separatorItem]);
     }
-    return menu;
+    const auto action = actionOf(layout.command);
+    const unichar key = layout.key;
+    NSMenuItem *item =
+        makeItem(layout.title, action.selector, [NSString stringWithCharacters:&key length:key != 0 ? 1 : 0],
+            action.isTheControllers ? controller : nil);
+    if (layout.modifiers != KeyModifiers::command) {
+        [item setKeyEquivalentModifierMask:modifierMask(layout.modifiers)];
+    }
+    return item;
 }
 
-NSMenu *makeWindowMenu() {
-    NSMenu *menu = makeMenu("Window");
-    addItem(menu, "Minimize", @selector(performMiniaturize:), @"m");
-    addItem(menu, "Zoom", @selector(performZoom:));
-    addSeparator(menu);
-    addItem(menu, "Bring All to Front", @selector(arrangeInFront:));
-    return menu;
+void addPages(NSMenu *menu, SettingsViewController *controller) {
+    int number = 0;
+    for (const auto page : allPages) {
+        [menu addItem:makeItem(layoutOf(page).title, actionOf(page), toNSString(std::to_string(++number)),
+                          controller)];
+    }
 }
 
-NSMenu *makeHelpMenu(::SettingsViewController *controller) {
-    NSMenu *menu = makeMenu("Help");
-    addItem(menu, "Restarting the Finder", @selector(initializeClick:), @"", controller);
-    addItem(menu, "Turning on the Services", @selector(helpServicesOfSystemPreferences:), @"", controller);
-    addSeparator(menu);
-    addItem(menu, "Open Services Settings", @selector(openServicesOfSystemPreferences), @"", controller);
+NSMenu *makeMenu(const MenuLayout &layout, SettingsViewController *controller) {
+    NSMenu *menu = [[[NSMenu alloc] initWithTitle:localizedText(layout.title)] autorelease];
+    for (const auto &item : layout.items) {
+        [menu addItem:makeItem(item, controller)];
+    }
+    if (layout.role == MenuRole::pages) {
+        addPages(menu, controller);
+    }
     return menu;
 }
 
 } // namespace
 
-void installMainMenu(::SettingsViewController *controller) {
-    NSMenu *bar = makeMenu("Tarnwick");
-    NSMenu *windows = makeWindowMenu();
-    addSubmenu(bar, makeApplicationMenu(controller));
-    addSubmenu(bar, makeFileMenu(controller));
-    addSubmenu(bar, makeEditMenu(controller));
-    addSubmenu(bar, makeViewMenu(controller));
-    addSubmenu(bar, windows);
-    addSubmenu(bar, makeHelpMenu(controller));
+void installMainMenu(SettingsViewController *controller) {
+    NSMenu *bar = [[[NSMenu alloc] initWithTitle:localizedText("Tarnwick")] autorelease];
+    NSMenu *windows = nil;
+    for (const auto &layout : menuBar()) {
+        NSMenu *menu = makeMenu(layout, controller);
+        NSMenuItem *item = makeItem(layout.title, nullptr, @"", nil);
+        [item setSubmenu:menu];
+        [bar addItem:item];
+        windows = layout.role == MenuRole::windows ? menu : windows;
+    }
     [NSApp setMainMenu:bar];
     [NSApp setWindowsMenu:windows];
 }

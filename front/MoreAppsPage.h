@@ -11,6 +11,6 @@ struct PageLayout;
 /// Builds the page of further applications: a tile each, with a button that opens its store page.
 /// Autoreleased.
 [[nodiscard]] NSView *makeMoreAppsPage(
-    const PageLayout &layout, NSSize size, ::SettingsViewController *controller);
+    const PageLayout &layout, NSSize size, SettingsViewController *controller);
 
 } // namespace tarnwick

@@ -3,37 +3,19 @@
 #import "front/ControlMaking.h"
 #import "front/LinkButton.h"
 #import "front/PageFrame.h"
-#import "front/SettingsViewController.h"
+#import "front/SettingsViewController+Actions.h"
 
-#include "integration/Links.h"
 #include "ui/WindowLayout.h"
-
-#include <array>
 
 namespace tarnwick {
 namespace {
-
-struct Tile {
-    std::string_view image;
-    std::string_view name;
-    std::string_view description;
-    std::string_view buttonTitle;
-    std::string_view address;
-};
-
-constexpr std::array<Tile, 3> tiles{{
-    {"app-Snapfin", "Snapfin", "Takes, pins and annotates screenshots.", "View in Store", link::snapfin},
-    {"app-Allbright", "Allbright", "Keeps the brightness of all displays in step.", "View in Store",
-        link::allbright},
-    {"app-Website", "Website", "News, help and everything else we make.", "Visit", link::website},
-}};
 
 constexpr CGFloat tileHeight = 84;
 constexpr CGFloat tilePadding = 16;
 constexpr CGFloat imageSize = 52;
 constexpr CGFloat textLeft = tilePadding + imageSize + tilePadding;
 
-NSView *makeTile(const Tile &facts, CGFloat width, ::SettingsViewController *controller) {
+NSView *makeTile(const AppTile &facts, CGFloat width, SettingsViewController *controller) {
     NSBox *tile = [[[NSBox alloc] initWithFrame:NSMakeRect(0, 0, width, tileHeight)] autorelease];
     [tile setTitlePosition:NSNoTitle];
     [tile setContentViewMargins:NSMakeSize(0, 0)];
@@ -50,7 +32,8 @@ NSView *makeTile(const Tile &facts, CGFloat width, ::SettingsViewController *con
 
     NSButton *button = [LinkButton buttonWithTitle:localizedText(facts.buttonTitle)
                                            address:facts.address
-                                        controller:controller];
+                                            target:controller
+                                            action:@selector(openLink:)];
     // Two of the buttons bear the same title.
     [button setAccessibilityLabel:[NSString stringWithFormat:@"%@, %@", localizedText(facts.name),
                                             localizedText(facts.buttonTitle)]];
@@ -74,12 +57,12 @@ NSView *makeTile(const Tile &facts, CGFloat width, ::SettingsViewController *con
 
 } // namespace
 
-NSView *makeMoreAppsPage(const PageLayout &layout, NSSize size, ::SettingsViewController *controller) {
+NSView *makeMoreAppsPage(const PageLayout &layout, NSSize size, SettingsViewController *controller) {
     NSView *page = [[[NSView alloc] initWithFrame:NSMakeRect(0, 0, size.width, size.height)] autorelease];
     [page setAutoresizingMask:NSViewWidthSizable | NSViewHeightSizable];
     PageFrame column(page, size);
     column.addHeading(layout);
-    for (const auto &tile : tiles) {
+    for (const auto &tile : appTiles()) {
         column.add(makeTile(tile, column.width(), controller), tileHeight);
         column.skip(tilePadding);
     }

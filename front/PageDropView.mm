@@ -1,31 +1,9 @@
 #import "front/PageDropView.h"
 
-#import "adapters/foundation/StringConversion.h"
 #import "front/RuleTableView.h"
-#import "front/SettingsViewController.h"
-
-#include "ui/SettingsViewController.h"
-
-#include <vector>
+#import "front/SettingsViewController+Actions.h"
 
 namespace {
-
-std::vector<tarnwick::DroppedItem> itemsOn(NSPasteboard *pasteboard) {
-    std::vector<tarnwick::DroppedItem> items;
-    id paths = [pasteboard propertyListForType:NSFilenamesPboardType];
-    if (![paths isKindOfClass:[NSArray class]]) {
-        return items;
-    }
-    for (id path in paths) {
-        BOOL isFolder = NO;
-        if ([path isKindOfClass:[NSString class]] &&
-            [[NSFileManager defaultManager] fileExistsAtPath:path isDirectory:&isFolder]) {
-            const bool isPackage = [[NSWorkspace sharedWorkspace] isFilePackageAtPath:path];
-            items.push_back({tarnwick::toString(path), isFolder && !isPackage});
-        }
-    }
-    return items;
-}
 
 /// The one to answer with. A rule is made after what was dragged, which itself stays as it is.
 NSDragOperation operationFrom(NSDragOperation offered) {
@@ -87,9 +65,9 @@ NSDragOperation operationFrom(NSDragOperation offered) {
 }
 
 - (NSDragOperation)draggingEntered:(id<NSDraggingInfo>)info {
-    const auto paths =
-        [_controller controller]->droppablePaths(_category, itemsOn([info draggingPasteboard]));
-    _answer = paths.empty() ? NSDragOperationNone : operationFrom([info draggingSourceOperationMask]);
+    _answer = [_controller takesItemsOn:[info draggingPasteboard] forCategory:_category]
+                  ? operationFrom([info draggingSourceOperationMask])
+                  : NSDragOperationNone;
     return [self draggingUpdated:info];
 }
 
@@ -113,7 +91,7 @@ NSDragOperation operationFrom(NSDragOperation offered) {
 
 - (BOOL)performDragOperation:(id<NSDraggingInfo>)info {
     [_mark setHidden:YES];
-    return [_controller controller]->addDroppedItems(_category, itemsOn([info draggingPasteboard]));
+    return [_controller addItemsOn:[info draggingPasteboard] toCategory:_category];
 }
 
 - (void)concludeDragOperation:(id<NSDraggingInfo>)info {

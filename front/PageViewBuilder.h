@@ -2,7 +2,6 @@
 
 #import <AppKit/AppKit.h>
 
-@class SettingsOutlets;
 @class SettingsViewController;
 
 namespace tarnwick {
@@ -10,9 +9,9 @@ namespace tarnwick {
 struct PageLayout;
 
 /// Builds a page with a table: heading, option switches, enable-all switch, table and buttons. The table and
-/// its remove button go into `outlets`; every control is bound to `controller`. Autoreleased.
+/// its remove button become outlets of `controller`, to which every control is bound. Autoreleased.
 /// `neededWidth` is raised to what the page's texts need.
-[[nodiscard]] NSView *makeRulePage(const PageLayout &layout, NSSize size,
-    ::SettingsViewController *controller, SettingsOutlets *outlets, CGFloat &neededWidth);
+[[nodiscard]] NSView *makeRulePage(
+    const PageLayout &layout, NSSize size, SettingsViewController *controller, CGFloat &neededWidth);
 
 } // namespace tarnwick

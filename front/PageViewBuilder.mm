@@ -6,12 +6,12 @@
 #import "front/PageDropView.h"
 #import "front/PageFrame.h"
 #import "front/PreferenceSwitch.h"
-#import "front/RulePageActions.h"
 #import "front/RuleTableView.h"
-#import "front/SettingsOutlets.h"
-#import "front/SettingsViewController.h"
+#import "front/Selectors.h"
+#import "front/SettingsViewController+Actions.h"
 
 #include "ui/CellView.h"
+#include "ui/RuleColumns.h"
 #include "ui/WindowLayout.h"
 
 #include <algorithm>
@@ -46,8 +46,8 @@ void addSwitches(PageFrame &column, const PageLayout &layout) {
     column.skip(gap);
 }
 
-void addEnableAllSwitch(PageFrame &column, const PageLayout &layout, const RulePageActions &actions,
-    ::SettingsViewController *controller) {
+void addEnableAllSwitch(PageFrame &column, const PageLayout &layout, const RuleActions &actions,
+    SettingsViewController *controller) {
     if (!actions.enableAll) {
         return;
     }
@@ -62,7 +62,7 @@ void addEnableAllSwitch(PageFrame &column, const PageLayout &layout, const RuleP
     column.skip(6);
 }
 
-NSTableColumn *makeColumn(const ColumnLayout &facts) {
+NSTableColumn *makeColumn(const Column &facts) {
     NSTableColumn *column =
         [[[NSTableColumn alloc] initWithIdentifier:toNSString(facts.identifier)] autorelease];
     [[column headerCell] setStringValue:facts.title.empty() ? @"" : localizedText(facts.title)];
@@ -80,10 +80,16 @@ NSTableColumn *makeColumn(const ColumnLayout &facts) {
     return column;
 }
 
-RuleTableView *makeTable(const PageLayout &layout, const RulePageActions &actions,
-    ::SettingsViewController *controller, NSRect frame) {
+/// Empty where there is no such column.
+NSString *identifierOf(RuleCategory category, ColumnRole role) {
+    const auto *column = columnOf(category, role);
+    return column ? toNSString(column->identifier) : @"";
+}
+
+RuleTableView *makeTable(
+    const PageLayout &layout, const RuleActions &actions, SettingsViewController *controller, NSRect frame) {
     RuleTableView *table = [[[RuleTableView alloc] initWithFrame:frame] autorelease];
-    for (const auto &facts : layout.columns) {
+    for (const auto &facts : columnsOf(*layout.category)) {
         [table addTableColumn:makeColumn(facts)];
     }
     [table setRowHeight:rowHeight];
@@ -93,7 +99,8 @@ RuleTableView *makeTable(const PageLayout &layout, const RulePageActions &action
     [table setAllowsColumnReordering:NO];
     [table setGridStyleMask:NSTableViewGridNone];
     [table setColumnAutoresizingStyle:NSTableViewUniformColumnAutoresizingStyle];
-    [table setNameColumn:toNSString(layout.nameColumn) switchColumn:toNSString(layout.switchColumn)];
+    [table setNameColumn:identifierOf(*layout.category, ColumnRole::name)
+            switchColumn:identifierOf(*layout.category, ColumnRole::enableSwitch)];
     [table setAccessibilityLabel:localizedText(layout.title)];
     [table setTarget:controller];
     [table setAction:actions.click];
@@ -133,7 +140,7 @@ NSScrollView *makeScrollView(NSTableView *table, NSRect frame) {
     return scroll;
 }
 
-ChooseFolderButton *makeChooseFolderButton(::SettingsViewController *controller, NSTableView *table) {
+ChooseFolderButton *makeChooseFolderButton(SettingsViewController *controller, NSTableView *table) {
     ChooseFolderButton *button = [[[ChooseFolderButton alloc] init] autorelease];
     preparePushButton(button, localizedText("Choose Folder\u2026"), controller, @selector(selectPath:));
     [button followTable:table];
@@ -142,8 +149,8 @@ ChooseFolderButton *makeChooseFolderButton(::SettingsViewController *controller,
 }
 
 /// Add, remove and the page's extra button from the left; reset at the right. Gives the remove button.
-NSButton *addButtonBar(PageFrame &column, const PageLayout &layout, const RulePageActions &actions,
-    ::SettingsViewController *controller, NSButton *extra) {
+NSButton *addButtonBar(PageFrame &column, const PageLayout &layout, const RuleActions &actions,
+    SettingsViewController *controller, NSButton *extra) {
     CGFloat left = margin;
     const auto placeLeft = [&](NSButton *button) {
         column.place(button, NSMakeRect(left, margin, NSWidth([button frame]), buttonBarHeight),
@@ -170,9 +177,9 @@ NSButton *addButtonBar(PageFrame &column, const PageLayout &layout, const RulePa
 
 } // namespace
 
-NSView *makeRulePage(const PageLayout &layout, NSSize size, ::SettingsViewController *controller,
-    SettingsOutlets *outlets, CGFloat &neededWidth) {
-    const auto actions = actionsOf(*layout.category);
+NSView *makeRulePage(
+    const PageLayout &layout, NSSize size, SettingsViewController *controller, CGFloat &neededWidth) {
+    const auto &actions = actionsOf(*layout.category);
     PageDropView *page = [[[PageDropView alloc] initWithFrame:NSMakeRect(0, 0, size.width, size.height)
                                                      category:*layout.category
                                                    controller:controller] autorelease];
@@ -196,7 +203,7 @@ NSView *makeRulePage(const PageLayout &layout, NSSize size, ::SettingsViewContro
     NSButton *remove = addButtonBar(column, layout, actions, controller, chooseFolder);
     [remove setEnabled:NO];
     [table setRemoveButton:remove];
-    [outlets addTable:table removeButton:remove];
+    [controller setTable:table removeButton:remove ofCategory:*layout.category];
     neededWidth = std::max(neededWidth, column.neededWidth());
     return page;
 }

@@ -1,43 +1,39 @@
-#import "front/RulePageActions.h"
-#import "front/SettingsOutlets.h"
-#import "front/SettingsViewController.h"
+#import "front/SettingsViewController+Actions.h"
 
-#include "ui/SettingsViewController.h"
+#import "front/Selectors.h"
+
 #include "ui/WindowLayout.h"
-
-#include <optional>
 
 using tarnwick::MoveDirection;
 
-namespace {
-
-std::optional<tarnwick::RuleCategory> shownCategory(NSTabView *tabView) {
-    const NSInteger index = [tabView indexOfTabViewItem:[tabView selectedTabViewItem]];
-    if (index < 0 || index >= static_cast<NSInteger>(tarnwick::pageCount)) {
-        return std::nullopt;
-    }
-    return tarnwick::pageLayouts()[static_cast<std::size_t>(index)].category;
-}
-
-} // namespace
-
 @implementation SettingsViewController (Menus)
 
+/// The category of the page that is shown; nothing on the page of further apps.
+- (std::optional<tarnwick::RuleCategory>)shownCategory {
+    const NSInteger shown = [_tabView indexOfTabViewItem:[_tabView selectedTabViewItem]];
+    for (const auto page : tarnwick::allPages) {
+        if (shown == static_cast<NSInteger>(page)) {
+            return tarnwick::layoutOf(page).category;
+        }
+    }
+    return std::nullopt;
+}
+
 - (void)addRuleOfCurrentPage:(id)sender {
-    if (const auto category = shownCategory([[self outlets] tabView])) {
+    if (const auto category = [self shownCategory]) {
         [NSApp sendAction:tarnwick::actionsOf(*category).add to:self from:sender];
     }
 }
 
 - (void)moveSelectedRule:(MoveDirection)direction {
-    if (const auto category = shownCategory([[self outlets] tabView])) {
-        [self controller]->moveSelectedRule(*category, direction);
+    if (const auto category = [self shownCategory]) {
+        _controller->moveSelectedRule(*category, direction);
     }
 }
 
 - (BOOL)canMoveSelectedRule:(MoveDirection)direction {
-    const auto category = shownCategory([[self outlets] tabView]);
-    return category && [self controller]->canMoveSelectedRule(*category, direction);
+    const auto category = [self shownCategory];
+    return category && _controller->canMoveSelectedRule(*category, direction);
 }
 
 - (void)moveSelectedRuleUp:(id)sender {
@@ -49,16 +45,17 @@ std::optional<tarnwick::RuleCategory> shownCategory(NSTabView *tabView) {
 }
 
 - (BOOL)validateMenuItem:(NSMenuItem *)item {
-    if ([item action] == @selector(doInstallScript)) {
+    const SEL action = [item action];
+    if (sel_isEqual(action, @selector(doInstallScript))) {
         [item setState:[self checkScriptInstalled] ? NSControlStateValueOn : NSControlStateValueOff];
     }
-    if ([item action] == @selector(addRuleOfCurrentPage:)) {
-        return shownCategory([[self outlets] tabView]).has_value();
+    if (sel_isEqual(action, @selector(addRuleOfCurrentPage:))) {
+        return [self shownCategory].has_value();
     }
-    if ([item action] == @selector(moveSelectedRuleUp:)) {
+    if (sel_isEqual(action, @selector(moveSelectedRuleUp:))) {
         return [self canMoveSelectedRule:MoveDirection::up];
     }
-    if ([item action] == @selector(moveSelectedRuleDown:)) {
+    if (sel_isEqual(action, @selector(moveSelectedRuleDown:))) {
         return [self canMoveSelectedRule:MoveDirection::down];
     }
     return YES;

@@ -1,30 +1,13 @@
-#import "front/SettingsViewController.h"
+#import "front/SettingsViewController+Actions.h"
 
 #import "adapters/foundation/StringConversion.h"
 #import "front/CellFactory.h"
-#import "front/RulePageActions.h"
 #import "front/RuleTableView.h"
-#import "front/SettingsOutlets.h"
-
-#include "ui/SettingsViewController.h"
-
-#include <optional>
+#import "front/Selectors.h"
 
 using tarnwick::RuleCategory;
 
 namespace {
-
-/// A table that is none of the five stands for the Others list.
-RuleCategory categoryOf(NSTableView *table, SettingsOutlets *outlets) {
-    auto category = RuleCategory::others;
-    [outlets getCategory:&category ofTable:table];
-    return category;
-}
-
-std::optional<RuleCategory> knownCategoryOf(id table, SettingsOutlets *outlets) {
-    auto category = RuleCategory::others;
-    return [outlets getCategory:&category ofTable:table] ? std::optional(category) : std::nullopt;
-}
 
 /// The first of the dragged rows; -1 when the pasteboard holds none.
 long firstDraggedRow(NSPasteboard *pasteboard) {
@@ -46,26 +29,31 @@ long firstDraggedRow(NSPasteboard *pasteboard) {
 
 @implementation SettingsViewController (Tables)
 
+/// A table that is none of ours stands for the Others list.
+- (RuleCategory)listOf:(NSTableView *)table {
+    return [self categoryOf:table].value_or(RuleCategory::others);
+}
+
 - (NSInteger)numberOfRowsInTableView:(NSTableView *)tableView {
-    return [self controller]->numberOfRows(categoryOf(tableView, [self outlets]));
+    return _controller->rows().count([self listOf:tableView]);
 }
 
 - (CGFloat)tableView:(NSTableView *)tableView heightOfRow:(NSInteger)row {
-    return [self controller]->heightOfRow();
+    return tarnwick::rowHeight;
 }
 
 - (NSView *)tableView:(NSTableView *)tableView viewForTableColumn:(NSTableColumn *)column row:(NSInteger)row {
     const auto identifier = tarnwick::toString([column identifier]);
-    const auto category = categoryOf(tableView, [self outlets]);
-    return tarnwick::makeCell([self controller]->viewForTableColumn(category, identifier, row),
-        tarnwick::toNSString([self controller]->accessibilityLabel(category, identifier, row)), self);
+    const auto category = [self listOf:tableView];
+    const auto &rows = _controller->rows();
+    return tarnwick::makeCell(rows.cell(category, identifier, row), category,
+        tarnwick::toNSString(rows.label(category, identifier, row)), self);
 }
 
 /// Also after a selection by keyboard, for which a table sends no action.
 - (void)tableViewSelectionDidChange:(NSNotification *)notification {
-    auto category = RuleCategory::others;
-    if ([[self outlets] getCategory:&category ofTable:[notification object]]) {
-        [NSApp sendAction:tarnwick::actionsOf(category).click to:self from:[notification object]];
+    if (const auto category = [self categoryOf:[notification object]]) {
+        [NSApp sendAction:tarnwick::actionsOf(*category).click to:self from:[notification object]];
     }
 }
 
@@ -83,16 +71,16 @@ long firstDraggedRow(NSPasteboard *pasteboard) {
        proposedDropOperation:(NSTableViewDropOperation)operation {
     const auto place =
         operation == NSTableViewDropAbove ? tarnwick::DropPlace::above : tarnwick::DropPlace::on;
-    return static_cast<NSDragOperation>([self controller]->validateDrop(place));
+    return static_cast<NSDragOperation>(tarnwick::validateDrop(place));
 }
 
 - (BOOL)tableView:(NSTableView *)tableView
        acceptDrop:(id<NSDraggingInfo>)info
               row:(NSInteger)row
     dropOperation:(NSTableViewDropOperation)operation {
-    return [self controller]->acceptDrop(knownCategoryOf(tableView, [self outlets]),
-        knownCategoryOf([info draggingSource], [self outlets]), firstDraggedRow([info draggingPasteboard]),
-        row);
+    _controller->acceptDrop([self categoryOf:tableView], [self categoryOf:[info draggingSource]],
+        firstDraggedRow([info draggingPasteboard]), row);
+    return YES;
 }
 
 /// The Escape key.
@@ -108,9 +96,11 @@ long firstDraggedRow(NSPasteboard *pasteboard) {
     return YES;
 }
 
+/// Editing ends, whatever the text.
 - (BOOL)control:(NSControl *)control textShouldEndEditing:(NSText *)fieldEditor {
-    return [self controller]->controlTextShouldEndEditing(
+    _controller->textEdited(
         tarnwick::toString([control identifier]), [control tag], tarnwick::toString([control stringValue]));
+    return YES;
 }
 
 @end

@@ -2,123 +2,93 @@
 
 #import <AppKit/AppKit.h>
 
+#include "ui/Page.h"
+#include "ui/SettingsController.h"
+
+#include <memory>
+#include <optional>
+
 namespace tarnwick {
-class SettingsViewController;
-struct Platform;
+class OutletWindow;
 } // namespace tarnwick
 
-@class SettingsOutlets;
+@class LinkButton;
 
 /// The controller of the settings window as AppKit sees it: carries the exact selectors that controls, tables
-/// and text fields send, and forwards each to the C++ controller in one line.
+/// and text fields send, and hands each to the core in one line. Whoever builds the window sets its outlets;
+/// they live as long as the view. A missing one makes the step that needs it do nothing.
 @interface SettingsViewController : NSViewController {
 @private
-    tarnwick::SettingsViewController *_controller;
-    SettingsOutlets *_outlets;
+    std::unique_ptr<tarnwick::OutletWindow> _window;
+    std::unique_ptr<tarnwick::SettingsController> _controller;
+
+    NSTextField *_version;
+    NSTabView *_tabView;
+    NSButton *_createNewFileButton;
+    NSButton *_copyFilesToButton;
+    NSButton *_commonPathToButton;
+    NSButton *_customIconButton;
+    NSButton *_otherOptionButton;
+    NSButton *_moreAppButton;
+    NSTableView *_createNewFileTableView;
+    NSTableView *_copyFilesToTableView;
+    NSTableView *_commonPathTableView;
+    NSTableView *_customIconTableView;
+    NSTableView *_othersTableView;
+    NSButton *_removeCreateNewFileViewButton;
+    NSButton *_removeCopyFilesToViewButton;
+    NSButton *_removeCommonPathViewButton;
+    NSButton *_removeCustomIconViewButton;
+    NSButton *_removeOthersViewButton;
+    NSButton *_restartFinderButton;
+    NSButton *_helpButton;
+    NSTextField *_tipOfkillFinder;
 }
 
+@property (nonatomic, assign) NSTextField *Version;
+@property (nonatomic, assign) NSTabView *tabView;
+@property (nonatomic, assign) NSButton *createNewFileButton;
+@property (nonatomic, assign) NSButton *copyFilesToButton NS_RETURNS_NOT_RETAINED;
+@property (nonatomic, assign) NSButton *commonPathToButton;
+@property (nonatomic, assign) NSButton *customIconButton;
+@property (nonatomic, assign) NSButton *otherOptionButton;
+@property (nonatomic, assign) NSButton *moreAppButton;
+@property (nonatomic, assign) NSTableView *createNewFileTableView;
+@property (nonatomic, assign) NSTableView *copyFilesToTableView NS_RETURNS_NOT_RETAINED;
+@property (nonatomic, assign) NSTableView *commonPathTableView;
+@property (nonatomic, assign) NSTableView *customIconTableView;
+@property (nonatomic, assign) NSTableView *othersTableView;
+@property (nonatomic, assign) NSButton *removeCreateNewFileViewButton;
+@property (nonatomic, assign) NSButton *removeCopyFilesToViewButton;
+@property (nonatomic, assign) NSButton *removeCommonPathViewButton;
+@property (nonatomic, assign) NSButton *removeCustomIconViewButton;
+@property (nonatomic, assign) NSButton *removeOthersViewButton;
+@property (nonatomic, assign) NSButton *restartFinderButton;
+@property (nonatomic, assign) NSButton *helpButton;
+@property (nonatomic, retain) NSTextField *tipOfkillFinder;
+
 /// Refuses to run, and ends the process, when the application was started as a login item.
-- (instancetype)initWithPlatform:(const tarnwick::Platform &)platform;
-
-/// The window's controls; retained. Set before `awakeFromNib`.
-- (void)setOutlets:(SettingsOutlets *)outlets;
-- (SettingsOutlets *)outlets;
-
-/// The name or note being edited counts as it stands, now that its window closes or the application ends.
-- (void)endEditing:(NSNotification *)notification;
-
-/// Valid for the life of the receiver.
-- (tarnwick::SettingsViewController *)controller;
-
-@end
-
-@interface SettingsViewController (Actions)
-
-- (void)createNewFilePressed:(id)sender;
-- (void)copyFilesToPressed:(id)sender;
-- (void)commonPathPressed:(id)sender;
-- (void)customIconFolder:(id)sender;
-- (void)otherOptionPressed:(id)sender;
-- (void)moreAppPressed:(id)sender;
-
-- (void)createNewFileViewClick:(id)sender;
-- (void)copyFilesToViewClick:(id)sender;
-- (void)commonPathViewClick:(id)sender;
-- (void)customIconViewClick:(id)sender;
-- (void)othersViewClick:(id)sender;
-
-- (void)addCreateNewFileRule:(id)sender;
-- (void)addSendFilesToRule:(id)sender;
-- (void)addCommonPathRule:(id)sender;
-- (void)addCustomIconRule:(id)sender;
-- (void)addOthersRule:(id)sender;
-
-- (void)removeCreateNewFileRule:(id)sender;
-- (void)removeCopyFilesToRule:(id)sender;
-- (void)removeCommondPathRule:(id)sender;
-- (void)removeCustomIconRule:(id)sender;
-- (void)removeOthersRule:(id)sender;
-
-- (void)resetCreateNewFileRule:(id)sender;
-- (void)resetCopyFilesToRule:(id)sender;
-- (void)resetCustomIconRule:(id)sender;
-- (void)resetOthersRule:(id)sender;
-
-- (void)OnOffcheckedStateChangedOfCreateNewFile:(id)sender;
-- (void)OnOffEnableMainMenuStateChangedOfCreateNewFile:(id)sender;
-- (void)OnOffcheckedStateChangedOfCopyTo:(id)sender;
-- (void)OnOffcheckedStateChangedOfCustomIcon:(id)sender;
-- (void)OnOffcheckedStateChangedOfOthers:(id)sender;
-
-- (void)enableAllOfCreateNewFilesClick:(id)sender;
-- (void)enableAllOfCustomIconClick:(id)sender;
-- (void)enableAllOfOthersClick:(id)sender;
-
-/// The sender's tag is the row whose folder is chosen.
-- (void)selectPath:(id)sender;
-/// A double click on a row's path chooses its folder.
-- (void)copyFilesToViewDoubleClick:(NSTableView *)sender;
-
-@end
-
-@interface SettingsViewController (Integration)
+- (instancetype)initWithPorts:(const tarnwick::Ports &)ports;
 
 - (void)start;
 - (void)appChanged:(NSNotification *)notification;
 
-- (BOOL)isExtensionEnabled;
-- (void)promptToEnableExtension;
-- (void)openSystemPreferences;
-- (void)restartFinderClick:(id)sender;
-- (void)restartFinder;
-- (void)initializeClick:(id)sender;
-- (void)helpServicesOfSystemPreferences:(id)sender;
-- (void)openServiceOfSystemPreferences:(id)sender;
-
-- (BOOL)checkScriptInstalled;
-- (void)doInstallScript;
-- (void)openServicesOfSystemPreferences;
-- (void)initialize;
-
-/// Nil when the output is not text.
-- (NSString *)runCommand:(NSString *)command;
-- (BOOL)_appWithBundleIdentifierInstalled:(NSString *)bundleIdentifier;
-- (void)getSystemShortcuts:(id)sender;
+/// The name or note being edited counts as it stands, now that its window closes or the application ends.
+- (void)endEditing:(NSNotification *)notification;
 
 @end
 
-/// What the menus need beyond the actions of the window.
-@interface SettingsViewController (Menus)
+@interface SettingsViewController (Outlets)
 
-/// Presses the add button of the page that is shown; the page of further apps has none.
-- (void)addRuleOfCurrentPage:(id)sender;
-/// One place up or down in the list of the page that is shown.
-- (void)moveSelectedRuleUp:(id)sender;
-- (void)moveSelectedRuleDown:(id)sender;
-/// Marks the script helper's item while the script is installed; disables what cannot be done just now.
-- (BOOL)validateMenuItem:(NSMenuItem *)item;
+- (NSTableView *)tableOf:(tarnwick::RuleCategory)category;
+- (NSButton *)removeButtonOf:(tarnwick::RuleCategory)category;
+- (void)setTable:(NSTableView *)table
+    removeButton:(NSButton *)button
+      ofCategory:(tarnwick::RuleCategory)category;
+/// The category whose table this is; nothing when it is none of them.
+- (std::optional<tarnwick::RuleCategory>)categoryOf:(id)table;
 
-@end
+- (NSButton *)buttonOf:(tarnwick::Page)page;
+- (void)setButton:(NSButton *)button ofPage:(tarnwick::Page)page;
 
-@interface SettingsViewController (Tables) <NSTableViewDataSource, NSTableViewDelegate, NSTextFieldDelegate>
 @end

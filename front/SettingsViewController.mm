@@ -2,46 +2,41 @@
 
 #import "adapters/foundation/PlistConversion.h"
 #import "adapters/foundation/StringConversion.h"
-#import "front/SettingsOutlets.h"
+#import "front/OutletWindow.h"
 
 #include "app/LoginItemRefusal.h"
-#include "platform/Platform.h"
-#include "ui/SettingsViewController.h"
+#include "platform/Ports.h"
 
 @implementation SettingsViewController
 
-- (instancetype)initWithPlatform:(const tarnwick::Platform &)platform {
+@synthesize Version = _version, tabView = _tabView;
+@synthesize createNewFileButton = _createNewFileButton, copyFilesToButton = _copyFilesToButton,
+            commonPathToButton = _commonPathToButton, customIconButton = _customIconButton,
+            otherOptionButton = _otherOptionButton, moreAppButton = _moreAppButton;
+@synthesize createNewFileTableView = _createNewFileTableView, copyFilesToTableView = _copyFilesToTableView,
+            commonPathTableView = _commonPathTableView, customIconTableView = _customIconTableView,
+            othersTableView = _othersTableView;
+@synthesize removeCreateNewFileViewButton = _removeCreateNewFileViewButton,
+            removeCopyFilesToViewButton = _removeCopyFilesToViewButton,
+            removeCommonPathViewButton = _removeCommonPathViewButton,
+            removeCustomIconViewButton = _removeCustomIconViewButton,
+            removeOthersViewButton = _removeOthersViewButton;
+@synthesize restartFinderButton = _restartFinderButton, helpButton = _helpButton,
+            tipOfkillFinder = _tipOfkillFinder;
+
+- (instancetype)initWithPorts:(const tarnwick::Ports &)ports {
     self = [super initWithNibName:nil bundle:nil];
     if (self) {
-        tarnwick::refuseLoginItemStart(platform);
-        _controller = new tarnwick::SettingsViewController(platform);
+        tarnwick::refuseLoginItemStart(ports.bundle, ports.panels, ports.process);
+        _window = std::make_unique<tarnwick::OutletWindow>(self);
+        _controller = std::make_unique<tarnwick::SettingsController>(ports, *_window);
     }
     return self;
 }
 
 - (void)dealloc {
-    delete _controller;
-    [_outlets release];
+    [_tipOfkillFinder release];
     [super dealloc];
-}
-
-- (void)setOutlets:(SettingsOutlets *)outlets {
-    [outlets retain];
-    [_outlets release];
-    _outlets = outlets;
-    _controller->connect([outlets coreOutlets]);
-}
-
-- (SettingsOutlets *)outlets {
-    return _outlets;
-}
-
-- (void)endEditing:(NSNotification *)notification {
-    _controller->endEditing();
-}
-
-- (tarnwick::SettingsViewController *)controller {
-    return _controller;
 }
 
 - (void)awakeFromNib {
@@ -53,14 +48,24 @@
     _controller->viewDidLoad();
 }
 
+- (void)start {
+    _controller->start();
+}
+
+/// Deliberately nothing: application activations are of no consequence here.
+- (void)appChanged:(NSNotification *)notification {
+}
+
+- (void)endEditing:(NSNotification *)notification {
+    _controller->endEditing();
+}
+
 - (void)observeValueForKeyPath:(NSString *)keyPath
                       ofObject:(id)object
                         change:(NSDictionary *)change
                        context:(void *)context {
-    (void)object;
-    (void)context;
     const auto value = tarnwick::toPlistValue([change objectForKey:NSKeyValueChangeNewKey]);
-    _controller->observeValue(tarnwick::toString(keyPath), value.value_or(tarnwick::PlistValue(false)));
+    _controller->switchChanged(tarnwick::toString(keyPath), value.value_or(tarnwick::PlistValue(false)));
 }
 
 @end

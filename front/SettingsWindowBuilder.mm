@@ -4,7 +4,6 @@
 #import "front/ControlMaking.h"
 #import "front/MoreAppsPage.h"
 #import "front/PageViewBuilder.h"
-#import "front/SettingsOutlets.h"
 #import "front/SettingsViewController.h"
 #import "front/SidebarBuilder.h"
 
@@ -17,15 +16,15 @@ namespace tarnwick {
 namespace {
 
 /// `neededWidth` becomes that of the page whose texts take most room, at least what it was.
-NSTabView *makePages(
-    NSRect frame, ::SettingsViewController *controller, SettingsOutlets *outlets, CGFloat &neededWidth) {
+NSTabView *makePages(NSRect frame, SettingsViewController *controller, CGFloat &neededWidth) {
     NSTabView *tabView = [[[NSTabView alloc] initWithFrame:frame] autorelease];
     [tabView setTabViewType:NSNoTabsNoBorder];
     [tabView setAutoresizingMask:NSViewWidthSizable | NSViewHeightSizable];
-    for (const auto &layout : pageLayouts()) {
+    for (const auto page : allPages) {
+        const auto &layout = layoutOf(page);
         NSTabViewItem *item =
             [[[NSTabViewItem alloc] initWithIdentifier:toNSString(layout.title)] autorelease];
-        [item setView:layout.category ? makeRulePage(layout, frame.size, controller, outlets, neededWidth)
+        [item setView:layout.category ? makeRulePage(layout, frame.size, controller, neededWidth)
                                       : makeMoreAppsPage(layout, frame.size, controller)];
         [tabView addTabViewItem:item];
     }
@@ -42,7 +41,7 @@ NSView *makeSeparator(CGFloat height) {
 
 } // namespace
 
-NSWindow *newSettingsWindow(::SettingsViewController *controller) {
+NSWindow *newSettingsWindow(SettingsViewController *controller) {
     const NSRect frame = NSMakeRect(0, 0, windowWidth, windowHeight);
     NSWindow *window =
         [[NSWindow alloc] initWithContentRect:frame
@@ -53,17 +52,16 @@ NSWindow *newSettingsWindow(::SettingsViewController *controller) {
     [window setReleasedWhenClosed:NO];
     [window setTitle:localizedText("Tarnwick")];
 
-    SettingsOutlets *outlets = [[[SettingsOutlets alloc] init] autorelease];
     NSView *content = [[[NSView alloc] initWithFrame:frame] autorelease];
     [content setWantsLayer:YES];
-    [content addSubview:makeSidebar(windowHeight, controller, outlets)];
+    [content addSubview:makeSidebar(windowHeight, controller)];
     [content addSubview:makeSeparator(windowHeight)];
     const CGFloat pagesLeft = sidebarWidth + 1;
     CGFloat pagesWidth = windowMinimumWidth - pagesLeft;
-    NSTabView *pages = makePages(
-        NSMakeRect(pagesLeft, 0, windowWidth - pagesLeft, windowHeight), controller, outlets, pagesWidth);
+    NSTabView *pages =
+        makePages(NSMakeRect(pagesLeft, 0, windowWidth - pagesLeft, windowHeight), controller, pagesWidth);
     [content addSubview:pages];
-    [outlets setTabView:pages];
+    [controller setTabView:pages];
 
     [window setContentView:content];
     // Some languages need more room than others.
@@ -71,7 +69,6 @@ NSWindow *newSettingsWindow(::SettingsViewController *controller) {
     [window setContentMinSize:NSMakeSize(minimumWidth, windowMinimumHeight)];
     [window setContentSize:NSMakeSize(std::max<CGFloat>(windowWidth, minimumWidth), windowHeight)];
     [controller setView:content];
-    [controller setOutlets:outlets];
     [window center];
     [window setFrameAutosaveName:@"Settings"];
     return window;

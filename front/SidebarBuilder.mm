@@ -1,8 +1,8 @@
 #import "front/SidebarBuilder.h"
 
 #import "front/ControlMaking.h"
-#import "front/SettingsOutlets.h"
-#import "front/SettingsViewController.h"
+#import "front/Selectors.h"
+#import "front/SettingsViewController+Actions.h"
 
 #include "ui/WindowLayout.h"
 
@@ -30,24 +30,6 @@ constexpr CGFloat pageButtonPitch = 40;
 constexpr CGFloat iconSize = 20;
 constexpr CGFloat iconPadding = 8;
 
-SEL selectorOf(Page page) {
-    switch (page) {
-    case Page::createNewFile:
-        return @selector(createNewFilePressed:);
-    case Page::copyFilesTo:
-        return @selector(copyFilesToPressed:);
-    case Page::commonPath:
-        return @selector(commonPathPressed:);
-    case Page::customIcon:
-        return @selector(customIconFolder:);
-    case Page::others:
-        return @selector(otherOptionPressed:);
-    case Page::moreApps:
-        break;
-    }
-    return @selector(moreAppPressed:);
-}
-
 /// The icon with room at its sides: a borderless button has none of its own.
 NSImage *paddedIcon(NSImage *icon) {
     NSImage *padded =
@@ -61,7 +43,8 @@ NSImage *paddedIcon(NSImage *icon) {
     return padded;
 }
 
-NSButton *makePageButton(const PageLayout &layout, ::SettingsViewController *controller) {
+NSButton *makePageButton(Page page, SettingsViewController *controller) {
+    const auto &layout = layoutOf(page);
     NSButton *button = [[[NSButton alloc] init] autorelease];
     [button setBordered:NO];
     [button setWantsLayer:YES];
@@ -71,7 +54,7 @@ NSButton *makePageButton(const PageLayout &layout, ::SettingsViewController *con
     [button setImage:paddedIcon(resourceImage(layout.image))];
     [button setImagePosition:NSImageLeft];
     [button setTarget:controller];
-    [button setAction:selectorOf(layout.page)];
+    [button setAction:actionOf(page)];
     [button setToolTip:localizedText(layout.explanation)];
     return button;
 }
@@ -86,42 +69,39 @@ CGFloat addAtFoot(NSView *sidebar, NSView *view, CGFloat bottom, CGFloat height)
 
 } // namespace
 
-NSView *makeSidebar(CGFloat height, ::SettingsViewController *controller, SettingsOutlets *outlets) {
-    NSView *sidebar =
-        [[[SidebarView alloc] initWithFrame:NSMakeRect(0, 0, sidebarWidth, height)] autorelease];
-    [sidebar setAutoresizingMask:NSViewHeightSizable];
+NSView *makeSidebar(CGFloat height, SettingsViewController *controller) {
+    NSView *column = [[[SidebarView alloc] initWithFrame:NSMakeRect(0, 0, sidebarWidth, height)] autorelease];
+    [column setAutoresizingMask:NSViewHeightSizable];
 
     CGFloat top = height - topMargin;
-    for (const auto &layout : pageLayouts()) {
-        NSButton *button = makePageButton(layout, controller);
+    for (const auto page : allPages) {
+        NSButton *button = makePageButton(page, controller);
         [button setFrame:NSMakeRect(inset, top - pageButtonHeight, innerWidth, pageButtonHeight)];
         [button setAutoresizingMask:NSViewMinYMargin];
-        [sidebar addSubview:button];
-        [outlets addPageButton:button];
+        [column addSubview:button];
+        [controller setButton:button ofPage:page];
         top -= pageButtonPitch;
     }
 
     NSFont *smallFont = [NSFont systemFontOfSize:11];
     NSTextField *version = makeLabel(@"", smallFont, secondaryTextColor());
     [version setAlignment:NSTextAlignmentCenter];
-    NSButton *help = makePushButton(localizedText("Help"), controller, @selector(initializeClick:));
-    NSTextField *tip =
-        makeLabel(localizedText("Does the menu not show a change? Restarting the Finder helps."), smallFont,
-            secondaryTextColor(), true);
+    NSButton *help = makePushButton(localizedText(sidebar::help), controller, @selector(initializeClick:));
+    NSTextField *tip = makeLabel(localizedText(sidebar::tip), smallFont, secondaryTextColor(), true);
     [tip setAlignment:NSTextAlignmentCenter];
     NSButton *restart =
-        makePushButton(localizedText("Restart Finder"), controller, @selector(restartFinderClick:));
+        makePushButton(localizedText(sidebar::restart), controller, @selector(restartFinderClick:));
 
-    CGFloat bottom = addAtFoot(sidebar, version, 14, 16);
-    bottom = addAtFoot(sidebar, help, bottom + 8, 28);
-    bottom = addAtFoot(sidebar, restart, bottom + 6, 28);
-    addAtFoot(sidebar, tip, bottom + 6, 44);
+    CGFloat bottom = addAtFoot(column, version, 14, 16);
+    bottom = addAtFoot(column, help, bottom + 8, 28);
+    bottom = addAtFoot(column, restart, bottom + 6, 28);
+    addAtFoot(column, tip, bottom + 6, 44);
 
-    [outlets setVersion:version];
-    [outlets setHelpButton:help];
-    [outlets setRestartFinderButton:restart];
-    [outlets setTipOfkillFinder:tip];
-    return sidebar;
+    [controller setVersion:version];
+    [controller setHelpButton:help];
+    [controller setRestartFinderButton:restart];
+    [controller setTipOfkillFinder:tip];
+    return column;
 }
 
 } // namespace tarnwick

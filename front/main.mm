@@ -1,6 +1,6 @@
 #import "front/MainInterface.h"
 
-#include "platform/SystemServices.h"
+#include "adapters/foundation/SystemAdapters.h"
 
 int main(int argc, char *argv[]) {
     @autoreleasepool {

@@ -1,10 +1,10 @@
 #include "integration/FinderExtension.h"
 
 #include "integration/Links.h"
-#include "platform/Alerts.h"
 #include "platform/FinderSync.h"
+#include "platform/Panels.h"
+#include "platform/Process.h"
 #include "platform/RunLoop.h"
-#include "platform/SystemVersion.h"
 #include "platform/Workspace.h"
 #include "prefs/LocalPreferences.h"
 #include "prefs/PreferenceKeys.h"
@@ -13,14 +13,14 @@ namespace tarnwick {
 namespace {
 
 /// The first system that lets an application ask about its extension and show where to enable it.
-bool hasManagementInterface(const SystemVersion& version) {
-    return version.isAtLeast(10, 14, 0);
+bool hasManagementInterface(const Process& process) {
+    return process.isSystemAtLeast(10, 14, 0);
 }
 
 } // namespace
 
 bool FinderExtension::isExtensionEnabled() const {
-    return !hasManagementInterface(platform_.systemVersion) || platform_.finderSync.isExtensionEnabled();
+    return !hasManagementInterface(process_) || finderSync_.isExtensionEnabled();
 }
 
 void FinderExtension::promptToEnableExtension() {
@@ -28,16 +28,16 @@ void FinderExtension::promptToEnableExtension() {
     const AlertRequest request{.messageText = "Enable Extension",
         .informativeText = "The Tarnwick Finder extension must be enabled in System Preferences",
         .buttons = {"Open System Preferences"}};
-    if (platform_.alerts.runModal(request) == alertFirstButton) {
+    if (panels_.runAlert(request) == alertFirstButton) {
         openSystemPreferences();
     }
 }
 
 void FinderExtension::openSystemPreferences() {
-    if (hasManagementInterface(platform_.systemVersion)) {
-        platform_.finderSync.showExtensionManagementInterface();
+    if (hasManagementInterface(process_)) {
+        finderSync_.showExtensionManagementInterface();
     } else {
-        platform_.workspace.openURL(link::systemPreferences);
+        workspace_.openURL(link::systemPreferences);
     }
 }
 
@@ -46,7 +46,7 @@ void FinderExtension::checkAtStart() {
         return;
     }
     // Deferred, so that the window is on screen before the alert blocks it.
-    platform_.runLoop.performOnMainQueue([this] {
+    runLoop_.performOnMainQueue([this] {
         promptToEnableExtension();
         local_.set(key::shownEnableExtensionAlert, true);
     });

@@ -1,15 +1,21 @@
 #pragma once
 
-#include "platform/Platform.h"
-
 namespace tarnwick {
 
+class FinderSync;
 class LocalPreferences;
+class Panels;
+class Process;
+class RunLoop;
+class Workspace;
 
 /// The application's dealings with its Finder extension.
 class FinderExtension {
 public:
-    FinderExtension(const Platform& platform, LocalPreferences& local) : platform_(platform), local_(local) {}
+    FinderExtension(FinderSync& finderSync, Workspace& workspace, Panels& panels, const Process& process,
+        RunLoop& runLoop, LocalPreferences& local)
+        : finderSync_(finderSync), workspace_(workspace), panels_(panels), process_(process),
+          runLoop_(runLoop), local_(local) {}
 
     /// Before macOS 10.14 true without asking.
     [[nodiscard]] bool isExtensionEnabled() const;
@@ -23,7 +29,11 @@ public:
     void checkAtStart();
 
 private:
-    Platform platform_;
+    FinderSync& finderSync_;
+    Workspace& workspace_;
+    Panels& panels_;
+    const Process& process_;
+    RunLoop& runLoop_;
     LocalPreferences& local_;
 };
 

@@ -6,10 +6,10 @@
 
 namespace tarnwick {
 
-void requestFinderRestart(PreferenceStores& stores, DistributedNotifications& notifications) {
-    SharedPreferences shared(stores);
+void RestartRequest::send() {
+    SharedPreferences shared(stores_);
     shared.set(key::askAction, PlistDictionary{{"ActionType", "restartFinder"}});
-    notifications.post(key::askAction, deliverImmediately | postToAllSessions);
+    notifications_.post(key::askAction, deliverImmediately | postToAllSessions);
 }
 
 } // namespace tarnwick

@@ -1,10 +1,9 @@
 #include "integration/ScriptHelper.h"
 
-#include "platform/Alerts.h"
 #include "platform/ApplicationBundle.h"
 #include "platform/FileManager.h"
 #include "platform/KnownFolders.h"
-#include "platform/OpenPanel.h"
+#include "platform/Panels.h"
 #include "platform/RunLoop.h"
 #include "platform/SystemLog.h"
 
@@ -42,18 +41,18 @@ void logFailure(SystemLog& log, std::string_view what, const std::string& error)
 } // namespace
 
 bool ScriptHelper::checkScriptInstalled() {
-    const auto folder = platform_.folders.applicationScripts().path;
-    return folder && platform_.files.exists(scriptIn(*folder));
+    const auto folder = folders_.applicationScripts().path;
+    return folder && files_.exists(scriptIn(*folder));
 }
 
 void ScriptHelper::doInstallScript() {
-    const auto folder = platform_.folders.applicationScripts().path;
+    const auto folder = folders_.applicationScripts().path;
     OpenPanelRequest request;
     request.canChooseDirectories = true;
     request.canChooseFiles = false;
     request.startFolder = folder;
-    request.prompt = platform_.bundle.localized("OK");
-    platform_.openPanel.begin(request, [this, folder](const OpenPanelAnswer& answer) {
+    request.prompt = bundle_.localized("OK");
+    panels_.choose(request, [this, folder](const OpenPanelAnswer& answer) {
         // Confirming the very folder is what grants the right to write there.
         if (answer.confirmed && folder && !answer.paths.empty() && answer.paths.front() == *folder) {
             installInto(*folder);
@@ -63,10 +62,10 @@ void ScriptHelper::doInstallScript() {
 
 void ScriptHelper::installInto(const std::string& folder) {
     const auto target = scriptIn(folder);
-    const auto source = scriptIn(platform_.bundle.resourceFolder());
-    platform_.log.write(source);
+    const auto source = scriptIn(bundle_.resourceFolder());
+    log_.write(source);
     // An installed script is never overwritten, and a failed copy is not reported.
-    if (platform_.files.exists(target) || !platform_.files.copy(source, target)) {
+    if (files_.exists(target) || !files_.copy(source, target)) {
         return;
     }
     if (pendingFollowUp_ == "restartFinder") {
@@ -77,14 +76,14 @@ void ScriptHelper::installInto(const std::string& folder) {
 }
 
 std::unique_ptr<UserScriptTask> ScriptHelper::repairScriptTask() {
-    const auto folder = platform_.folders.applicationScripts();
+    const auto folder = folders_.applicationScripts();
     if (!folder.path) {
-        logFailure(platform_.log, "no Application Scripts folder", folder.error);
+        logFailure(log_, "no Application Scripts folder", folder.error);
         return nullptr;
     }
-    auto result = platform_.userScripts.makeTask(scriptIn(*folder.path));
+    auto result = userScripts_.makeTask(scriptIn(*folder.path));
     if (!result.task) {
-        logFailure(platform_.log, "no AppleScript task", result.error);
+        logFailure(log_, "no AppleScript task", result.error);
     }
     return std::move(result.task);
 }
@@ -96,18 +95,17 @@ void ScriptHelper::call(std::string_view handlerName) {
 }
 
 void ScriptHelper::openServicesOfSystemPreferences() {
-    platform_.runLoop.performOnMainQueue([this] { call(handler::openServices); });
+    runLoop_.performOnMainQueue([this] { call(handler::openServices); });
 }
 
 void ScriptHelper::initialize() {
-    const auto& bundle = platform_.bundle;
-    const AlertRequest request{.messageText = bundle.localized("Warning"),
+    const AlertRequest request{.messageText = bundle_.localized("Warning"),
         .informativeText =
-            bundle.localized("All setting parameters will be deleted !\n\nIf it is still abnormal "
-                             "after initialization, delete all Tarnwick on the computer, restart "
-                             "the computer, go to the App Store to download, install."),
-        .buttons = {bundle.localized("OK"), bundle.localized("Cancel")}};
-    if (platform_.alerts.runModal(request) == alertFirstButton) {
+            bundle_.localized("All setting parameters will be deleted !\n\nIf it is still abnormal "
+                              "after initialization, delete all Tarnwick on the computer, restart "
+                              "the computer, go to the App Store to download, install."),
+        .buttons = {bundle_.localized("OK"), bundle_.localized("Cancel")}};
+    if (panels_.runAlert(request) == alertFirstButton) {
         call(handler::initialize);
     }
 }

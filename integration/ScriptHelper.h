@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/Platform.h"
 #include "platform/UserScript.h"
 
 #include <memory>
@@ -8,6 +7,13 @@
 #include <string_view>
 
 namespace tarnwick {
+
+class ApplicationBundle;
+class FileManager;
+class KnownFolders;
+class Panels;
+class RunLoop;
+class SystemLog;
 
 /// The handlers that the user script defines, without parameters.
 namespace handler {
@@ -20,7 +26,10 @@ inline constexpr std::string_view initialize = "initialize";
 /// folder, copied there from the resources once the user has confirmed that folder.
 class ScriptHelper {
 public:
-    explicit ScriptHelper(const Platform& platform) : platform_(platform) {}
+    ScriptHelper(UserScripts& userScripts, FileManager& files, KnownFolders& folders,
+        const ApplicationBundle& bundle, Panels& panels, RunLoop& runLoop, SystemLog& log)
+        : userScripts_(userScripts), files_(files), folders_(folders), bundle_(bundle), panels_(panels),
+          runLoop_(runLoop), log_(log) {}
 
     [[nodiscard]] bool checkScriptInstalled();
     /// Opens a folder chooser on the script folder and returns. Confirming exactly that folder copies the
@@ -40,7 +49,13 @@ public:
 private:
     void installInto(const std::string& folder);
 
-    Platform platform_;
+    UserScripts& userScripts_;
+    FileManager& files_;
+    KnownFolders& folders_;
+    const ApplicationBundle& bundle_;
+    Panels& panels_;
+    RunLoop& runLoop_;
+    SystemLog& log_;
     /// What runs after an installation: "restartFinder", "setTextServices" or nothing. Nothing sets it.
     std::string pendingFollowUp_;
 };

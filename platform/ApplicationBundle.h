@@ -17,6 +17,8 @@ public:
     [[nodiscard]] virtual std::string plugInsFolder() const = 0;
     /// The version that a user is shown.
     [[nodiscard]] virtual std::string shortVersion() const = 0;
+    /// Whether it is one of the applications that start with the user's session.
+    [[nodiscard]] virtual bool isLoginItem() const = 0;
 };
 
 } // namespace tarnwick

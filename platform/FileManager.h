@@ -1,5 +1,8 @@
 #pragma once
 
+#include "values/PlistValue.h"
+
+#include <optional>
 #include <string>
 
 namespace tarnwick {
@@ -15,9 +18,12 @@ public:
     virtual bool remove(const std::string& path) = 0;
     /// Creates a folder and the folders above it; an existing folder is a success.
     virtual bool createFolder(const std::string& path) = 0;
-    /// Neither copying nor moving ever overwrites: an existing destination is a failure.
+    /// A file, or a folder with all its contents. Neither copying nor moving ever overwrites: an existing
+    /// destination is a failure.
     virtual bool copy(const std::string& from, const std::string& to) = 0;
     virtual bool move(const std::string& from, const std::string& to) = 0;
+    /// The value in a property-list file of any format; nothing when it cannot be read or is malformed.
+    [[nodiscard]] virtual std::optional<PlistValue> propertyList(const std::string& path) const = 0;
 };
 
 } // namespace tarnwick

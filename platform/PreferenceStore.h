@@ -30,9 +30,6 @@ public:
     [[nodiscard]] virtual std::unique_ptr<PreferenceStore> openStandardDomain() = 0;
     /// A new handle on a named suite.
     [[nodiscard]] virtual std::unique_ptr<PreferenceStore> openSuite(std::string_view name) = 0;
-    /// From now on a change of `key` in the standard domain reaches the settings controller's
-    /// `observeValue` with the new value, on the thread that made the change.
-    virtual void observeStandardKey(std::string_view key) = 0;
     /// A string of the standard domain or of the system-wide domain behind it; nothing when absent.
     [[nodiscard]] virtual std::optional<std::string> systemWideString(std::string_view key) const = 0;
 };

@@ -1,15 +1,13 @@
 #include "prefs/FactoryLists.h"
 
-#include "platform/ApplicationBundle.h"
-#include "platform/FileManager.h"
 #include "platform/Images.h"
 #include "platform/SystemLog.h"
-#include "prefs/GroupContainer.h"
 #include "prefs/HomeFolder.h"
 #include "prefs/LocalPreferences.h"
 #include "prefs/RecordLayouts.h"
 #include "prefs/RuleList.h"
 #include "prefs/RulePublisher.h"
+#include "prefs/TemplateFiles.h"
 
 #include <algorithm>
 #include <string>
@@ -17,7 +15,7 @@
 namespace tarnwick {
 namespace {
 
-std::vector<RuleRecord> templateRecords() {
+std::vector<RuleRecord> buildTemplates() {
     std::vector<RuleRecord> records;
     records.reserve(factoryTemplates.size());
     for (const auto& row : factoryTemplates) {
@@ -29,84 +27,78 @@ std::vector<RuleRecord> templateRecords() {
 
 } // namespace
 
-void FactoryLists::resetArrOfCreateNewFile() {
-    templateFiles_.noteLayout();
-    commit(RuleCategory::createNewFile, templateRecords());
-    publisher_.saveData(
-        lists_[RuleCategory::createNewFile].toPlist(), factsOf(RuleCategory::createNewFile).listKey);
-    layOutTemplates();
-    templateFiles_.forgetLayout();
-}
-
-void FactoryLists::finishTemplateFiles() {
-    const auto& stored = lists_[RuleCategory::createNewFile];
-    if (templateFiles_.isLayoutPending()) {
-        const auto factory = templateRecords();
-        // Any other list has files of its own that the layout would remove.
-        if (std::equal(stored.begin(), stored.end(), factory.begin(), factory.end())) {
-            platform_.log.write("the template folder is laid out again after an interruption");
-            layOutTemplates();
-        }
-    }
-    templateFiles_.finish(stored);
-}
-
-void FactoryLists::layOutTemplates() {
-    const auto folder = GroupContainer(platform_.folders).templateFolder();
-    if (!folder) {
-        platform_.log.write("no group container: the template folder is not laid out");
+void FactoryLists::reset(RuleCategory category) {
+    auto records = build(category);
+    if (!records) {
         return;
     }
-    if (platform_.files.exists(*folder)) {
-        platform_.files.remove(*folder);
+    auto& list = lists_[category];
+    const auto hasFiles = factsOf(category).hasTemplateFiles;
+    const auto files = hasFiles ? TemplateWork(TemplatesLaidOut()) : TemplateWork();
+    templateFiles_.begin(files);
+    list.assign(*std::move(records));
+    local_.storeAndSynchronize(list);
+    if (hasFiles) {
+        // Whole, on purpose.
+        publisher_.saveData(list.toPlist(), factsOf(category).listKey);
     }
-    platform_.files.createFolder(*folder);
-    const auto resources = platform_.bundle.resourceFolder();
-    std::size_t leftOut = 0;
-    // A file that cannot be copied is left out; its record stays.
-    const auto copy = [&](const std::string& file) {
-        leftOut += platform_.files.copy(resources + file, *folder + file) ? 0 : 1;
-    };
-    for (const auto& record : lists_[RuleCategory::createNewFile]) {
-        copy("/" + templateFileName(record));
-        copy(std::string("/").append(record.text(field::extension)).append(".png"));
-    }
-    if (leftOut > 0) {
-        platform_.log.write("template files and icons that could not be copied: " + std::to_string(leftOut));
-    }
+    templateFiles_.finish(files, list);
 }
 
-void FactoryLists::resetArrOfCopyFilesTo() {
+void FactoryLists::recoverTemplateFiles() {
+    templateFiles_.recover(lists_[RuleCategory::createNewFile], [](const RuleList& stored) {
+        const auto factory = buildTemplates();
+        return std::equal(stored.begin(), stored.end(), factory.begin(), factory.end());
+    });
+}
+
+std::optional<std::vector<RuleRecord>> FactoryLists::build(RuleCategory category) {
+    switch (category) {
+    case RuleCategory::createNewFile:
+        return buildTemplates();
+    case RuleCategory::copyFilesTo:
+        return buildTargets();
+    case RuleCategory::commonPath:
+        return std::nullopt;
+    case RuleCategory::customIcon:
+        return buildIcons();
+    case RuleCategory::others:
+        return buildOthers();
+    }
+    return std::nullopt;
+}
+
+std::vector<RuleRecord> FactoryLists::buildTargets() const {
     std::vector<RuleRecord> records;
     records.reserve(factoryTargets.size());
     for (const auto& name : factoryTargets) {
-        records.push_back(makeFolderRecord(homeSubfolder(platform_.folders, name), ""));
+        records.push_back(makeFolderRecord(homeSubfolder(folders_, name), ""));
     }
-    commit(RuleCategory::copyFilesTo, std::move(records));
+    return records;
 }
 
-void FactoryLists::resetArrOfCustomIcon() {
+std::optional<std::vector<RuleRecord>> FactoryLists::buildIcons() {
     std::vector<RuleRecord> records;
     for (const auto& name : factoryIcons) {
         auto icon = imageData(name);
         if (icon.empty()) {
-            return;
+            return std::nullopt;
         }
         records.push_back(makeIconRecord(std::move(icon), name, RecordOrigin::factory));
     }
-    commit(RuleCategory::customIcon, std::move(records));
+    return records;
 }
 
-void FactoryLists::resetArrOfOthers() {
+std::optional<std::vector<RuleRecord>> FactoryLists::buildOthers() {
     std::vector<RuleRecord> records;
     for (const auto& row : factoryActions) {
         auto record = makeOthersRecord(row);
         if (!record) {
-            return;
+            return std::nullopt;
         }
         records.push_back(*std::move(record));
     }
-    commit(RuleCategory::others, std::move(records));
+    return records;
 }
 
 std::optional<RuleRecord> FactoryLists::makeOthersRecord(const FactoryAction& row) {
@@ -117,16 +109,11 @@ std::optional<RuleRecord> FactoryLists::makeOthersRecord(const FactoryAction& ro
     return makeActionRecord(std::move(icon), row.action, row.note);
 }
 
-void FactoryLists::commit(RuleCategory category, std::vector<RuleRecord> records) {
-    lists_[category].assign(std::move(records));
-    local_.storeAndSynchronize(lists_[category]);
-}
-
 PlistData FactoryLists::imageData(std::string_view name) {
-    const auto image = platform_.images.named(name);
+    const auto image = images_.named(name);
     auto data = image ? image->tiff() : PlistData();
     if (data.empty()) {
-        platform_.log.write(std::string("the application's image \"").append(name).append("\" is missing"));
+        log_.write(std::string("the application's image \"").append(name).append("\" is missing"));
     }
     return data;
 }

@@ -1,10 +1,8 @@
 #pragma once
 
-#include "platform/Platform.h"
 #include "prefs/FactoryTables.h"
 #include "prefs/RuleCategory.h"
 #include "prefs/RuleRecord.h"
-#include "prefs/TemplateFiles.h"
 
 #include <optional>
 #include <string_view>
@@ -12,43 +10,48 @@
 
 namespace tarnwick {
 
+class Images;
+class KnownFolders;
 class LocalPreferences;
 class RuleLists;
 class RulePublisher;
+class SystemLog;
+class TemplateFiles;
 
-/// Puts a list back to its factory state, in memory and in `LocalPreferences`. The caller publishes the
-/// enabled records and reloads the table. A list that cannot be built, because an image of the
-/// application's resources is missing, is left as it was, in memory and in the store, with a log line.
+/// Puts a list back to its factory state.
 class FactoryLists {
 public:
-    FactoryLists(
-        const Platform& platform, LocalPreferences& local, RuleLists& lists, RulePublisher& publisher)
-        : platform_(platform), local_(local), lists_(lists), publisher_(publisher),
-          templateFiles_(platform, local) {}
+    FactoryLists(Images& images, const KnownFolders& folders, SystemLog& log, LocalPreferences& local,
+        RuleLists& lists, RulePublisher& publisher, TemplateFiles& templateFiles)
+        : images_(images), folders_(folders), log_(log), local_(local), lists_(lists), publisher_(publisher),
+          templateFiles_(templateFiles) {}
 
-    /// Stores and synchronises the fifteen templates, publishes them whole, disabled ones included, then
-    /// removes the template folder and lays it out anew. Files that cannot be copied are left out.
-    void resetArrOfCreateNewFile();
-    /// At a start, once the templates are loaded: lays the folder out again when a reset was interrupted, and
-    /// finishes any other change of template files that was.
-    void finishTemplateFiles();
-    void resetArrOfCopyFilesTo();
-    void resetArrOfCustomIcon();
-    void resetArrOfOthers();
+    /// Order: list, store, synchronise; for CreateNewFile then the publication of the whole list, disabled
+    /// records included, and the template folder, removed and laid out anew. The caller publishes the enabled
+    /// records and reloads the table. A category without factory list is left alone; a list that cannot be
+    /// built, because an image of the application's resources is missing, stays as it was, with a log line.
+    void reset(RuleCategory category);
+
+    /// At a start, once the templates are loaded: finishes a change of template files that was interrupted.
+    void recoverTemplateFiles();
 
     /// One factory record of the Others list; nothing, with a log line, when its image is missing.
     [[nodiscard]] std::optional<RuleRecord> makeOthersRecord(const FactoryAction& row);
 
 private:
-    void layOutTemplates();
-    void commit(RuleCategory category, std::vector<RuleRecord> records);
+    [[nodiscard]] std::optional<std::vector<RuleRecord>> build(RuleCategory category);
+    [[nodiscard]] std::vector<RuleRecord> buildTargets() const;
+    [[nodiscard]] std::optional<std::vector<RuleRecord>> buildIcons();
+    [[nodiscard]] std::optional<std::vector<RuleRecord>> buildOthers();
     [[nodiscard]] PlistData imageData(std::string_view name);
 
-    Platform platform_;
+    Images& images_;
+    const KnownFolders& folders_;
+    SystemLog& log_;
     LocalPreferences& local_;
     RuleLists& lists_;
     RulePublisher& publisher_;
-    TemplateFiles templateFiles_;
+    TemplateFiles& templateFiles_;
 };
 
 } // namespace tarnwick

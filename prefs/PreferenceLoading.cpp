@@ -1,11 +1,11 @@
 #include "prefs/PreferenceLoading.h"
 
-#include "platform/ApplicationBundle.h"
 #include "platform/FileManager.h"
 #include "platform/PreferenceStore.h"
 #include "platform/SystemLog.h"
 #include "prefs/FactoryLists.h"
 #include "prefs/GroupContainer.h"
+#include "prefs/IconFolders.h"
 #include "prefs/LocalPreferences.h"
 #include "prefs/PreferenceKeys.h"
 #include "prefs/RuleList.h"
@@ -17,39 +17,18 @@
 #include <array>
 
 namespace tarnwick {
-namespace {
-
-constexpr std::array<std::string_view, 5> functionIconNames{
-    "createNewFile", "copyFilesTo", "moveFilesTo", "commonPath", "customIcon"};
-
-constexpr std::array<std::string_view, 14> othersIconNames{"Hidden Selected Files",
-    "Hidden All Files in Path", "Nohidden Selected Files", "Nohidden All Files in Path", "Open in iTerm2",
-    "Delete directly", "Open in Terminal", "Paste", "Copy Path", "Cut", "Image to Icon", "VSCode",
-    "Sublime Text", "Emacs"};
-
-} // namespace
 
 void PreferenceLoading::prepareStoresAndFolders() {
-    SharedPreferences shared(platform_.preferences);
-    local_.open(platform_.preferences);
-    keepUnreadableOriginals(local_, platform_.log);
-    keepUnreadableFeatures(shared, local_, platform_.log);
+    SharedPreferences shared(stores_);
+    local_.open(stores_);
+    keepUnreadableOriginals(local_, log_);
+    keepUnreadableFeatures(shared, local_, log_);
     seedSwitches(shared);
     if (!local_.containsArray(factsOf(RuleCategory::copyFilesTo).listKey)) {
         buildFeatureArray();
     }
-    const GroupContainer container(platform_.folders);
-    ensureTemplates(container.templateFolder());
-    std::size_t leftOut = 0;
-    if (const auto folder = container.functionIconFolder()) {
-        leftOut += rebuildIconFolder(*folder, functionIconNames);
-    }
-    if (const auto folder = container.othersIconFolder()) {
-        leftOut += rebuildIconFolder(*folder, othersIconNames);
-    }
-    if (leftOut > 0) {
-        platform_.log.write("icons for the extension that could not be copied: " + std::to_string(leftOut));
-    }
+    ensureTemplates();
+    icons_.rebuild();
 }
 
 void PreferenceLoading::seedSwitches(SharedPreferences& shared) {
@@ -73,52 +52,29 @@ void PreferenceLoading::buildFeatureArray() {
     publisher_.saveData(PlistValue(std::move(features)), key::enabledFeatures);
 }
 
-void PreferenceLoading::ensureTemplates(const std::optional<std::string>& folder) {
-    if (folder && platform_.files.exists(*folder)) {
+void PreferenceLoading::ensureTemplates() {
+    const auto folder = GroupContainer(folders_).templateFolder();
+    if (folder && files_.exists(*folder)) {
         return;
     }
     if (!folder && local_.containsArray(factsOf(RuleCategory::createNewFile).listKey)) {
         // Without a container there is nothing to repair, and the stored list must not be lost for it.
-        platform_.log.write("no group container: the stored templates stay without files");
+        log_.write("no group container: the stored templates stay without files");
         return;
     }
-    factory_.resetArrOfCreateNewFile();
-}
-
-std::size_t PreferenceLoading::rebuildIconFolder(
-    const std::string& folder, std::span<const std::string_view> names) {
-    if (platform_.files.exists(folder)) {
-        platform_.files.remove(folder);
-    }
-    platform_.files.createFolder(folder);
-    const auto resources = platform_.bundle.resourceFolder();
-    std::size_t copied = 0;
-    for (const auto& name : names) {
-        if (platform_.files.exists(resources)) {
-            // An icon that the resources lack is left out.
-            const auto file = std::string("/").append(name).append(".png");
-            copied += platform_.files.copy(resources + file, folder + file) ? 1 : 0;
-        }
-    }
-    return names.size() - copied;
+    factory_.reset(RuleCategory::createNewFile);
 }
 
 void PreferenceLoading::loadLists() {
     load(RuleCategory::copyFilesTo);
     load(RuleCategory::commonPath);
     load(RuleCategory::createNewFile);
-    factory_.finishTemplateFiles();
+    factory_.recoverTemplateFiles();
     if (!local_.contains(key::imageToIcon)) {
         addImageToIconFeature();
     }
     load(RuleCategory::customIcon);
-    if (lists_[RuleCategory::customIcon].empty()) {
-        factory_.resetArrOfCustomIcon();
-    }
     load(RuleCategory::others);
-    if (lists_[RuleCategory::others].empty()) {
-        factory_.resetArrOfOthers();
-    }
     addMissingEditors();
 }
 
@@ -134,10 +90,13 @@ void PreferenceLoading::load(RuleCategory category) {
         }
     }
     lists_[category].assign(std::move(records));
+    if (factsOf(category).isNeverEmpty && lists_[category].empty()) {
+        factory_.reset(category);
+    }
 }
 
 void PreferenceLoading::addImageToIconFeature() {
-    const auto stored = SharedPreferences(platform_.preferences).value(key::enabledFeatures);
+    const auto stored = SharedPreferences(stores_).value(key::enabledFeatures);
     const auto* published = stored ? stored->array() : nullptr;
     auto features = published ? *published : PlistArray();
     local_.set(key::imageToIcon, true);
@@ -162,12 +121,6 @@ void PreferenceLoading::addMissingEditors() {
             // Past the end of a short list it is appended.
             others.insert(index, *std::move(record));
         }
-    }
-}
-
-void PreferenceLoading::observeMirroredKeys() {
-    for (const auto& key : mirroredKeys) {
-        platform_.preferences.observeStandardKey(key);
     }
 }
 

@@ -1,29 +1,29 @@
 #pragma once
 
-#include "platform/Platform.h"
 #include "prefs/RuleCategory.h"
-
-#include <cstddef>
-#include <optional>
-#include <span>
-#include <string>
-#include <string_view>
 
 namespace tarnwick {
 
 class FactoryLists;
+class FileManager;
+class IconFolders;
+class KnownFolders;
 class LocalPreferences;
+class PreferenceStores;
 class RuleLists;
 class RulePublisher;
 class SharedPreferences;
+class SystemLog;
 
 /// Brings the preferences into a usable state each time the window is loaded, before any page is shown. No
 /// step reports an error to the user.
 class PreferenceLoading {
 public:
-    PreferenceLoading(const Platform& platform, LocalPreferences& local, RuleLists& lists,
-        RulePublisher& publisher, FactoryLists& factory)
-        : platform_(platform), local_(local), lists_(lists), publisher_(publisher), factory_(factory) {}
+    PreferenceLoading(PreferenceStores& stores, FileManager& files, const KnownFolders& folders,
+        SystemLog& log, LocalPreferences& local, RuleLists& lists, RulePublisher& publisher,
+        FactoryLists& factory, IconFolders& icons)
+        : stores_(stores), files_(files), folders_(folders), log_(log), local_(local), lists_(lists),
+          publisher_(publisher), factory_(factory), icons_(icons) {}
 
     /// Opens both stores, keeps unreadable originals aside, seeds the switches, builds the feature array on
     /// the first run, lays out the templates when their folder is missing, and rebuilds the two icon folders;
@@ -36,24 +36,23 @@ public:
     /// in this order.
     void loadLists();
 
-    /// Observes the mirrored switches, in their order.
-    void observeMirroredKeys();
-
 private:
     void seedSwitches(SharedPreferences& shared);
     void buildFeatureArray();
-    void ensureTemplates(const std::optional<std::string>& folder);
-    /// How many of the icons are not in the folder afterwards.
-    std::size_t rebuildIconFolder(const std::string& folder, std::span<const std::string_view> names);
+    void ensureTemplates();
     void load(RuleCategory category);
     void addImageToIconFeature();
     void addMissingEditors();
 
-    Platform platform_;
+    PreferenceStores& stores_;
+    FileManager& files_;
+    const KnownFolders& folders_;
+    SystemLog& log_;
     LocalPreferences& local_;
     RuleLists& lists_;
     RulePublisher& publisher_;
     FactoryLists& factory_;
+    IconFolders& icons_;
 };
 
 } // namespace tarnwick

@@ -4,9 +4,20 @@
 
 namespace tarnwick {
 
+void RuleList::append(RuleRecord record) {
+    records_.push_back(std::move(record));
+    ++revision_;
+}
+
+void RuleList::assign(std::vector<RuleRecord> records) {
+    records_ = std::move(records);
+    ++revision_;
+}
+
 void RuleList::insert(std::size_t index, RuleRecord record) {
     const auto place = std::min(index, records_.size());
     records_.insert(records_.begin() + static_cast<std::ptrdiff_t>(place), std::move(record));
+    ++revision_;
 }
 
 PlistValue RuleList::toPlist() const {

@@ -3,7 +3,6 @@
 #include "prefs/RuleCategory.h"
 #include "prefs/RuleRecord.h"
 
-#include <array>
 #include <cstddef>
 #include <vector>
 
@@ -28,13 +27,23 @@ public:
     [[nodiscard]] auto begin() const { return records_.begin(); }
     [[nodiscard]] auto end() const { return records_.end(); }
 
-    void append(RuleRecord record) { records_.push_back(std::move(record)); }
+    /// Whether the record is always on and stays in its place, and whether it may not be removed. Only the
+    /// records of categories with actions are ever either.
+    [[nodiscard]] bool isFixed(std::size_t index) const {
+        return factsOf(category_).hasActions && records_[index].hasFixedAction();
+    }
+    [[nodiscard]] bool isProtected(std::size_t index) const {
+        return factsOf(category_).hasActions && records_[index].hasProtectedAction();
+    }
+
+    void append(RuleRecord record);
     /// Puts the record at `index`; past the end it is appended.
     void insert(std::size_t index, RuleRecord record);
-    void remove(std::size_t index) { records_.erase(records_.begin() + static_cast<std::ptrdiff_t>(index)); }
-    /// Takes the record at `index` out and puts a changed one in the same place.
-    void replace(std::size_t index, RuleRecord record) { records_[index] = std::move(record); }
-    void assign(std::vector<RuleRecord> records) { records_ = std::move(records); }
+    void assign(std::vector<RuleRecord> records);
+    [[nodiscard]] const std::vector<RuleRecord>& records() const { return records_; }
+
+    /// Another number after every change of the list.
+    [[nodiscard]] std::size_t revision() const { return revision_; }
 
     /// The stored form: an array of dictionaries that share the records' contents.
     [[nodiscard]] PlistValue toPlist() const;
@@ -44,22 +53,18 @@ public:
 private:
     RuleCategory category_;
     std::vector<RuleRecord> records_;
+    std::size_t revision_ = 0;
 };
 
-/// The five lists of the running application.
+/// The lists of the running application.
 class RuleLists {
 public:
-    [[nodiscard]] RuleList& operator[](RuleCategory category) {
-        return lists_[static_cast<std::size_t>(category)];
-    }
-    [[nodiscard]] const RuleList& operator[](RuleCategory category) const {
-        return lists_[static_cast<std::size_t>(category)];
-    }
+    [[nodiscard]] RuleList& operator[](RuleCategory category) { return lists_[category]; }
+    [[nodiscard]] const RuleList& operator[](RuleCategory category) const { return lists_[category]; }
 
 private:
-    std::array<RuleList, 5> lists_{RuleList(RuleCategory::createNewFile), RuleList(RuleCategory::copyFilesTo),
-        RuleList(RuleCategory::commonPath), RuleList(RuleCategory::customIcon),
-        RuleList(RuleCategory::others)};
+    PerCategory<RuleList> lists_ =
+        PerCategory<RuleList>::madeBy([](RuleCategory category) { return RuleList(category); });
 };
 
 } // namespace tarnwick

@@ -25,12 +25,6 @@ public:
     /// first disabled record. Then publishes the enabled records, in order, under the list key.
     void publish(RuleCategory category);
 
-    void setCreateNewFileToSettings() { publish(RuleCategory::createNewFile); }
-    void setCopyFilesToSettings() { publish(RuleCategory::copyFilesTo); }
-    void setCommonPathSettings() { publish(RuleCategory::commonPath); }
-    void setCustomIconToSettings() { publish(RuleCategory::customIcon); }
-    void setOthersToSettings() { publish(RuleCategory::others); }
-
 private:
     PreferenceStores& stores_;
     LocalPreferences& local_;

@@ -2,6 +2,7 @@
 
 #include "platform/PreferenceStore.h"
 #include "prefs/PreferenceKeys.h"
+#include "prefs/RuleRecord.h"
 
 namespace tarnwick {
 
@@ -18,6 +19,12 @@ void SharedPreferences::set(std::string_view key, const PlistValue& value) {
 
 void SharedPreferences::synchronize() {
     store_->synchronize();
+}
+
+void mirrorSwitch(PreferenceStores& stores, std::string_view key, const PlistValue& newValue) {
+    SharedPreferences shared(stores);
+    shared.set(key, flagValue(newValue).value_or(false));
+    shared.synchronize();
 }
 
 } // namespace tarnwick

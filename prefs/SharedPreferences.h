@@ -26,4 +26,8 @@ private:
     std::unique_ptr<PreferenceStore> store_;
 };
 
+/// Copies a changed switch of `LocalPreferences` into a new handle on `SharedPreferences`, as a boolean, and
+/// synchronises.
+void mirrorSwitch(PreferenceStores& stores, std::string_view key, const PlistValue& newValue);
+
 } // namespace tarnwick

@@ -32,20 +32,14 @@ struct TextFieldCell {
     bool operator==(const TextFieldCell&) const = default;
 };
 
-/// What a row's check box does when it is clicked, named like the controller's action.
-enum class RowSwitchAction {
-    onOffcheckedStateChangedOfCreateNewFile,
-    onOffEnableMainMenuStateChangedOfCreateNewFile,
-    onOffcheckedStateChangedOfCopyTo,
-    onOffcheckedStateChangedOfCustomIcon,
-    onOffcheckedStateChangedOfOthers,
-};
+/// What of a rule a check box turns on and off.
+enum class RowSwitch { enable, enableMainMenu };
 
 /// A check box without title whose target is the controller.
 struct CheckBoxCell {
     bool on = false;
     bool enabled = true;
-    RowSwitchAction action = RowSwitchAction::onOffcheckedStateChangedOfCreateNewFile;
+    RowSwitch turns = RowSwitch::enable;
     bool operator==(const CheckBoxCell&) const = default;
 };
 

@@ -16,24 +16,25 @@ constexpr std::array<std::string_view, 5> wellKnownFolders{
 
 } // namespace
 
-std::string folderLabel(const Platform& platform, const RuleRecord& record) {
+std::string folderLabel(
+    const KnownFolders& folders, const ApplicationBundle& bundle, const RuleRecord& record) {
     if (const auto name = record.text(field::displayName); !name.empty()) {
         return std::string(name);
     }
     const auto path = record.text(field::realPath);
     for (const auto& name : wellKnownFolders) {
-        if (path == homeSubfolder(platform.folders, name)) {
-            return platform.bundle.localized(name);
+        if (path == homeSubfolder(folders, name)) {
+            return bundle.localized(name);
         }
     }
     if (path == undefinedPath) {
-        return platform.bundle.localized(undefinedPath);
+        return bundle.localized(undefinedPath);
     }
     return std::string(lastPathComponent(path));
 }
 
-std::string shortenedPath(const Platform& platform, const RuleRecord& record) {
-    const auto home = homeFolder(platform.folders);
+std::string shortenedPath(const KnownFolders& folders, const RuleRecord& record) {
+    const auto home = homeFolder(folders);
     std::string path(record.text(field::realPath));
     for (auto found = path.find(home); found != std::string::npos; found = path.find(home, found + 1)) {
         path.replace(found, home.size(), "~");

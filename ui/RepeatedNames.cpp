@@ -3,8 +3,6 @@
 #include "prefs/RuleList.h"
 #include "values/PathText.h"
 
-#include <algorithm>
-
 namespace tarnwick {
 namespace {
 
@@ -17,11 +15,11 @@ std::string_view nameOf(const RuleRecord& record) {
 
 bool RepeatedNames::has(RuleCategory category, std::size_t row) const {
     const auto& list = lists_[category];
-    auto& count = counts_[static_cast<std::size_t>(category)];
-    if (!std::equal(list.begin(), list.end(), count.records.begin(), count.records.end())) {
+    auto& count = counts_[category];
+    if (count.revision != list.revision()) {
+        count.revision = list.revision();
         count.rows.clear();
-        count.records.assign(list.begin(), list.end());
-        for (const auto& record : count.records) {
+        for (const auto& record : list) {
             ++count.rows[nameOf(record)];
         }
     }

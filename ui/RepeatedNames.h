@@ -1,13 +1,11 @@
 #pragma once
 
 #include "prefs/RuleCategory.h"
-#include "prefs/RuleRecord.h"
 
-#include <array>
 #include <cstddef>
+#include <optional>
 #include <string_view>
 #include <unordered_map>
-#include <vector>
 
 namespace tarnwick {
 
@@ -23,15 +21,15 @@ public:
     [[nodiscard]] bool has(RuleCategory category, std::size_t row) const;
 
 private:
-    /// A table asks for each of its cells: a long list is counted once, not for each.
+    /// A table asks for each of its cells: a list is counted once a change.
     struct Count {
-        /// What was counted. The names lie in these records.
-        std::vector<RuleRecord> records;
+        std::optional<std::size_t> revision;
+        /// The names lie in the records of that revision.
         std::unordered_map<std::string_view, std::size_t> rows;
     };
 
     const RuleLists& lists_;
-    mutable std::array<Count, allRuleCategories.size()> counts_;
+    mutable PerCategory<Count> counts_ = PerCategory<Count>::madeBy([](RuleCategory) { return Count(); });
 };
 
 } // namespace tarnwick

@@ -1,44 +1,12 @@
 #include "ui/WindowLayout.h"
 
+#include "integration/Links.h"
+
+#include <algorithm>
 #include <array>
 
 namespace tarnwick {
 namespace {
-
-constexpr std::array<ColumnLayout, 5> createNewFileColumns{{
-    {"Enable", "", 34},
-    {"NewFileIcon", "", 44},
-    {"NewFileDisplayName", "Name", 260, true},
-    {"Extension", "Extension", 110},
-    {"EnableMainMenu", "Main Menu", 92, false, true},
-}};
-
-constexpr std::array<ColumnLayout, 4> copyFilesToColumns{{
-    {"Enable", "", 34},
-    {"SendFileIcon", "", 40},
-    {"Note", "Name", 200, true},
-    {"realPath", "Folder", 280, true},
-}};
-
-constexpr std::array<ColumnLayout, 3> commonPathColumns{{
-    {"commonPathIcon", "", 40},
-    {"commonPathDisplayName", "Name", 200, true},
-    {"realPath", "Folder", 280, true},
-}};
-
-constexpr std::array<ColumnLayout, 4> customIconColumns{{
-    {"Enable", "", 34},
-    {"Icon", "", 44},
-    {"CustomIconName", "Name", 300, true},
-    {"Size", "Size", 112, false, true},
-}};
-
-constexpr std::array<ColumnLayout, 4> othersColumns{{
-    {"OthersEnable", "", 34},
-    {"OthersIcon", "", 52},
-    {"OthersDisplayName", "Name", 240, true},
-    {"OthersNote", "Note", 200, true},
-}};
 
 constexpr std::array<SwitchLayout, 4> createNewFileSwitches{{
     {"enableIconOfCreateNewFile", "Show icons in the menu", "Shows each template's icon beside its name."},
@@ -78,44 +46,54 @@ constexpr std::array<SwitchLayout, 4> othersSwitches{{
         "Off: \"Open in iTerm2\" uses a tab of the front window."},
 }};
 
-constexpr std::array<PageLayout, pageCount> layouts{{
-    {Page::createNewFile, "page-createNewFile", "New File",
+constexpr PerPage<PageLayout> layouts{
+    PageLayout{"page-createNewFile", "New File",
         "Templates that the menu offers for creating a new file in the folder at hand.",
-        RuleCategory::createNewFile, createNewFileColumns, "NewFileDisplayName", "Enable",
-        createNewFileSwitches, "Enable all templates", "Add Templates\u2026", "No templates",
+        RuleCategory::createNewFile, createNewFileSwitches, "Enable all templates", "Add Templates\u2026",
+        "No templates",
         "Choose \u201CAdd Templates\u2026\u201D and pick a file: the menu then offers new files like it."},
-    {Page::copyFilesTo, "page-copyFilesTo", "Copy & Move To",
+    PageLayout{"page-copyFilesTo", "Copy & Move To",
         "Folders that the selected files can be copied or moved to.", RuleCategory::copyFilesTo,
-        copyFilesToColumns, "Note", "Enable", copyFilesToSwitches, "", "Add Folders\u2026",
-        "No folders to copy or move to",
+        copyFilesToSwitches, "", "Add Folders\u2026", "No folders to copy or move to",
         "Choose \u201CAdd Folders\u2026\u201D and pick a folder: the menu then copies or moves files there."},
-    {Page::commonPath, "page-commonPath", "Common Folders", "Folders that are one click away in every menu.",
-        RuleCategory::commonPath, commonPathColumns, "commonPathDisplayName", "", commonPathSwitches, "",
-        "Add Folders\u2026", "No common folders",
+    PageLayout{"page-commonPath", "Common Folders", "Folders that are one click away in every menu.",
+        RuleCategory::commonPath, commonPathSwitches, "", "Add Folders\u2026", "No common folders",
         "Choose \u201CAdd Folders\u2026\u201D and pick a folder: the menu then opens it from anywhere."},
-    {Page::customIcon, "page-customIcon", "Custom Icons",
+    PageLayout{"page-customIcon", "Custom Icons",
         "Pictures that the selected files and folders can be given as their icon.", RuleCategory::customIcon,
-        customIconColumns, "CustomIconName", "Enable", customIconSwitches, "Enable all icons",
-        "Add Pictures\u2026", "No pictures",
+        customIconSwitches, "Enable all icons", "Add Pictures\u2026", "No pictures",
         "Choose \u201CAdd Pictures\u2026\u201D and pick a PNG file: the menu then offers it as an icon."},
-    {Page::others, "page-others", "More Items",
+    PageLayout{"page-others", "More Items",
         "Further actions of the menu, and applications to open files with.", RuleCategory::others,
-        othersColumns, "OthersDisplayName", "OthersEnable", othersSwitches, "Enable all items",
-        "Add Items\u2026", "No items",
+        othersSwitches, "Enable all items", "Add Items\u2026", "No items",
         "Choose \u201CAdd Items\u2026\u201D and pick an item: the menu then shows it again."},
-    {Page::moreApps, "page-moreApps", "More Apps", "Other applications by the makers of Tarnwick.",
-        std::nullopt, {}, "", "", {}, "", "", "", ""},
+    PageLayout{"page-moreApps", "More Apps", "Other applications by the makers of Tarnwick.", std::nullopt,
+        {}, "", "", "", ""},
+};
+
+constexpr std::array<AppTile, 3> tiles{{
+    {"app-Snapfin", "Snapfin", "Takes, pins and annotates screenshots.", "View in Store", link::snapfin},
+    {"app-Allbright", "Allbright", "Keeps the brightness of all displays in step.", "View in Store",
+        link::allbright},
+    {"app-Website", "Website", "News, help and everything else we make.", "Visit", link::website},
 }};
 
 } // namespace
 
-const PageLayout& layoutOf(RuleCategory category) {
-    // The lists have the first five pages, in their own order.
-    return layouts[static_cast<std::size_t>(category)];
+const PageLayout& layoutOf(Page page) {
+    return layouts[page];
 }
 
-std::span<const PageLayout, pageCount> pageLayouts() {
-    return layouts;
+Page pageOf(RuleCategory category) {
+    static const auto pages = PerCategory<Page>::madeBy([](RuleCategory wanted) {
+        return *std::find_if(allPages.begin(), allPages.end(),
+            [wanted](Page page) { return layouts[page].category == wanted; });
+    });
+    return pages[category];
+}
+
+std::span<const AppTile> appTiles() {
+    return tiles;
 }
 
 } // namespace tarnwick

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "prefs/RuleCategory.h"
-#include "ui/Outlets.h"
+#include "ui/Page.h"
 
 #include <optional>
 #include <span>
@@ -17,18 +17,6 @@ inline constexpr double windowMinimumWidth = 920;
 inline constexpr double windowMinimumHeight = 500;
 inline constexpr double sidebarWidth = 208;
 
-struct ColumnLayout {
-    /// Selects the cell's control.
-    std::string_view identifier;
-    /// Empty: a column without heading.
-    std::string_view title;
-    double width = 0;
-    /// Takes a share of the width that the window gains or loses; the others keep theirs.
-    bool flexible = false;
-    /// Over contents that stand in the middle of the column.
-    bool centredTitle = false;
-};
-
 /// A check box that reads and writes one boolean of `LocalPreferences`.
 struct SwitchLayout {
     std::string_view key;
@@ -37,7 +25,6 @@ struct SwitchLayout {
 };
 
 struct PageLayout {
-    Page page = Page::createNewFile;
     /// The page button's image among the resources, and its title.
     std::string_view image;
     std::string_view title;
@@ -45,10 +32,6 @@ struct PageLayout {
     std::string_view explanation;
     /// Nothing on the page of further applications.
     std::optional<RuleCategory> category;
-    std::span<const ColumnLayout> columns;
-    /// The columns that hold a rule's name, and its switch; empty: none.
-    std::string_view nameColumn;
-    std::string_view switchColumn;
     std::span<const SwitchLayout> switches;
     /// The title of the switch above the table that turns every rule on or off; empty: there is none.
     std::string_view enableAllTitle;
@@ -58,9 +41,27 @@ struct PageLayout {
     std::string_view emptyHint;
 };
 
+[[nodiscard]] const PageLayout& layoutOf(Page page);
 /// The page of a category's list.
-[[nodiscard]] const PageLayout& layoutOf(RuleCategory category);
-/// In page order.
-[[nodiscard]] std::span<const PageLayout, pageCount> pageLayouts();
+[[nodiscard]] Page pageOf(RuleCategory category);
+
+/// The texts below the page buttons.
+namespace sidebar {
+inline constexpr std::string_view help = "Help";
+inline constexpr std::string_view tip = "Does the menu not show a change? Restarting the Finder helps.";
+inline constexpr std::string_view restart = "Restart Finder";
+} // namespace sidebar
+
+/// Another application, or what else the page of further applications leads to.
+struct AppTile {
+    std::string_view image;
+    std::string_view name;
+    std::string_view description;
+    std::string_view buttonTitle;
+    /// What the button opens.
+    std::string_view address;
+};
+
+[[nodiscard]] std::span<const AppTile> appTiles();
 
 } // namespace tarnwick

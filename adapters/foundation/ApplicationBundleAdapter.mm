@@ -1,6 +1,7 @@
 #import "adapters/foundation/StringConversion.h"
 
 #include "adapters/foundation/Adapters.h"
+#include "adapters/foundation/SystemAdapters.h"
 #include "platform/ApplicationBundle.h"
 
 #import <Foundation/Foundation.h>
@@ -22,6 +23,7 @@ public:
         id version = [bundle() objectForInfoDictionaryKey:@"CFBundleShortVersionString"];
         return [version isKindOfClass:[NSString class]] ? toString(version) : std::string();
     }
+    bool isLoginItem() const override { return tarnwick::isLoginItem(); }
 
 private:
     static NSBundle *bundle() { return [NSBundle mainBundle]; }

@@ -1,3 +1,4 @@
+#import "adapters/foundation/PlistConversion.h"
 #import "adapters/foundation/StringConversion.h"
 
 #include "adapters/foundation/Adapters.h"
@@ -27,6 +28,18 @@ public:
     }
     bool move(const std::string &from, const std::string &to) override {
         return !exists(to) && [manager() moveItemAtPath:toNSString(from) toPath:toNSString(to) error:nullptr];
+    }
+    std::optional<PlistValue> propertyList(const std::string &path) const override {
+        NSData *bytes = [NSData dataWithContentsOfFile:toNSString(path)];
+        if (!bytes) {
+            return std::nullopt;
+        }
+        NSPropertyListFormat format = NSPropertyListXMLFormat_v1_0;
+        NSError *error = nil;
+        return toPlistValue([NSPropertyListSerialization propertyListWithData:bytes
+                                                                      options:NSPropertyListImmutable
+                                                                       format:&format
+                                                                        error:&error]);
     }
 
 private:

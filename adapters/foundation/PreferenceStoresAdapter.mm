@@ -37,9 +37,6 @@ private:
 
 class UserDefaultsStores final : public PreferenceStores {
 public:
-    explicit UserDefaultsStores(std::function<void(std::string_view)> observe)
-        : observe_(std::move(observe)) {}
-
     std::unique_ptr<PreferenceStore> openStandardDomain() override {
         return std::make_unique<UserDefaultsStore>(
             ObjectPointer<NSUserDefaults>::retaining([NSUserDefaults standardUserDefaults]));
@@ -48,20 +45,16 @@ public:
         return std::make_unique<UserDefaultsStore>(ObjectPointer<NSUserDefaults>::adopting(
             [[NSUserDefaults alloc] initWithSuiteName:toNSString(name)]));
     }
-    void observeStandardKey(std::string_view key) override { observe_(key); }
     std::optional<std::string> systemWideString(std::string_view key) const override {
         NSString *text = [[NSUserDefaults standardUserDefaults] stringForKey:toNSString(key)];
         return text ? std::optional(toString(text)) : std::nullopt;
     }
-
-private:
-    std::function<void(std::string_view)> observe_;
 };
 
 } // namespace
 
-std::unique_ptr<PreferenceStores> makePreferenceStores(std::function<void(std::string_view)> observe) {
-    return std::make_unique<UserDefaultsStores>(std::move(observe));
+std::unique_ptr<PreferenceStores> makePreferenceStores() {
+    return std::make_unique<UserDefaultsStores>();
 }
 
 } // namespace tarnwick

@@ -1,6 +1,7 @@
 #import "adapters/foundation/StringConversion.h"
 
 #include "adapters/foundation/Adapters.h"
+#include "adapters/foundation/SystemAdapters.h"
 #include "platform/Workspace.h"
 
 #import <AppKit/AppKit.h>
@@ -10,8 +11,6 @@ namespace {
 
 class AppKitWorkspace final : public Workspace {
 public:
-    explicit AppKitWorkspace(std::function<void()> observe) : observe_(std::move(observe)) {}
-
     void openURL(std::string_view address) override {
         if (NSURL *url = [NSURL URLWithString:toNSString(address)]) {
             [workspace() openURL:url];
@@ -24,18 +23,29 @@ public:
         NSString *path = [workspace() absolutePathForAppBundleWithIdentifier:toNSString(bundleIdentifier)];
         return path ? std::optional(toString(path)) : std::nullopt;
     }
-    void observeApplicationChanges() override { observe_(); }
+    RegisteredApplications registeredApplications(std::string_view bundleIdentifier) const override {
+        return tarnwick::registeredApplications(bundleIdentifier);
+    }
+    bool isRunning(std::string_view bundleIdentifier) const override {
+        return [running(bundleIdentifier) count] > 0;
+    }
+    void terminateAll(std::string_view bundleIdentifier) override {
+        for (NSRunningApplication *application in running(bundleIdentifier)) {
+            [application terminate];
+        }
+    }
 
 private:
     static NSWorkspace *workspace() { return [NSWorkspace sharedWorkspace]; }
-
-    std::function<void()> observe_;
+    static NSArray *running(std::string_view bundleIdentifier) {
+        return [NSRunningApplication runningApplicationsWithBundleIdentifier:toNSString(bundleIdentifier)];
+    }
 };
 
 } // namespace
 
-std::unique_ptr<Workspace> makeWorkspace(std::function<void()> observe) {
-    return std::make_unique<AppKitWorkspace>(std::move(observe));
+std::unique_ptr<Workspace> makeWorkspace() {
+    return std::make_unique<AppKitWorkspace>();
 }
 
 } // namespace tarnwick

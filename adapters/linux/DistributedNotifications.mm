@@ -1,8 +1,8 @@
 #import "adapters/foundation/StringConversion.h"
 #import "gnustep/defaults/SuiteDefaults.h"
 
+#include "adapters/foundation/SystemAdapters.h"
 #include "platform/DistributedNotifications.h"
-#include "platform/SystemServices.h"
 
 #import <Foundation/Foundation.h>
 

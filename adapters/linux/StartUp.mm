@@ -1,4 +1,4 @@
-#include "platform/SystemServices.h"
+#include "adapters/foundation/SystemAdapters.h"
 
 #import "TNStartUp.h"
 

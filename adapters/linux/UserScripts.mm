@@ -2,7 +2,7 @@
 #import "adapters/foundation/StringConversion.h"
 #import "gnustep/defaults/DefaultsFiles.h"
 
-#include "platform/SystemServices.h"
+#include "adapters/foundation/SystemAdapters.h"
 #include "platform/UserScript.h"
 
 #import <Foundation/Foundation.h>

@@ -1,7 +1,7 @@
 #import "adapters/foundation/StringConversion.h"
 
+#include "adapters/foundation/SystemAdapters.h"
 #include "platform/DistributedNotifications.h"
-#include "platform/SystemServices.h"
 
 #import <Foundation/Foundation.h>
 

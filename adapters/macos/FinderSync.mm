@@ -1,5 +1,5 @@
 #include "platform/FinderSync.h"
-#include "platform/SystemServices.h"
+#include "adapters/foundation/SystemAdapters.h"
 
 #import <FinderSync/FinderSync.h>
 

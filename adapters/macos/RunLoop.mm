@@ -1,7 +1,7 @@
 #import "adapters/foundation/DeferredWork.h"
 
+#include "adapters/foundation/SystemAdapters.h"
 #include "platform/RunLoop.h"
-#include "platform/SystemServices.h"
 
 #import <dispatch/dispatch.h>
 

@@ -1,4 +1,4 @@
-#include "platform/SystemServices.h"
+#include "adapters/foundation/SystemAdapters.h"
 
 namespace tarnwick {
 

@@ -1,7 +1,7 @@
 #import "adapters/foundation/ObjectPointer.h"
 #import "adapters/foundation/StringConversion.h"
 
-#include "platform/SystemServices.h"
+#include "adapters/foundation/SystemAdapters.h"
 #include "platform/UserScript.h"
 
 #import <Foundation/Foundation.h>

@@ -2,11 +2,10 @@
 
 #import "bench/app/ClickService.h"
 #import "front/MainInterface.h"
-#import "front/SettingsOutlets.h"
 #import "front/SettingsViewController.h"
 #import "tests/driving/Driving.h"
 
-#include "platform/SystemServices.h"
+#include "adapters/foundation/SystemAdapters.h"
 
 namespace {
 
@@ -24,12 +23,13 @@ int main(int argc, char *argv[]) {
         tarnwick::prepareProcess(argc, argv);
         [NSApplication sharedApplication];
         const tarnwick::MainInterface interface;
-        SettingsOutlets *outlets = [interface.controller() outlets];
+        SettingsViewController *controller = interface.controller();
         tarnwick::bench::whenRunning([&interface] { return interface.window(); },
-            [outlets] {
-                tarnwick::driving::click([outlets copyFilesToButton]);
-                tarnwick::bench::serveClicks(
-                    [outlets] { return checkBoxIn([outlets tableOf:tarnwick::RuleCategory::copyFilesTo]); });
+            [controller] {
+                tarnwick::driving::click([controller copyFilesToButton]);
+                tarnwick::bench::serveClicks([controller] {
+                    return checkBoxIn([controller tableOf:tarnwick::RuleCategory::copyFilesTo]);
+                });
             });
         [NSApp run];
     }

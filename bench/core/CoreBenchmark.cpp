@@ -46,15 +46,14 @@ void load(benchmark::State& state) {
     for (auto unused : state) {
         state.PauseTiming();
         testing::InMemoryPlatform platform;
-        testing::InMemoryWindow window(platform.log);
+        testing::InMemoryWindow window(platform.log, platform.preferences);
         platform.preferences.local.insert_or_assign(std::string(factsOf(category).listKey), stored);
         {
-            SettingsViewController controller(platform.ports());
-            controller.connect(window.outlets());
+            SettingsController controller(platform.ports(), window);
             state.ResumeTiming();
             controller.awakeFromNib();
             platform.runLoop.runMain();
-            benchmark::DoNotOptimize(controller.numberOfRows(category));
+            benchmark::DoNotOptimize(controller.rows().count(category));
             state.PauseTiming();
         }
         state.ResumeTiming();
@@ -67,7 +66,7 @@ void toggle(benchmark::State& state) {
     LaunchedSettings settings(recordsOf(state), imageBytesOf(state));
     bool on = false;
     for (auto unused : state) {
-        settings.controller().onOffcheckedStateChangedOfCustomIcon(middleRow(state), on);
+        settings.controller().setEnabled(RuleCategory::customIcon, middleRow(state), on);
         on = !on;
         settings.forgetCalls();
     }
@@ -93,7 +92,7 @@ void rename(benchmark::State& state) {
     const std::array<std::string, 2> names{"A name for an icon", "Another name for an icon"};
     std::size_t turn = 0;
     for (auto unused : state) {
-        settings.controller().controlTextShouldEndEditing("CustomIconName", middleRow(state), names[turn]);
+        settings.controller().textEdited("CustomIconName", middleRow(state), names[turn]);
         turn = 1 - turn;
         settings.forgetCalls();
     }
@@ -122,7 +121,7 @@ void buildRows(benchmark::State& state) {
     for (auto unused : state) {
         for (long row = 0; row < rows; ++row) {
             for (const auto* column : {"Enable", "Icon", "CustomIconName", "Size"}) {
-                benchmark::DoNotOptimize(settings.controller().viewForTableColumn(category, column, row));
+                benchmark::DoNotOptimize(settings.controller().rows().cell(category, column, row));
             }
         }
     }

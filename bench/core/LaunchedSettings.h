@@ -2,7 +2,7 @@
 
 #include "tests/support/InMemoryPlatform.h"
 #include "tests/support/InMemoryWindow.h"
-#include "ui/SettingsViewController.h"
+#include "ui/SettingsController.h"
 
 #include <cstddef>
 
@@ -12,14 +12,14 @@ namespace tarnwick::bench {
 class LaunchedSettings {
 public:
     LaunchedSettings(std::size_t records, std::size_t imageBytes);
-    [[nodiscard]] SettingsViewController& controller() { return controller_; }
+    [[nodiscard]] SettingsController& controller() { return controller_; }
     /// The platform's log grows with every call; forgotten after each operation.
     void forgetCalls() { platform_.log.clear(); }
 
 private:
     testing::InMemoryPlatform platform_;
-    testing::InMemoryWindow window_;
-    SettingsViewController controller_;
+    testing::InMemoryWindow window_{platform_.log, platform_.preferences};
+    SettingsController controller_{platform_.ports(), window_};
 };
 
 } // namespace tarnwick::bench

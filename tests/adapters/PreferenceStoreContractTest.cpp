@@ -12,7 +12,7 @@
 namespace tarnwick::testing {
 namespace {
 
-/// One implementation of the port, and the keys that it was asked to observe.
+/// One implementation of the port.
 struct Stores {
     virtual ~Stores() = default;
     virtual PreferenceStores& stores() = 0;
@@ -25,7 +25,7 @@ struct InMemory final : Stores {
 };
 
 struct UserDefaults final : Stores {
-    std::unique_ptr<PreferenceStores> preferences = makePreferenceStores([](std::string_view) {});
+    std::unique_ptr<PreferenceStores> preferences = makePreferenceStores();
     PreferenceStores& stores() override { return *preferences; }
 };
 

@@ -1,9 +1,9 @@
 #include "Pool.h"
 
 #include "adapters/foundation/Adapters.h"
+#include "platform/FileManager.h"
 #include "platform/Images.h"
-#include "platform/PropertyLists.h"
-#include "platform/ShellTask.h"
+#include "platform/Process.h"
 
 #include <gtest/gtest.h>
 
@@ -29,31 +29,31 @@ protected:
 };
 
 TEST_F(SystemAdaptersTest, ATaskGivesWhatItsProgramWrote) {
-    const auto shell = makeShellTask();
-    EXPECT_EQ(text(shell->output("/bin/sh", {"-c", "printf 'a\\0b'"})), std::string("a\0b", 3));
-    EXPECT_EQ(text(shell->output("/bin/sh", {"-c", "echo lost >/dev/stderr 2>/dev/null; exit 3"})), "");
+    const auto process = makeProcess();
+    EXPECT_EQ(text(process->output("/bin/sh", {"-c", "printf 'a\\0b'"})), std::string("a\0b", 3));
+    EXPECT_EQ(text(process->output("/bin/sh", {"-c", "echo lost >/dev/stderr 2>/dev/null; exit 3"})), "");
 }
 
 TEST_F(SystemAdaptersTest, ATaskWithALotToSayIsReadToItsEnd) {
-    EXPECT_EQ(makeShellTask()->output("/bin/sh", {"-c", "head -c 1000000 /dev/zero"}).size(), 1'000'000U);
+    EXPECT_EQ(makeProcess()->output("/bin/sh", {"-c", "head -c 1000000 /dev/zero"}).size(), 1'000'000U);
 }
 
 TEST_F(SystemAdaptersTest, PropertyListsAreReadInEveryFormat) {
-    const auto lists = makePropertyLists();
-    EXPECT_EQ(lists->read(
+    const auto files = makeFileManager();
+    EXPECT_EQ(files->propertyList(
                   file("xml.plist", "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict><key>on</key><true/>"
                                     "<key>one</key><integer>1</integer></dict></plist>")),
         PlistValue(PlistDictionary{{"on", true}, {"one", 1}}));
-    EXPECT_EQ(
-        lists->read(file("text.plist", "{ name = value; }")), PlistValue(PlistDictionary{{"name", "value"}}));
+    EXPECT_EQ(files->propertyList(file("text.plist", "{ name = value; }")),
+        PlistValue(PlistDictionary{{"name", "value"}}));
 }
 
 TEST_F(SystemAdaptersTest, WhatIsNoPropertyListHasNoValue) {
-    const auto lists = makePropertyLists();
-    EXPECT_FALSE(lists->read("/nowhere/at all"));
-    EXPECT_FALSE(lists->read(file("empty.plist", "")));
-    EXPECT_FALSE(
-        lists->read(file("damaged.plist", "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict><key>")));
+    const auto files = makeFileManager();
+    EXPECT_FALSE(files->propertyList("/nowhere/at all"));
+    EXPECT_FALSE(files->propertyList(file("empty.plist", "")));
+    EXPECT_FALSE(files->propertyList(
+        file("damaged.plist", "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict><key>")));
 }
 
 TEST_F(SystemAdaptersTest, DamagedPicturesOfAnyFormatGiveNone) {

@@ -19,7 +19,7 @@ public:
     using SettingsFixture::localList;
     using SettingsFixture::sharedList;
 
-    [[nodiscard]] SettingsViewController& controller() { return controller_; }
+    [[nodiscard]] SettingsController& controller() { return controller_; }
     [[nodiscard]] const RuleList& original() const { return list_; }
     [[nodiscard]] long rows() const { return static_cast<long>(list_.size()); }
     [[nodiscard]] long middleRow() const { return rows() / 2 + 1; }
@@ -44,11 +44,11 @@ void launch(LongList& list) {
 }
 
 void toggle(LongList& list) {
-    list.controller().onOffcheckedStateChangedOfCustomIcon(list.middleRow(), false);
+    list.controller().setEnabled(RuleCategory::customIcon, list.middleRow(), false);
 }
 
 void enableAll(LongList& list) {
-    list.controller().enableAllOfCustomIconClick();
+    list.controller().enableAll(RuleCategory::customIcon);
 }
 
 void reorder(LongList& list) {
@@ -56,13 +56,13 @@ void reorder(LongList& list) {
 }
 
 void rename(LongList& list) {
-    list.controller().controlTextShouldEndEditing("CustomIconName", list.middleRow(), "Another name");
+    list.controller().textEdited("CustomIconName", list.middleRow(), "Another name");
 }
 
 void buildRows(LongList& list) {
     for (long row = 0; row < list.rows(); ++row) {
         for (const auto* column : {"Enable", "Icon", "CustomIconName", "Size"}) {
-            (void)list.controller().viewForTableColumn(category, column, row);
+            (void)list.controller().rows().cell(category, column, row);
         }
     }
 }

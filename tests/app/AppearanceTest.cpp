@@ -22,8 +22,8 @@ protected:
     }
 
     InMemoryPlatform platform_;
-    InMemoryWindowFrame window_{platform_.log};
-    ApplicationDelegate delegate_{platform_.ports(), &window_};
+    InMemoryApplicationWindow window_{platform_.log};
+    ApplicationDelegate delegate_{platform_.ports(), window_};
 };
 
 TEST_F(AppearanceTest, TheDarkColoursComponentsAreWidenedSinglePrecisionValues) {
@@ -45,12 +45,12 @@ TEST_F(AppearanceTest, AStyleInTheStandardDomainCountsToo) {
 
 TEST_F(AppearanceTest, TheLastSystemBeforeMacOS1015IsWhiteAndALaterMajorVersionIsDark) {
     useStyle("Dark");
-    platform_.systemVersion.minor = 14;
-    platform_.systemVersion.patch = 6;
+    platform_.process.minor = 14;
+    platform_.process.patch = 6;
     EXPECT_EQ(backgroundAfterAChange(), white);
-    platform_.systemVersion.major = 11;
-    platform_.systemVersion.minor = 0;
-    platform_.systemVersion.patch = 0;
+    platform_.process.major = 11;
+    platform_.process.minor = 0;
+    platform_.process.patch = 0;
     EXPECT_EQ(backgroundAfterAChange(), dark);
 }
 
@@ -73,7 +73,7 @@ TEST_F(AppearanceTest, TheAppearanceAtTheLaunchIsLeftToTheSystemsTextBackground)
 }
 
 TEST_F(AppearanceTest, ARefusedCopyNeitherObservesNorRelaunchesAnything) {
-    platform_.launchServices.registered["org.halvane.Tarnwick"] = {{"/a/Tarnwick.app"}, false};
+    platform_.workspace.registered["org.halvane.Tarnwick"] = {{"/a/Tarnwick.app"}, false};
     delegate_.applicationWillFinishLaunching();
     platform_.runLoop.runBackground();
     EXPECT_TRUE(platform_.notifications.handlers.empty());

@@ -11,21 +11,21 @@ namespace {
 class InstallGuardTest : public ::testing::Test {
 protected:
     void install(std::vector<std::string> paths, std::string preferred = "") {
-        platform_.launchServices.registered["org.halvane.Tarnwick"] = {std::move(paths), false};
+        platform_.workspace.registered["org.halvane.Tarnwick"] = {std::move(paths), false};
         if (!preferred.empty()) {
             platform_.workspace.applications["org.halvane.Tarnwick"] = std::move(preferred);
         }
     }
-    void launch() { ApplicationDelegate(platform_.ports(), &window_).applicationWillFinishLaunching(); }
+    void launch() { ApplicationDelegate(platform_.ports(), window_).applicationWillFinishLaunching(); }
     void expectAccepted() {
         launch();
-        EXPECT_TRUE(platform_.alerts.shown.empty());
+        EXPECT_TRUE(platform_.panels.alerts.empty());
         EXPECT_TRUE(platform_.process.exits.empty());
         EXPECT_TRUE(platform_.log.holds("activate"));
     }
     void expectRefusedWith(const std::string& listing) {
         launch();
-        ASSERT_EQ(platform_.alerts.shown.size(), 1U);
+        ASSERT_EQ(platform_.panels.alerts.size(), 1U);
         const AlertRequest expected{.messageText = "Warning",
             .informativeText =
                 "In order to ensure the stability of Tarnwick, only one Tarnwick can be installed on your "
@@ -33,13 +33,13 @@ protected:
                 "The current installation paths are:\n" +
                 listing,
             .buttons = {"OK"}};
-        EXPECT_EQ(platform_.alerts.shown.front(), expected);
+        EXPECT_EQ(platform_.panels.alerts.front(), expected);
         EXPECT_EQ(platform_.process.exits, std::vector<int>{0});
         EXPECT_EQ(platform_.log.lines(), (std::vector<std::string>{"alert Warning", "exit 0"}));
     }
 
     InMemoryPlatform platform_;
-    InMemoryWindowFrame window_{platform_.log};
+    InMemoryApplicationWindow window_{platform_.log};
 };
 
 const std::string accepted = "/Applications/Tarnwick.app";
@@ -93,8 +93,8 @@ TEST_F(InstallGuardTest, TheAlertIsLocalised) {
     platform_.bundle.texts["OK"] = "Gut";
     install({"/opt/Tarnwick.app"});
     launch();
-    EXPECT_EQ(platform_.alerts.shown.front().messageText, "Achtung");
-    EXPECT_EQ(platform_.alerts.shown.front().buttons, std::vector<std::string>{"Gut"});
+    EXPECT_EQ(platform_.panels.alerts.front().messageText, "Achtung");
+    EXPECT_EQ(platform_.panels.alerts.front().buttons, std::vector<std::string>{"Gut"});
 }
 
 } // namespace

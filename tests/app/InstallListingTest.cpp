@@ -15,14 +15,15 @@ const std::string developerBuild =
 class InstallListingTest : public ::testing::Test {
 protected:
     void install(std::vector<std::string> copies, const std::string& preferred = "") {
-        platform_.launchServices.registered[identifier_] = {std::move(copies), false};
+        platform_.workspace.registered[identifier_] = {std::move(copies), false};
         if (!preferred.empty()) {
             platform_.workspace.applications[identifier_] = preferred;
         }
     }
-    [[nodiscard]] std::optional<std::string> conflict() { return findInstallConflict(platform_.ports()); }
+    [[nodiscard]] std::optional<std::string> conflict() { return guard_.findConflict(); }
 
     InMemoryPlatform platform_;
+    InstallGuard guard_{platform_.workspace, platform_.bundle, platform_.panels, platform_.process};
     const std::string identifier_{applicationIdentifier};
 };
 
@@ -74,12 +75,12 @@ TEST_F(InstallListingTest, TheAcceptedCopyRegisteredTwiceIsRefused) {
 
 TEST_F(InstallListingTest, AnErrorOfTheRegisterIsNotLookedAt) {
     install({"/opt/Tarnwick.app"});
-    platform_.launchServices.registered[identifier_].failed = true;
+    platform_.workspace.registered[identifier_].failed = true;
     EXPECT_EQ(conflict(), "\n/opt/Tarnwick.app\n\n");
 }
 
 TEST_F(InstallListingTest, CopiesOfOtherApplicationsAreNotAskedFor) {
-    platform_.launchServices.registered["org.halvane.Allbright"] = {
+    platform_.workspace.registered["org.halvane.Allbright"] = {
         {"/a/Allbright.app", "/b/Allbright.app"}, false};
     EXPECT_EQ(conflict(), std::nullopt);
 }
@@ -91,9 +92,9 @@ TEST_F(InstallListingTest, BothSentencesOfTheAlertAreLocalised) {
                                   "Nur eines."},
         {"The current installation paths are:", "Gefunden:"}};
     install({"/a/Tarnwick.app"}, "/a/Tarnwick.app");
-    EXPECT_FALSE(runInstallGuard(platform_.ports()));
-    ASSERT_EQ(platform_.alerts.shown.size(), 1U);
-    EXPECT_EQ(platform_.alerts.shown[0].informativeText, "Nur eines.\nGefunden:\n\n/a/Tarnwick.app\n\n");
+    EXPECT_FALSE(guard_.run());
+    ASSERT_EQ(platform_.panels.alerts.size(), 1U);
+    EXPECT_EQ(platform_.panels.alerts[0].informativeText, "Nur eines.\nGefunden:\n\n/a/Tarnwick.app\n\n");
 }
 
 } // namespace

@@ -10,16 +10,17 @@ namespace {
 class ServiceRelaunchTest : public ::testing::Test {
 protected:
     InMemoryPlatform platform_;
+    ServiceRelaunch relaunch_{platform_.workspace, platform_.bundle, platform_.runLoop};
 };
 
 TEST_F(ServiceRelaunchTest, NothingHappensOnTheMainThread) {
-    relaunchService(platform_.ports());
+    relaunch_.run();
     platform_.runLoop.runMain();
     EXPECT_EQ(platform_.log.lines(), (std::vector<std::string>{"queue in background"}));
 }
 
 TEST_F(ServiceRelaunchTest, InTheBackgroundTheRunningCopiesAreTerminatedAndThenThePluggedInOneIsLaunched) {
-    relaunchService(platform_.ports());
+    relaunch_.run();
     platform_.log.clear();
     platform_.runLoop.runBackground();
     const std::vector<std::string> expected{

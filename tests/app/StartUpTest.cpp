@@ -23,9 +23,7 @@ protected:
                platform_.log.holds("shared set arrOfCustomIcon") ||
                platform_.log.holds("shared set arrOfOthers");
     }
-    void refuse() {
-        platform_.launchServices.registered["org.halvane.Tarnwick"] = {{"/a/Tarnwick.app"}, false};
-    }
+    void refuse() { platform_.workspace.registered["org.halvane.Tarnwick"] = {{"/a/Tarnwick.app"}, false}; }
 
     /// The lines of the log that are among these, in the log's order.
     [[nodiscard]] std::vector<std::string> order(const std::set<std::string>& wanted) const {
@@ -38,8 +36,8 @@ protected:
         return found;
     }
 
-    InMemoryWindowFrame frame_{platform_.log};
-    ApplicationDelegate delegate_{platform_.ports(), &frame_};
+    InMemoryApplicationWindow frame_{platform_.log};
+    ApplicationDelegate delegate_{platform_.ports(), frame_};
 };
 
 TEST_F(StartUpTest, TheStoresAreOpenedThenTheGuardPassesThenTheWindowIsActivatedThenThePromptIsShown) {
@@ -50,11 +48,6 @@ TEST_F(StartUpTest, TheStoresAreOpenedThenTheGuardPassesThenTheWindowIsActivated
             "queue on main", "alert Enable Extension", "local set ShownEnableExtensionAlert"}));
     EXPECT_TRUE(published());
     EXPECT_TRUE(platform_.process.exits.empty());
-}
-
-TEST_F(StartUpTest, TheStartIsScheduledAHundredthOfASecondAfterTheWindowIsLoaded) {
-    loadInterface();
-    EXPECT_EQ(platform_.runLoop.delays, (std::vector<double>{0.01}));
 }
 
 TEST_F(StartUpTest, AnAcceptedLaunchPublishesOnlyOnceTheMainLoopRuns) {

@@ -1,25 +1,23 @@
-#include "tests/support/SettingsFixture.h"
+#include "tests/support/EditingFixture.h"
 
 namespace tarnwick::testing {
 namespace {
 
-class AddRulesTest : public SettingsFixture {
+class AddRulesTest : public EditingFixture {
 protected:
     AddRulesTest() {
         launch();
         platform_.files.folders.insert("/home");
     }
-    void choose(void (SettingsViewController::*add)(), std::vector<std::string> paths) {
-        (controller_.*add)();
-        platform_.openPanel.choose(std::move(paths));
+    void choose(RuleCategory category, std::vector<std::string> paths) {
+        editing_.adding.add(category);
+        platform_.panels.confirm(std::move(paths));
     }
-    [[nodiscard]] const OpenPanelRequest& lastRequest() const { return platform_.openPanel.requests.back(); }
+    [[nodiscard]] const OpenPanelRequest& lastRequest() const { return platform_.panels.requests.back(); }
 };
 
-using Controller = SettingsViewController;
-
 TEST_F(AddRulesTest, ThreeFoldersAreAppendedInTheChoosersOrderAndTheFirstOnesParentIsRemembered) {
-    choose(&Controller::addSendFilesToRule, {"/a/Zoo", "/b/Attic", "/c/Mill"});
+    choose(RuleCategory::copyFilesTo, {"/a/Zoo", "/b/Attic", "/c/Mill"});
     EXPECT_EQ(texts(localList(RuleCategory::copyFilesTo), "realPath"),
         (std::vector<std::string>{"/a/Zoo", "/b/Attic", "/c/Mill"}));
     EXPECT_EQ(texts(localList(RuleCategory::copyFilesTo), "displayName"),
@@ -28,7 +26,7 @@ TEST_F(AddRulesTest, ThreeFoldersAreAppendedInTheChoosersOrderAndTheFirstOnesPar
 }
 
 TEST_F(AddRulesTest, AFolderRecordHoldsExactlyAnIntegerFlagThePathAndItsLastComponent) {
-    choose(&Controller::addCommonPathRule, {"/a/Zoo"});
+    choose(RuleCategory::commonPath, {"/a/Zoo"});
     const PlistArray expected{PlistDictionary{{"enable", 1}, {"realPath", "/a/Zoo"}, {"displayName", "Zoo"}}};
     EXPECT_EQ(localList(RuleCategory::commonPath), expected);
     EXPECT_EQ(sharedList(RuleCategory::commonPath), expected);
@@ -36,8 +34,8 @@ TEST_F(AddRulesTest, AFolderRecordHoldsExactlyAnIntegerFlagThePathAndItsLastComp
 }
 
 TEST_F(AddRulesTest, TheSameFolderAddedTwiceYieldsTwoEqualRecords) {
-    choose(&Controller::addCommonPathRule, {"/a/Zoo"});
-    choose(&Controller::addCommonPathRule, {"/a/Zoo"});
+    choose(RuleCategory::commonPath, {"/a/Zoo"});
+    choose(RuleCategory::commonPath, {"/a/Zoo"});
     const auto& list = localList(RuleCategory::commonPath);
     ASSERT_EQ(list.size(), 2U);
     EXPECT_EQ(list[0], list[1]);
@@ -45,7 +43,7 @@ TEST_F(AddRulesTest, TheSameFolderAddedTwiceYieldsTwoEqualRecords) {
 
 TEST_F(AddRulesTest, ATemplateIsCopiedUnderItsOwnNameBeforeItsRecordIsMade) {
     platform_.files.files["/home/Archive.tar.gz"] = "archive";
-    choose(&Controller::addCreateNewFileRule, {"/home/Archive.tar.gz"});
+    choose(RuleCategory::createNewFile, {"/home/Archive.tar.gz"});
     EXPECT_EQ(platform_.files.files["/container/Templates/CreateNewFile/Archive.tar.gz"], "archive");
     EXPECT_EQ(localList(RuleCategory::createNewFile).back(),
         PlistValue(PlistDictionary{
@@ -56,22 +54,22 @@ TEST_F(AddRulesTest, ATemplateIsCopiedUnderItsOwnNameBeforeItsRecordIsMade) {
 TEST_F(AddRulesTest, ATemplateWhoseNameIsTakenIsLeftOutAndTheOthersAreStillAdded) {
     platform_.files.files["/home/Word.docx"] = "mine";
     platform_.files.files["/home/Letter.txt"] = "letter";
-    choose(&Controller::addCreateNewFileRule, {"/home/Word.docx", "/home/Letter.txt"});
-    EXPECT_EQ(controller_.numberOfRows(RuleCategory::createNewFile), 16);
+    choose(RuleCategory::createNewFile, {"/home/Word.docx", "/home/Letter.txt"});
+    EXPECT_EQ(rows(RuleCategory::createNewFile), 16);
     EXPECT_EQ(texts(localList(RuleCategory::createNewFile), "displayName").back(), "Letter");
     EXPECT_EQ(platform_.files.files["/container/Templates/CreateNewFile/Word.docx"], "template docx");
-    EXPECT_TRUE(platform_.alerts.shown.size() == 1U); // the prompt of the launch alone
+    EXPECT_TRUE(platform_.panels.alerts.empty()); // the prompt of the launch alone
 }
 
 TEST_F(AddRulesTest, TheFolderIsRememberedEvenWhenEveryCopyFailed) {
-    choose(&Controller::addCreateNewFileRule, {"/nowhere/Gone.txt"});
-    EXPECT_EQ(controller_.numberOfRows(RuleCategory::createNewFile), 15);
+    choose(RuleCategory::createNewFile, {"/nowhere/Gone.txt"});
+    EXPECT_EQ(rows(RuleCategory::createNewFile), 15);
     EXPECT_EQ(local("prePathOfCreateNewFile"), PlistValue("/nowhere"));
 }
 
 TEST_F(AddRulesTest, AFileWithoutExtensionGivesAnEmptyExtension) {
     platform_.files.files["/home/Makefile"] = "all:";
-    choose(&Controller::addCreateNewFileRule, {"/home/Makefile"});
+    choose(RuleCategory::createNewFile, {"/home/Makefile"});
     const auto& list = localList(RuleCategory::createNewFile);
     EXPECT_EQ(texts(list, "displayName").back(), "Makefile");
     EXPECT_EQ(texts(list, "extension").back(), "");
@@ -79,7 +77,7 @@ TEST_F(AddRulesTest, AFileWithoutExtensionGivesAnEmptyExtension) {
 
 TEST_F(AddRulesTest, APictureKeepsItsExtensionInTheNameAndItsBytesInTheRecord) {
     platform_.images.pictureFiles["/home/Blue.png"] = "tiff of blue";
-    choose(&Controller::addCustomIconRule, {"/home/Blue.png"});
+    choose(RuleCategory::customIcon, {"/home/Blue.png"});
     EXPECT_EQ(localList(RuleCategory::customIcon).back(),
         PlistValue(PlistDictionary{{"enable", 1}, {"icon", tiffOf("tiff of blue")},
             {"displayName", "Blue.png"}, {"modified", "1"}}));
@@ -87,13 +85,13 @@ TEST_F(AddRulesTest, APictureKeepsItsExtensionInTheNameAndItsBytesInTheRecord) {
 }
 
 TEST_F(AddRulesTest, AnUnreadablePictureIsSkippedSilently) {
-    choose(&Controller::addCustomIconRule, {"/home/Broken.png"});
-    EXPECT_EQ(controller_.numberOfRows(RuleCategory::customIcon), 20);
+    choose(RuleCategory::customIcon, {"/home/Broken.png"});
+    EXPECT_EQ(rows(RuleCategory::customIcon), 20);
     EXPECT_TRUE(platform_.systemLog.lines.empty());
 }
 
 TEST_F(AddRulesTest, AnOthersItemTakesNameAndIconFromTheBuiltInImageOfThatName) {
-    choose(&Controller::addOthersRule, {"/container/Templates/OthersMenuItemIcon/Copy Path.png"});
+    choose(RuleCategory::others, {"/container/Templates/OthersMenuItemIcon/Copy Path.png"});
     EXPECT_EQ(localList(RuleCategory::others).back(),
         PlistValue(PlistDictionary{{"enable", 1}, {"icon", tiffOf("tiff of Copy Path")},
             {"displayName", "Copy Path"}, {"nameModified", "0"}, {"noteModified", "0"},
@@ -102,24 +100,24 @@ TEST_F(AddRulesTest, AnOthersItemTakesNameAndIconFromTheBuiltInImageOfThatName) 
 
 TEST_F(AddRulesTest, AnOthersNameWithoutBuiltInImageIsSkippedSilently) {
     platform_.images.missingNames.insert("Safari");
-    choose(&Controller::addOthersRule, {"/home/Safari.png"});
-    EXPECT_EQ(controller_.numberOfRows(RuleCategory::others), 18);
+    choose(RuleCategory::others, {"/home/Safari.png"});
+    EXPECT_EQ(rows(RuleCategory::others), 18);
     EXPECT_TRUE(platform_.systemLog.lines.empty());
 }
 
 TEST_F(AddRulesTest, CancellingChangesNothingNotEvenTheRememberedFolder) {
     const auto before = platform_.preferences.local;
-    controller_.addSendFilesToRule();
+    editing_.adding.add(RuleCategory::copyFilesTo);
     platform_.log.clear();
-    platform_.openPanel.cancel();
+    platform_.panels.cancel();
     EXPECT_EQ(platform_.preferences.local, before);
     EXPECT_TRUE(platform_.log.lines().empty());
 }
 
 TEST_F(AddRulesTest, TheFolderIsRememberedThenTheListStoredThenTheTableReloadedThenTheListPublished) {
-    controller_.addSendFilesToRule();
+    editing_.adding.add(RuleCategory::copyFilesTo);
     platform_.log.clear();
-    platform_.openPanel.choose({"/a/Zoo"});
+    platform_.panels.confirm({"/a/Zoo"});
     EXPECT_EQ(platform_.log.lines(),
         (std::vector<std::string>{"local set prePathOfSendFilesTo", "local set arrOfCopyFilesTo",
             "local synchronise", "reload copyFilesTo", "shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
@@ -127,42 +125,42 @@ TEST_F(AddRulesTest, TheFolderIsRememberedThenTheListStoredThenTheTableReloadedT
 }
 
 TEST_F(AddRulesTest, OthersRemembersNoFolder) {
-    controller_.addOthersRule();
+    editing_.adding.add(RuleCategory::others);
     platform_.log.clear();
-    platform_.openPanel.choose({"/x/Cut.png"});
+    platform_.panels.confirm({"/x/Cut.png"});
     EXPECT_EQ(platform_.log.lines().front(), "local set arrOfOthers");
 }
 
 TEST_F(AddRulesTest, AddingKeepsTheSelectionAndTheRemoveButton) {
-    window_.table(RuleCategory::copyFilesTo).selected = -1;
-    choose(&Controller::addSendFilesToRule, {"/a/Zoo"});
-    EXPECT_EQ(window_.table(RuleCategory::copyFilesTo).selected, -1);
-    EXPECT_FALSE(window_.removeButton(RuleCategory::copyFilesTo).enabled);
+    tables_.table(RuleCategory::copyFilesTo).selected = -1;
+    tables_.table(RuleCategory::copyFilesTo).canRemove = false;
+    choose(RuleCategory::copyFilesTo, {"/a/Zoo"});
+    EXPECT_EQ(tables_.table(RuleCategory::copyFilesTo).selected, -1);
+    EXPECT_FALSE(tables_.table(RuleCategory::copyFilesTo).canRemove);
 }
 
 TEST_F(AddRulesTest, WithoutARememberedFolderTheChooserOpensAtTheDesktopOfTheLoginName) {
-    for (const auto add : {&Controller::addCreateNewFileRule, &Controller::addSendFilesToRule,
-             &Controller::addCommonPathRule, &Controller::addCustomIconRule}) {
-        (controller_.*add)();
+    for (const auto add : {RuleCategory::createNewFile, RuleCategory::copyFilesTo, RuleCategory::commonPath,
+             RuleCategory::customIcon}) {
+        editing_.adding.add(add);
         EXPECT_EQ(lastRequest().startFolder, "/Users/anna/Desktop");
     }
 }
 
 TEST_F(AddRulesTest, ARememberedFolderIsWhereTheChooserOpensNext) {
-    choose(&Controller::addSendFilesToRule, {"/a/b/Zoo"});
-    controller_.addSendFilesToRule();
+    choose(RuleCategory::copyFilesTo, {"/a/b/Zoo"});
+    editing_.adding.add(RuleCategory::copyFilesTo);
     EXPECT_EQ(lastRequest().startFolder, "/a/b");
 }
 
 TEST_F(AddRulesTest, ARememberedFolderOfTheWrongTypeReadsAsMissing) {
     platform_.preferences.local.insert_or_assign("prePathOfCommonPath", 7);
-    controller_.addCommonPathRule();
+    editing_.adding.add(RuleCategory::commonPath);
     EXPECT_EQ(lastRequest().startFolder, "/Users/anna/Desktop");
 }
 
 struct ChooserCase {
     RuleCategory category;
-    void (Controller::*add)();
     OpenPanelRequest expected;
 };
 
@@ -173,7 +171,7 @@ void PrintTo(const ChooserCase& chooser, std::ostream* stream) {
 class ChooserTest : public AddRulesTest, public ::testing::WithParamInterface<ChooserCase> {};
 
 TEST_P(ChooserTest, IsSetUpForItsCategory) {
-    (controller_.*GetParam().add)();
+    editing_.adding.add(GetParam().category);
     EXPECT_EQ(lastRequest(), GetParam().expected);
 }
 
@@ -192,16 +190,12 @@ OpenPanelRequest request(bool files, std::vector<std::string> types, bool hidden
 constexpr const char* desktop = "/Users/anna/Desktop";
 
 INSTANTIATE_TEST_SUITE_P(Every, ChooserTest,
-    ::testing::Values(ChooserCase{RuleCategory::createNewFile, &Controller::addCreateNewFileRule,
-                          request(true, {}, false, desktop)},
+    ::testing::Values(ChooserCase{RuleCategory::createNewFile, request(true, {}, false, desktop)},
+        ChooserCase{RuleCategory::copyFilesTo, request(false, {}, false, desktop)},
+        ChooserCase{RuleCategory::commonPath, request(false, {}, false, desktop)},
+        ChooserCase{RuleCategory::customIcon, request(true, {"png"}, false, desktop)},
         ChooserCase{
-            RuleCategory::copyFilesTo, &Controller::addSendFilesToRule, request(false, {}, false, desktop)},
-        ChooserCase{
-            RuleCategory::commonPath, &Controller::addCommonPathRule, request(false, {}, false, desktop)},
-        ChooserCase{
-            RuleCategory::customIcon, &Controller::addCustomIconRule, request(true, {"png"}, false, desktop)},
-        ChooserCase{RuleCategory::others, &Controller::addOthersRule,
-            request(true, {"png"}, true, "/container/Templates/OthersMenuItemIcon")}));
+            RuleCategory::others, request(true, {"png"}, true, "/container/Templates/OthersMenuItemIcon")}));
 
 } // namespace
 } // namespace tarnwick::testing

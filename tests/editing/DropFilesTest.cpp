@@ -1,5 +1,5 @@
 #include "editing/DropFiles.h"
-#include "tests/support/SettingsFixture.h"
+#include "tests/support/EditingFixture.h"
 
 namespace tarnwick::testing {
 namespace {
@@ -7,13 +7,13 @@ namespace {
 const std::vector<DroppedItem> mixture{{"/a/Folder", true}, {"/a/File.txt", false}, {"/a/Picture.png", false},
     {"/a/LOUD.PNG", false}, {"/a/png", false}};
 
-class DropFilesTest : public SettingsFixture {
+class DropFilesTest : public EditingFixture {
 protected:
     void SetUp() override { launch(); }
     /// The last components of what the category takes of the mixture.
     [[nodiscard]] std::vector<std::string> taken(RuleCategory category) const {
         std::vector<std::string> names;
-        for (const auto& path : controller_.droppablePaths(category, mixture)) {
+        for (const auto& path : droppablePaths(category, mixture)) {
             names.push_back(path.substr(3));
         }
         return names;
@@ -39,15 +39,15 @@ TEST_F(DropFilesTest, TheListOfFurtherItemsTakesNothing) {
 }
 
 TEST_F(DropFilesTest, ADropIsAddedAsIfChosenButRemembersNoFolder) {
-    controller_.addDroppedItems(RuleCategory::commonPath, mixture);
+    editing_.adding.addDropped(RuleCategory::commonPath, mixture);
     EXPECT_EQ(texts(localList(RuleCategory::commonPath), "realPath"), Names{"/a/Folder"});
     EXPECT_EQ(texts(sharedList(RuleCategory::commonPath), "displayName"), Names{"Folder"});
     EXPECT_EQ(platform_.preferences.local.count("prePathOfCommonPath"), 0U);
 }
 
 TEST_F(DropFilesTest, ADropOfNothingThatIsTakenChangesNothing) {
-    EXPECT_FALSE(controller_.addDroppedItems(RuleCategory::commonPath, {{"/a/File.txt", false}}));
-    EXPECT_FALSE(controller_.addDroppedItems(RuleCategory::others, mixture));
+    EXPECT_FALSE(editing_.adding.addDropped(RuleCategory::commonPath, {{"/a/File.txt", false}}));
+    EXPECT_FALSE(editing_.adding.addDropped(RuleCategory::others, mixture));
     EXPECT_TRUE(platform_.log.lines().empty());
 }
 

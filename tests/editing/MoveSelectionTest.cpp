@@ -11,16 +11,18 @@ protected:
     void launchWithPaths(const std::string& letters, long selected) {
         storeLetters(RuleCategory::commonPath, letters);
         launch();
-        window_.table(RuleCategory::commonPath).selected = selected;
+        tables_.table(RuleCategory::commonPath).selected = selected;
         platform_.log.clear();
     }
     [[nodiscard]] long selected(RuleCategory category = RuleCategory::commonPath) {
-        return window_.table(category).selected;
+        return tables_.table(category).selected;
     }
     [[nodiscard]] bool canMove(MoveDirection direction) const {
-        return controller_.canMoveSelectedRule(RuleCategory::commonPath, direction);
+        return editing_.reordering.canMoveSelection(RuleCategory::commonPath, direction);
     }
-    void move(MoveDirection direction) { controller_.moveSelectedRule(RuleCategory::commonPath, direction); }
+    void move(MoveDirection direction) {
+        editing_.reordering.moveSelection(RuleCategory::commonPath, direction);
+    }
 };
 
 TEST_F(MoveSelectionTest, UpChangesPlacesWithTheRowBeforeAndStaysSelected) {
@@ -43,17 +45,11 @@ TEST_F(MoveSelectionTest, AMoveIsTheDropItselfAndThenASelection) {
     const auto moved = platform_.log.lines();
 
     platform_.log.clear();
-    controller_.acceptDrop(RuleCategory::commonPath, RuleCategory::commonPath, 1, 0);
+    editing_.reordering.acceptDrop(RuleCategory::commonPath, RuleCategory::commonPath, 1, 0);
     auto expected = platform_.log.lines();
     ASSERT_FALSE(expected.empty());
-    expected.insert(expected.end(), {"select commonPath 1", "enable remove commonPath"});
+    expected.push_back("select commonPath 1");
     EXPECT_EQ(moved, expected);
-}
-
-TEST_F(MoveSelectionTest, TheRemoveButtonFollowsTheSelection) {
-    launchWithPaths("ABC", 0);
-    move(down);
-    EXPECT_TRUE(window_.removeButton(RuleCategory::commonPath).enabled);
 }
 
 TEST_F(MoveSelectionTest, NothingMovesWithoutASelectionOrPastTheEnds) {
@@ -62,11 +58,11 @@ TEST_F(MoveSelectionTest, NothingMovesWithoutASelectionOrPastTheEnds) {
     EXPECT_FALSE(canMove(down));
     move(up);
     move(down);
-    window_.table(RuleCategory::commonPath).selected = 0;
+    tables_.table(RuleCategory::commonPath).selected = 0;
     EXPECT_FALSE(canMove(up));
     EXPECT_TRUE(canMove(down));
     move(up);
-    window_.table(RuleCategory::commonPath).selected = 1;
+    tables_.table(RuleCategory::commonPath).selected = 1;
     EXPECT_TRUE(canMove(up));
     EXPECT_FALSE(canMove(down));
     move(down);
@@ -78,16 +74,16 @@ TEST_F(MoveSelectionTest, AFixedItemStaysWhereItIsAndSelected) {
     launch();
     constexpr auto category = RuleCategory::others;
     const auto before = others();
-    auto& table = window_.table(category);
-    for (table.selected = 0; controller_.canMoveSelectedRule(category, down); ++table.selected) {
-        const auto cell = controller_.viewForTableColumn(category, "OthersDisplayName", table.selected);
-        if (std::get_if<TextFieldCell>(&cell.control)->text == "Translate by Google") {
+    auto& table = tables_.table(category);
+    for (table.selected = 0; editing_.reordering.canMoveSelection(category, down); ++table.selected) {
+        const auto row = static_cast<std::size_t>(table.selected);
+        if (list(category)[row].text(field::action) == "Translate by Google") {
             break;
         }
     }
     const auto row = table.selected;
     platform_.log.clear();
-    controller_.moveSelectedRule(category, up);
+    editing_.reordering.moveSelection(category, up);
     EXPECT_EQ(others(), before);
     EXPECT_EQ(table.selected, row);
     EXPECT_TRUE(platform_.log.linesWith("local set").empty());
@@ -98,8 +94,8 @@ TEST_F(MoveSelectionTest, AnOthersItemAboveTheNumberOfIconsIsDroppedWhereItWas) 
     launch();
     constexpr auto category = RuleCategory::others;
     const auto before = others();
-    window_.table(category).selected = 2;
-    controller_.moveSelectedRule(category, down);
+    tables_.table(category).selected = 2;
+    editing_.reordering.moveSelection(category, down);
     // The gap is counted against the custom icons: there it is the last one.
     EXPECT_EQ(others(), before);
     EXPECT_EQ(selected(category), 2);

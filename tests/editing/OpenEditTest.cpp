@@ -15,15 +15,13 @@ protected:
         platform_.files.createFolder("/container/Templates/CreateNewFile");
         launch();
         for (const auto category : allRuleCategories) {
-            window_.table(category).selected = 1;
+            tables_.table(category).selected = 1;
         }
     }
 
     /// From now on the field of the second row holds "New".
     void type(std::string_view identifier) {
-        window_.rowEditing.edit = [this, identifier] {
-            controller_.controlTextShouldEndEditing(identifier, 1, "New");
-        };
+        tables_.openEdit = [this, identifier] { editing_.textEditing.endEditing(identifier, 1, "New"); };
     }
     [[nodiscard]] std::vector<std::string> names(RuleCategory category) const {
         return texts(localList(category), "displayName");
@@ -49,7 +47,7 @@ protected:
 
 TEST_F(OpenEditTest, RemovingTakesTheEditedRowAndLeavesTheNextOneItsName) {
     type("CustomIconName");
-    controller_.removeCustomIconRule();
+    editing_.removing.remove(RuleCategory::customIcon);
     expectNames(RuleCategory::customIcon, {"A", "C", "D"});
     EXPECT_EQ(texts(localList(RuleCategory::customIcon), "modified"), std::vector<std::string>(3, "-"));
     expectTheEditCameFirst("arrOfCustomIcon");
@@ -60,7 +58,7 @@ TEST_F(OpenEditTest, RemovingATemplateRemovesTheFileUnderItsNewName) {
     platform_.files.files[folder + "B."] = "b";
     platform_.files.files[folder + "C."] = "c";
     type("NewFileDisplayName");
-    controller_.removeCreateNewFileRule();
+    editing_.removing.remove(RuleCategory::createNewFile);
     expectNames(RuleCategory::createNewFile, {"A", "C", "D"});
     EXPECT_FALSE(platform_.files.exists(folder + "B."));
     EXPECT_FALSE(platform_.files.exists(folder + "New."));
@@ -69,7 +67,7 @@ TEST_F(OpenEditTest, RemovingATemplateRemovesTheFileUnderItsNewName) {
 
 TEST_F(OpenEditTest, TheListThatAResetMakesDoesNotHoldTheTypedName) {
     type("OthersDisplayName");
-    controller_.resetOthersRule();
+    editing_.resetting.reset(RuleCategory::others);
     const auto stored = names(RuleCategory::others);
     EXPECT_EQ(stored.size(), 18U);
     EXPECT_EQ(std::count(stored.begin(), stored.end(), "New"), 0);
@@ -78,20 +76,20 @@ TEST_F(OpenEditTest, TheListThatAResetMakesDoesNotHoldTheTypedName) {
 
 TEST_F(OpenEditTest, MovingTheSelectedRowTakesItsNewNameAlong) {
     type("commonPathDisplayName");
-    controller_.moveSelectedRule(RuleCategory::commonPath, MoveDirection::down);
+    editing_.reordering.moveSelection(RuleCategory::commonPath, MoveDirection::down);
     expectNames(RuleCategory::commonPath, {"A", "C", "New", "D"});
 }
 
 TEST_F(OpenEditTest, ADroppedRowLandsAfterTheNameIsStored) {
     type("commonPathDisplayName");
-    controller_.acceptDrop(RuleCategory::commonPath, RuleCategory::commonPath, 3, 0);
+    editing_.reordering.acceptDrop(RuleCategory::commonPath, RuleCategory::commonPath, 3, 0);
     expectNames(RuleCategory::commonPath, {"D", "A", "New", "C"});
     expectTheEditCameFirst("arrOfCommonPath");
 }
 
 TEST_F(OpenEditTest, SwitchingAnotherRowStoresTheNameFirst) {
     type("CustomIconName");
-    controller_.onOffcheckedStateChangedOfCustomIcon(0, false);
+    editing_.toggling.setEnabled(RuleCategory::customIcon, 0, false);
     EXPECT_EQ(names(RuleCategory::customIcon), (std::vector<std::string>{"A", "New", "C", "D"}));
     EXPECT_EQ(publishedNames(RuleCategory::customIcon), (std::vector<std::string>{"New", "C", "D"}));
     expectTheEditCameFirst("arrOfCustomIcon");
@@ -100,86 +98,68 @@ TEST_F(OpenEditTest, SwitchingAnotherRowStoresTheNameFirst) {
 TEST_F(OpenEditTest, SwitchingAllKeepsWhatTheSwitchHasStored) {
     type("CustomIconName");
     platform_.preferences.local.insert_or_assign("enableAllOfCustomIcon", false);
-    controller_.enableAllOfCustomIconClick();
+    editing_.toggling.enableAll(RuleCategory::customIcon);
     EXPECT_EQ(names(RuleCategory::customIcon), (std::vector<std::string>{"A", "New", "C", "D"}));
     EXPECT_TRUE(publishedNames(RuleCategory::customIcon).empty());
     expectTheEditCameFirst("arrOfCustomIcon");
 }
 
-TEST_F(OpenEditTest, ShowingAnotherPageStoresTheName) {
-    type("commonPathDisplayName");
-    controller_.customIconFolder();
-    expectNames(RuleCategory::commonPath, {"A", "New", "C", "D"});
-    EXPECT_EQ(platform_.log.lines().front(), "end edit");
-}
-
 TEST_F(OpenEditTest, AnAddThatIsCancelledStoresTheNameAlone) {
     type("commonPathDisplayName");
-    controller_.addCommonPathRule();
-    platform_.openPanel.cancel();
+    editing_.adding.add(RuleCategory::commonPath);
+    platform_.panels.cancel();
     expectNames(RuleCategory::commonPath, {"A", "New", "C", "D"});
 }
 
 TEST_F(OpenEditTest, ANameTypedWhileTheChooserIsOpenIsStoredBeforeWhatIsChosen) {
-    controller_.addCommonPathRule();
+    editing_.adding.add(RuleCategory::commonPath);
     platform_.log.clear();
     type("commonPathDisplayName");
-    platform_.openPanel.choose({"/folders/E"});
+    platform_.panels.confirm({"/folders/E"});
     expectNames(RuleCategory::commonPath, {"A", "New", "C", "D", "E"});
     expectTheEditCameFirst("arrOfCommonPath");
 }
 
 TEST_F(OpenEditTest, ACancelledChooserLeavesTheEditOpen) {
-    controller_.addCommonPathRule();
+    editing_.adding.add(RuleCategory::commonPath);
     type("commonPathDisplayName");
-    platform_.openPanel.cancel();
-    EXPECT_TRUE(window_.rowEditing.edit);
+    platform_.panels.cancel();
+    EXPECT_TRUE(tables_.openEdit);
     EXPECT_EQ(names(RuleCategory::commonPath), (std::vector<std::string>{"A", "B", "C", "D"}));
 }
 
 TEST_F(OpenEditTest, AFolderChosenForTheEditedRowClearsItsTypedName) {
     type("Note");
-    controller_.selectPath(1);
+    editing_.pathChoosing.selectPath(1);
     EXPECT_EQ(names(RuleCategory::copyFilesTo), (std::vector<std::string>{"A", "New", "C", "D"}));
     type("Note");
-    platform_.openPanel.choose({"/folders/E"});
+    platform_.panels.confirm({"/folders/E"});
     expectNames(RuleCategory::copyFilesTo, {"A", "", "C", "D"});
     EXPECT_EQ(texts(localList(RuleCategory::copyFilesTo), "realPath")[1], "/folders/E");
 }
 
 TEST_F(OpenEditTest, DroppedFoldersAreAddedAfterTheNameIsStored) {
     type("commonPathDisplayName");
-    EXPECT_TRUE(controller_.addDroppedItems(RuleCategory::commonPath, {{"/folders/E", true}}));
+    EXPECT_TRUE(editing_.adding.addDropped(RuleCategory::commonPath, {{"/folders/E", true}}));
     expectNames(RuleCategory::commonPath, {"A", "New", "C", "D", "E"});
     expectTheEditCameFirst("arrOfCommonPath");
 }
 
 TEST_F(OpenEditTest, ADropThatTakesNothingLeavesTheEditOpen) {
     type("commonPathDisplayName");
-    EXPECT_FALSE(controller_.addDroppedItems(RuleCategory::commonPath, {{"/folders/E.txt", false}}));
-    EXPECT_TRUE(window_.rowEditing.edit);
-}
-
-TEST_F(OpenEditTest, AClickInATableAndAMirroredSwitchLeaveTheEditOpen) {
-    type("commonPathDisplayName");
-    controller_.commonPathViewClick();
-    controller_.observeValue("enableCommonPath", false);
-    static_cast<void>(controller_.numberOfRows(RuleCategory::commonPath));
-    static_cast<void>(controller_.canMoveSelectedRule(RuleCategory::commonPath, MoveDirection::up));
-    EXPECT_TRUE(window_.rowEditing.edit);
+    EXPECT_FALSE(editing_.adding.addDropped(RuleCategory::commonPath, {{"/folders/E.txt", false}}));
+    EXPECT_TRUE(tables_.openEdit);
 }
 
 TEST_F(OpenEditTest, AnEditThatIsEndedMarksItsRecordAlsoWithTheSameText) {
-    window_.rowEditing.edit = [this] {
-        controller_.controlTextShouldEndEditing("OthersDisplayName", 1, "B");
-    };
-    controller_.endEditing();
+    tables_.openEdit = [this] { editing_.textEditing.endEditing("OthersDisplayName", 1, "B"); };
+    editing_.editor.endEditing();
     EXPECT_EQ(texts(localList(RuleCategory::others), "nameModified")[1], "1");
-    EXPECT_FALSE(window_.rowEditing.edit);
+    EXPECT_FALSE(tables_.openEdit);
 }
 
 TEST_F(OpenEditTest, WithoutAnEditNothingIsEnded) {
-    controller_.removeOthersRule();
+    editing_.removing.remove(RuleCategory::others);
     EXPECT_EQ(platform_.log.linesWith("end edit").size(), 0U);
 }
 

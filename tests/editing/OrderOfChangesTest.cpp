@@ -6,28 +6,30 @@ namespace {
 INSTANTIATE_TEST_SUITE_P(Switching, OrderOfEffectsTest,
     ::testing::Values(
         Effects{"ATemplate",
-            [](auto& window) { window.controller().onOffcheckedStateChangedOfCreateNewFile(0, true); },
+            [](auto& window) { window.editing().toggling.setEnabled(RuleCategory::createNewFile, 0, true); },
             stored("arrOfCreateNewFile") + Lines{"reload createNewFile"} + publishedTemplates()},
         Effects{"ATemplateInTheMainMenu",
-            [](auto& window) { window.controller().onOffEnableMainMenuStateChangedOfCreateNewFile(0, true); },
+            [](auto& window) { window.editing().toggling.setEnabledInMainMenu(0, true); },
             stored("arrOfCreateNewFile") + Lines{"reload createNewFile"} + publishedTemplates()},
         Effects{"ATarget",
-            [](auto& window) { window.controller().onOffcheckedStateChangedOfCopyTo(0, true); },
+            [](auto& window) { window.editing().toggling.setEnabled(RuleCategory::copyFilesTo, 0, true); },
             stored("arrOfCopyFilesTo") + Lines{"reload copyFilesTo"} + publishedTargets()},
         Effects{"AnIcon",
-            [](auto& window) { window.controller().onOffcheckedStateChangedOfCustomIcon(0, false); },
+            [](auto& window) { window.editing().toggling.setEnabled(RuleCategory::customIcon, 0, false); },
             stored("arrOfCustomIcon") + Lines{"reload customIcon"} + publishedIcons(false)},
         Effects{"AnOthersItem",
-            [](auto& window) { window.controller().onOffcheckedStateChangedOfOthers(0, false); },
+            [](auto& window) { window.editing().toggling.setEnabled(RuleCategory::others, 0, false); },
             stored("arrOfOthers") + Lines{"reload others"} + publishedOthers(false)},
         Effects{"AFixedOthersItem",
-            [](auto& window) { window.controller().onOffcheckedStateChangedOfOthers(17, false); },
+            [](auto& window) { window.editing().toggling.setEnabled(RuleCategory::others, 17, false); },
             stored("arrOfOthers") + Lines{"reload others"} + publishedOthers()},
-        Effects{"AllTemplates", [](auto& window) { window.controller().enableAllOfCreateNewFilesClick(); },
+        Effects{"AllTemplates",
+            [](auto& window) { window.editing().toggling.enableAll(RuleCategory::createNewFile); },
             Lines{"reload createNewFile", "local set arrOfCreateNewFile"} + publishedTemplates()},
-        Effects{"AllIcons", [](auto& window) { window.controller().enableAllOfCustomIconClick(); },
+        Effects{"AllIcons",
+            [](auto& window) { window.editing().toggling.enableAll(RuleCategory::customIcon); },
             Lines{"reload customIcon", "local set arrOfCustomIcon"} + publishedIcons()},
-        Effects{"AllOthers", [](auto& window) { window.controller().enableAllOfOthersClick(); },
+        Effects{"AllOthers", [](auto& window) { window.editing().toggling.enableAll(RuleCategory::others); },
             Lines{"reload others", "local set arrOfOthers"} + publishedOthers()}),
     nameOf);
 
@@ -68,13 +70,14 @@ INSTANTIATE_TEST_SUITE_P(Editing, OrderOfEffectsTest,
     nameOf);
 
 INSTANTIATE_TEST_SUITE_P(Resetting, OrderOfEffectsTest,
-    ::testing::Values(Effects{"Targets", [](auto& window) { window.controller().resetCopyFilesToRule(); },
-                          stored("arrOfCopyFilesTo") +
-                              Lines{"reload copyFilesTo", "disable remove copyFilesTo"} + publishedTargets()},
-        Effects{"Icons", [](auto& window) { window.controller().resetCustomIconRule(); },
+    ::testing::Values(
+        Effects{"Targets", [](auto& window) { window.editing().resetting.reset(RuleCategory::copyFilesTo); },
+            stored("arrOfCopyFilesTo") + Lines{"reload copyFilesTo", "disable remove copyFilesTo"} +
+                publishedTargets()},
+        Effects{"Icons", [](auto& window) { window.editing().resetting.reset(RuleCategory::customIcon); },
             stored("arrOfCustomIcon") + Lines{"reload customIcon", "disable remove customIcon"} +
                 publishedIcons()},
-        Effects{"Others", [](auto& window) { window.controller().resetOthersRule(); },
+        Effects{"Others", [](auto& window) { window.editing().resetting.reset(RuleCategory::others); },
             stored("arrOfOthers") + Lines{"reload others", "disable remove others"} + publishedOthers()}),
     nameOf);
 

@@ -36,22 +36,22 @@ OrderOfEffectsTest::OrderOfEffectsTest() {
     platform_.images.pictureFiles["/home/Blue.png"] = "tiff of blue";
 }
 
-void OrderOfEffectsTest::add(void (Controller::*action)(), std::vector<std::string> paths) {
-    (controller_.*action)();
-    platform_.openPanel.choose(std::move(paths));
+void OrderOfEffectsTest::add(RuleCategory category, std::vector<std::string> paths) {
+    editing_.adding.add(category);
+    platform_.panels.confirm(std::move(paths));
 }
 
-void OrderOfEffectsTest::remove(void (Controller::*action)(), RuleCategory category, long row) {
-    window_.table(category).selected = row;
-    (controller_.*action)();
+void OrderOfEffectsTest::remove(RuleCategory category, long row) {
+    tables_.table(category).selected = row;
+    editing_.removing.remove(category);
 }
 
 void OrderOfEffectsTest::drop(RuleCategory category) {
-    EXPECT_TRUE(controller_.acceptDrop(category, category, 2, 0));
+    editing_.reordering.acceptDrop(category, category, 2, 0);
 }
 
 void OrderOfEffectsTest::edit(std::string_view identifier) {
-    EXPECT_TRUE(controller_.controlTextShouldEndEditing(identifier, 0, "New"));
+    editing_.textEditing.endEditing(identifier, 0, "New");
 }
 
 Lines operator+(Lines first, const Lines& second) {

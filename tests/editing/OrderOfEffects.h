@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/support/SettingsFixture.h"
+#include "tests/support/EditingFixture.h"
 
 #include <iosfwd>
 #include <string>
@@ -23,20 +23,18 @@ void PrintTo(const Effects& effects, std::ostream* stream);
 [[nodiscard]] std::string nameOf(const ::testing::TestParamInfo<Effects>& info);
 
 /// Three folders in each of the two folder lists, the factory rows in the other three.
-class OrderOfEffectsTest : public SettingsFixture, public ::testing::WithParamInterface<Effects> {
+class OrderOfEffectsTest : public EditingFixture, public ::testing::WithParamInterface<Effects> {
 public:
-    using Controller = SettingsViewController;
-
     OrderOfEffectsTest();
 
-    void add(void (Controller::*action)(), std::vector<std::string> paths);
-    /// Removes the given row of a table through its action.
-    void remove(void (Controller::*action)(), RuleCategory category, long row);
+    void add(RuleCategory category, std::vector<std::string> paths);
+    /// Removes the given row of a table.
+    void remove(RuleCategory category, long row);
     /// Drops the third row above the first.
     void drop(RuleCategory category);
     /// Ends the editing of a field in the first row with the text "New".
     void edit(std::string_view identifier);
-    [[nodiscard]] Controller& controller() { return controller_; }
+    [[nodiscard]] RuleEditing& editing() { return editing_; }
 };
 
 inline const std::string templates = "/container/Templates/CreateNewFile/";

@@ -5,8 +5,8 @@ namespace {
 
 class ReorderRulesTest : public LetterListTest {
 protected:
-    bool drop(RuleCategory category, long from, long to) {
-        return controller_.acceptDrop(category, category, from, to);
+    void drop(RuleCategory category, long from, long to) {
+        editing_.reordering.acceptDrop(category, category, from, to);
     }
 
     /// The editors that the load adds to an Others list without them are taken out again.
@@ -15,8 +15,8 @@ protected:
         storeLetters(RuleCategory::others, names);
         launch();
         for (int editor = 0; editor < 3; ++editor) {
-            window_.table(RuleCategory::others).selected = 6;
-            controller_.removeOthersRule();
+            tables_.table(RuleCategory::others).selected = 6;
+            editing_.removing.remove(RuleCategory::others);
         }
         platform_.log.clear();
     }
@@ -25,44 +25,44 @@ protected:
 TEST_F(ReorderRulesTest, MovingUpLandsExactlyInTheGap) {
     storeLetters(RuleCategory::commonPath, "01234");
     launch();
-    EXPECT_TRUE(drop(RuleCategory::commonPath, 3, 1));
+    drop(RuleCategory::commonPath, 3, 1);
     EXPECT_EQ(paths(), "03124");
 }
 
 TEST_F(ReorderRulesTest, DroppingBelowTheLastRowMovesToTheEnd) {
     storeLetters(RuleCategory::commonPath, "012");
     launch();
-    EXPECT_TRUE(drop(RuleCategory::commonPath, 0, 3));
+    drop(RuleCategory::commonPath, 0, 3);
     EXPECT_EQ(paths(), "120");
 }
 
 TEST_F(ReorderRulesTest, MovingDownLandsOnePlaceFurtherThanTheGap) {
     storeLetters(RuleCategory::commonPath, "0123");
     launch();
-    EXPECT_TRUE(drop(RuleCategory::commonPath, 0, 2));
+    drop(RuleCategory::commonPath, 0, 2);
     EXPECT_EQ(paths(), "1203");
 }
 
 TEST_F(ReorderRulesTest, ADropStoresWithoutSynchronisingThenPublishesReloadsAndDeselects) {
     storeLetters(RuleCategory::commonPath, "012");
     launch();
-    window_.table(RuleCategory::commonPath).selected = 0;
+    tables_.table(RuleCategory::commonPath).selected = 0;
     drop(RuleCategory::commonPath, 2, 0);
     EXPECT_EQ(platform_.log.lines(),
         (std::vector<std::string>{"local set arrOfCommonPath", "shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
             "shared set arrOfCommonPath", "shared synchronise", "reload commonPath", "deselect commonPath"}));
-    EXPECT_EQ(window_.table(RuleCategory::commonPath).selected, -1);
+    EXPECT_EQ(tables_.table(RuleCategory::commonPath).selected, -1);
 }
 
 class ReorderInTest : public ReorderRulesTest, public ::testing::WithParamInterface<RuleCategory> {};
 
 TEST_P(ReorderInTest, StoresAndPublishesTheMovedOrder) {
     launch();
-    controller_.resetCopyFilesToRule();
+    editing_.resetting.reset(RuleCategory::copyFilesTo);
     if (GetParam() == RuleCategory::commonPath) {
         for (const auto* folder : {"/a/A", "/a/B", "/a/C"}) {
-            controller_.addCommonPathRule();
-            platform_.openPanel.choose({folder});
+            editing_.adding.add(RuleCategory::commonPath);
+            platform_.panels.confirm({folder});
         }
     }
     const auto before = localList(GetParam());
@@ -79,25 +79,25 @@ INSTANTIATE_TEST_SUITE_P(Every, ReorderInTest, ::testing::ValuesIn(allRuleCatego
 
 TEST_F(ReorderRulesTest, ADragFromAnotherTableOrFromOutsideChangesNothingAndReportsSuccess) {
     launch();
-    EXPECT_TRUE(controller_.acceptDrop(RuleCategory::others, RuleCategory::customIcon, 0, 3));
-    EXPECT_TRUE(controller_.acceptDrop(RuleCategory::others, std::nullopt, 0, 3));
-    EXPECT_TRUE(controller_.acceptDrop(std::nullopt, std::nullopt, 0, 3));
+    editing_.reordering.acceptDrop(RuleCategory::others, RuleCategory::customIcon, 0, 3);
+    editing_.reordering.acceptDrop(RuleCategory::others, std::nullopt, 0, 3);
+    editing_.reordering.acceptDrop(std::nullopt, std::nullopt, 0, 3);
     EXPECT_TRUE(platform_.log.lines().empty());
 }
 
 TEST_F(ReorderRulesTest, AFixedActionCannotBeMovedNotEvenReloaded) {
     launch();
     for (const long row : {15L, 16L, 17L}) {
-        EXPECT_TRUE(drop(RuleCategory::others, row, 0));
+        drop(RuleCategory::others, row, 0);
     }
     EXPECT_TRUE(platform_.log.lines().empty());
 }
 
 TEST_F(ReorderRulesTest, ARowThatTheListDoesNotHaveIsNotMoved) {
     launch();
-    EXPECT_TRUE(drop(RuleCategory::customIcon, -1, 0));
-    EXPECT_TRUE(drop(RuleCategory::customIcon, 20, 0));
-    EXPECT_TRUE(drop(RuleCategory::customIcon, 0, -1));
+    drop(RuleCategory::customIcon, -1, 0);
+    drop(RuleCategory::customIcon, 20, 0);
+    drop(RuleCategory::customIcon, 0, -1);
     EXPECT_TRUE(platform_.log.lines().empty());
 }
 
@@ -115,43 +115,43 @@ TEST_F(ReorderRulesTest, OthersCountsTheCustomIconsSoTheGapOfThatNumberLandsOneH
 
 TEST_F(ReorderRulesTest, AnInsertionPastTheEndPutsTheRecordBackAndSavesNothing) {
     launchWithOthers("01234567", 5);
-    EXPECT_TRUE(drop(RuleCategory::others, 2, 8));
+    drop(RuleCategory::others, 2, 8);
     EXPECT_EQ(others(), "01234567");
     EXPECT_TRUE(platform_.log.lines().empty());
 }
 
 TEST_F(ReorderRulesTest, WithoutCustomIconsTheGapAboveTheFirstOthersRowHasNoPlace) {
     launch();
-    while (controller_.numberOfRows(RuleCategory::customIcon) > 0) {
-        window_.table(RuleCategory::customIcon).selected = 0;
-        controller_.removeCustomIconRule();
+    while (rows(RuleCategory::customIcon) > 0) {
+        tables_.table(RuleCategory::customIcon).selected = 0;
+        editing_.removing.remove(RuleCategory::customIcon);
     }
     const auto before = others();
     platform_.log.clear();
-    EXPECT_TRUE(drop(RuleCategory::others, 4, 0));
+    drop(RuleCategory::others, 4, 0);
     EXPECT_EQ(others(), before);
     EXPECT_TRUE(platform_.log.lines().empty());
 }
 
 TEST_F(ReorderRulesTest, ARenamedFixedActionStaysImmovable) {
     launch();
-    EXPECT_TRUE(controller_.controlTextShouldEndEditing("OthersDisplayName", 16, "Mine"));
+    editing_.textEditing.endEditing("OthersDisplayName", 16, "Mine");
     platform_.log.clear();
-    EXPECT_TRUE(drop(RuleCategory::others, 16, 0));
+    drop(RuleCategory::others, 16, 0);
     EXPECT_TRUE(platform_.log.lines().empty());
 }
 
 TEST_F(ReorderRulesTest, ARowDroppedInItsOwnGapStaysAndIsSavedAllTheSame) {
     storeLetters(RuleCategory::commonPath, "012");
     launch();
-    EXPECT_TRUE(drop(RuleCategory::commonPath, 1, 1));
+    drop(RuleCategory::commonPath, 1, 1);
     EXPECT_EQ(paths(), "012");
     EXPECT_TRUE(platform_.log.holds("shared set arrOfCommonPath"));
 }
 
 TEST_F(ReorderRulesTest, ADropBetweenRowsMayDoAnythingAndOnARowNothing) {
-    EXPECT_EQ(controller_.validateDrop(DropPlace::above), 0xFFFFFFFFU);
-    EXPECT_EQ(controller_.validateDrop(DropPlace::on), 0U);
+    EXPECT_EQ(validateDrop(DropPlace::above), 0xFFFFFFFFU);
+    EXPECT_EQ(validateDrop(DropPlace::on), 0U);
 }
 
 } // namespace

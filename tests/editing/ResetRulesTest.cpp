@@ -1,26 +1,26 @@
-#include "tests/support/SettingsFixture.h"
+#include "tests/support/EditingFixture.h"
 
 namespace tarnwick::testing {
 namespace {
 
-class ResetRulesTest : public SettingsFixture {
+class ResetRulesTest : public EditingFixture {
 protected:
     void SetUp() override { launch(); }
 };
 
 TEST_F(ResetRulesTest, ResettingOthersRebuildsReloadsDisablesTheRemoveButtonAndPublishes) {
-    window_.table(RuleCategory::others).selected = 3;
-    window_.removeButton(RuleCategory::others).enabled = true;
-    controller_.resetOthersRule();
+    tables_.table(RuleCategory::others).selected = 3;
+    tables_.table(RuleCategory::others).canRemove = true;
+    editing_.resetting.reset(RuleCategory::others);
     EXPECT_EQ(platform_.log.lines(),
         (std::vector<std::string>{"local set arrOfOthers", "local synchronise", "reload others",
             "disable remove others", "local set enableAllOfOthers",
             "shared open H7Q2ZK5RX9.org.halvane.Tarnwick", "shared set arrOfOthers", "shared synchronise"}));
-    EXPECT_FALSE(window_.removeButton(RuleCategory::others).enabled);
+    EXPECT_FALSE(tables_.table(RuleCategory::others).canRemove);
 }
 
 TEST_F(ResetRulesTest, ResettingTheTemplatesPublishesThemWholeLaysOutTheirFolderAndPublishesTheEnabledOnes) {
-    controller_.resetCreateNewFileRule();
+    editing_.resetting.reset(RuleCategory::createNewFile);
     std::vector<std::string> others;
     for (const auto& line : platform_.log.lines()) {
         if (line.rfind("copy ", 0) != 0) {
@@ -40,22 +40,22 @@ TEST_F(ResetRulesTest, ResettingTheTemplatesPublishesThemWholeLaysOutTheirFolder
 }
 
 TEST_F(ResetRulesTest, ResettingOthersDiscardsAddedItemsAndEditsAndRestoresRemovedOnes) {
-    window_.table(RuleCategory::others).selected = 0;
-    controller_.removeOthersRule();
-    controller_.addOthersRule();
-    platform_.openPanel.choose({"/x/Safari.png"});
-    EXPECT_TRUE(controller_.controlTextShouldEndEditing("OthersDisplayName", 0, "Mine"));
+    tables_.table(RuleCategory::others).selected = 0;
+    editing_.removing.remove(RuleCategory::others);
+    editing_.adding.add(RuleCategory::others);
+    platform_.panels.confirm({"/x/Safari.png"});
+    editing_.textEditing.endEditing("OthersDisplayName", 0, "Mine");
     platform_.preferences.userSets("enableAllOfOthers", false);
-    controller_.enableAllOfOthersClick();
-    controller_.resetOthersRule();
-    EXPECT_EQ(controller_.numberOfRows(RuleCategory::others), 18);
+    editing_.toggling.enableAll(RuleCategory::others);
+    editing_.resetting.reset(RuleCategory::others);
+    EXPECT_EQ(rows(RuleCategory::others), 18);
     EXPECT_EQ(texts(localList(RuleCategory::others), "Action").front(), "Cut");
     EXPECT_EQ(sharedList(RuleCategory::others).size(), 18U);
 }
 
 TEST_F(ResetRulesTest, ResettingTheTemplatesDeletesAddedFilesAndPublishesTheNineEnabledOnes) {
     platform_.files.files["/container/Templates/CreateNewFile/Mine.txt"] = "mine";
-    controller_.resetCreateNewFileRule();
+    editing_.resetting.reset(RuleCategory::createNewFile);
     EXPECT_FALSE(platform_.files.exists("/container/Templates/CreateNewFile/Mine.txt"));
     EXPECT_EQ(platform_.files.namesIn("/container/Templates/CreateNewFile").size(), 30U);
     EXPECT_EQ(localList(RuleCategory::createNewFile).size(), 15U);
@@ -63,7 +63,7 @@ TEST_F(ResetRulesTest, ResettingTheTemplatesDeletesAddedFilesAndPublishesTheNine
 }
 
 TEST_F(ResetRulesTest, ResettingTheTargetsGivesTheFourFoldersOfTheHome) {
-    controller_.resetCopyFilesToRule();
+    editing_.resetting.reset(RuleCategory::copyFilesTo);
     EXPECT_EQ(texts(localList(RuleCategory::copyFilesTo), "realPath"),
         (std::vector<std::string>{
             "/Users/anna/Downloads", "/Users/anna/Pictures", "/Users/anna/Music", "/Users/anna/Movies"}));
@@ -71,16 +71,16 @@ TEST_F(ResetRulesTest, ResettingTheTargetsGivesTheFourFoldersOfTheHome) {
 }
 
 TEST_F(ResetRulesTest, ResettingTheIconsGivesTheTwentyAgain) {
-    window_.table(RuleCategory::customIcon).selected = 0;
-    controller_.removeCustomIconRule();
-    controller_.resetCustomIconRule();
+    tables_.table(RuleCategory::customIcon).selected = 0;
+    editing_.removing.remove(RuleCategory::customIcon);
+    editing_.resetting.reset(RuleCategory::customIcon);
     EXPECT_EQ(localList(RuleCategory::customIcon).size(), 20U);
     EXPECT_EQ(sharedList(RuleCategory::customIcon).size(), 20U);
 }
 
 TEST_F(ResetRulesTest, TheOtherListsAndSwitchesAreUntouched) {
     auto before = platform_.preferences.local;
-    controller_.resetCopyFilesToRule();
+    editing_.resetting.reset(RuleCategory::copyFilesTo);
     auto after = platform_.preferences.local;
     before.erase("arrOfCopyFilesTo");
     after.erase("arrOfCopyFilesTo");
@@ -90,7 +90,7 @@ TEST_F(ResetRulesTest, TheOtherListsAndSwitchesAreUntouched) {
 TEST_F(ResetRulesTest, AResetWhoseImageIsMissingKeepsTheListAsItWas) {
     const auto before = localList(RuleCategory::customIcon);
     platform_.images.missingNames.insert("Word");
-    controller_.resetCustomIconRule();
+    editing_.resetting.reset(RuleCategory::customIcon);
     EXPECT_EQ(localList(RuleCategory::customIcon), before);
     EXPECT_EQ(platform_.systemLog.lines.size(), 1U);
 }

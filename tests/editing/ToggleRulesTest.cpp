@@ -1,10 +1,10 @@
 #include "prefs/PreferenceKeys.h"
-#include "tests/support/SettingsFixture.h"
+#include "tests/support/EditingFixture.h"
 
 namespace tarnwick::testing {
 namespace {
 
-class ToggleRulesTest : public SettingsFixture {
+class ToggleRulesTest : public EditingFixture {
 protected:
     [[nodiscard]] PlistValue storedFlag(
         RuleCategory category, std::size_t row, const std::string& key = "enable") const {
@@ -20,7 +20,7 @@ std::vector<std::string> rowSwitchOrder(const std::string& table, const std::str
 TEST_F(ToggleRulesTest, SwitchingOffRowTwoStoresTheIntegerZeroThereAndNothingElse) {
     launch();
     const auto before = localList(RuleCategory::createNewFile);
-    controller_.onOffcheckedStateChangedOfCreateNewFile(2, false);
+    editing_.toggling.setEnabled(RuleCategory::createNewFile, 2, false);
     const auto& after = localList(RuleCategory::createNewFile);
     EXPECT_EQ(storedFlag(RuleCategory::createNewFile, 2), PlistValue(0));
     for (std::size_t row = 0; row < before.size(); ++row) {
@@ -31,22 +31,22 @@ TEST_F(ToggleRulesTest, SwitchingOffRowTwoStoresTheIntegerZeroThereAndNothingEls
 
 TEST_F(ToggleRulesTest, SwitchingOnStoresTheIntegerOne) {
     launch();
-    controller_.onOffcheckedStateChangedOfCreateNewFile(12, true);
+    editing_.toggling.setEnabled(RuleCategory::createNewFile, 12, true);
     EXPECT_EQ(storedFlag(RuleCategory::createNewFile, 12), PlistValue(1));
 }
 
 TEST_F(ToggleRulesTest, TheMainMenuSwitchWritesItsOwnField) {
     launch();
-    controller_.onOffEnableMainMenuStateChangedOfCreateNewFile(1, true);
+    editing_.toggling.setEnabledInMainMenu(1, true);
     EXPECT_EQ(storedFlag(RuleCategory::createNewFile, 1, "enableMainMenu"), PlistValue(1));
     EXPECT_EQ(storedFlag(RuleCategory::createNewFile, 1), PlistValue("1"));
 }
 
 TEST_F(ToggleRulesTest, ARowSwitchStoresSynchronisesReloadsAndPublishes) {
     launch();
-    controller_.resetCopyFilesToRule();
+    editing_.resetting.reset(RuleCategory::copyFilesTo);
     platform_.log.clear();
-    controller_.onOffcheckedStateChangedOfCopyTo(1, false);
+    editing_.toggling.setEnabled(RuleCategory::copyFilesTo, 1, false);
     EXPECT_EQ(platform_.log.lines(), rowSwitchOrder("copyFilesTo", "arrOfCopyFilesTo"));
 }
 
@@ -54,7 +54,7 @@ TEST_F(ToggleRulesTest, ATargetWithoutFolderIsStoredOffHoweverItIsSwitched) {
     storeList(RuleCategory::copyFilesTo,
         {makeRecord({{"enable", 0}, {"realPath", "Undefined"}, {"displayName", ""}})});
     launch();
-    controller_.onOffcheckedStateChangedOfCopyTo(0, true);
+    editing_.toggling.setEnabled(RuleCategory::copyFilesTo, 0, true);
     EXPECT_EQ(storedFlag(RuleCategory::copyFilesTo, 0), PlistValue(0));
     EXPECT_EQ(platform_.log.lines(), rowSwitchOrder("copyFilesTo", "arrOfCopyFilesTo"));
 }
@@ -64,7 +64,7 @@ TEST_F(ToggleRulesTest, AFixedActionIsLeftAsItIsAndTheListStillSavedAndPublished
     const auto before = localList(RuleCategory::others);
     for (const long row : {15L, 16L, 17L}) {
         platform_.log.clear();
-        controller_.onOffcheckedStateChangedOfOthers(row, false);
+        editing_.toggling.setEnabled(RuleCategory::others, row, false);
         EXPECT_EQ(localList(RuleCategory::others), before);
         EXPECT_EQ(platform_.log.lines()[0], "local set arrOfOthers");
         EXPECT_EQ(platform_.log.lines().back(), "shared synchronise");
@@ -73,7 +73,7 @@ TEST_F(ToggleRulesTest, AFixedActionIsLeftAsItIsAndTheListStillSavedAndPublished
 
 TEST_F(ToggleRulesTest, ACustomIconIsSwitchedByItsRow) {
     launch();
-    controller_.onOffcheckedStateChangedOfCustomIcon(4, false);
+    editing_.toggling.setEnabled(RuleCategory::customIcon, 4, false);
     EXPECT_EQ(storedFlag(RuleCategory::customIcon, 4), PlistValue(0));
     EXPECT_EQ(sharedList(RuleCategory::customIcon).size(), 19U);
     EXPECT_EQ(local("enableAllOfCustomIcon"), PlistValue(false));
@@ -82,7 +82,7 @@ TEST_F(ToggleRulesTest, ACustomIconIsSwitchedByItsRow) {
 TEST_F(ToggleRulesTest, ARowThatTheListDoesNotHaveChangesNothing) {
     launch();
     for (const long row : {-1L, 15L, 1000L}) {
-        controller_.onOffcheckedStateChangedOfCreateNewFile(row, false);
+        editing_.toggling.setEnabled(RuleCategory::createNewFile, row, false);
     }
     EXPECT_TRUE(platform_.log.lines().empty());
 }
@@ -90,7 +90,7 @@ TEST_F(ToggleRulesTest, ARowThatTheListDoesNotHaveChangesNothing) {
 TEST_F(ToggleRulesTest, EnableAllOffStoresTheBooleanFalseEverywhereButInTheFixedActions) {
     launch();
     platform_.preferences.userSets("enableAllOfOthers", false);
-    controller_.enableAllOfOthersClick();
+    editing_.toggling.enableAll(RuleCategory::others);
     for (std::size_t row = 0; row < 15; ++row) {
         EXPECT_EQ(storedFlag(RuleCategory::others, row), PlistValue(false)) << row;
     }
@@ -103,7 +103,7 @@ TEST_F(ToggleRulesTest, EnableAllOffStoresTheBooleanFalseEverywhereButInTheFixed
 TEST_F(ToggleRulesTest, EnableAllOnStoresTheBooleanTrueInEveryRecord) {
     launch();
     platform_.preferences.userSets("enableAllOfCreateNewFiles", true);
-    controller_.enableAllOfCreateNewFilesClick();
+    editing_.toggling.enableAll(RuleCategory::createNewFile);
     for (std::size_t row = 0; row < 15; ++row) {
         EXPECT_EQ(storedFlag(RuleCategory::createNewFile, row), PlistValue(true)) << row;
     }
@@ -113,7 +113,7 @@ TEST_F(ToggleRulesTest, EnableAllOnStoresTheBooleanTrueInEveryRecord) {
 
 TEST_F(ToggleRulesTest, EnableAllReloadsThenStoresWithoutSynchronisingThenPublishes) {
     launch();
-    controller_.enableAllOfCustomIconClick();
+    editing_.toggling.enableAll(RuleCategory::customIcon);
     EXPECT_EQ(platform_.log.lines(),
         (std::vector<std::string>{"reload customIcon", "local set arrOfCustomIcon",
             "local set enableAllOfCustomIcon", "shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
@@ -122,58 +122,22 @@ TEST_F(ToggleRulesTest, EnableAllReloadsThenStoresWithoutSynchronisingThenPublis
 
 TEST_F(ToggleRulesTest, EnableAllOnAnEmptyListPublishesAnEmptyList) {
     launch();
-    while (controller_.numberOfRows(RuleCategory::customIcon) > 0) {
-        window_.table(RuleCategory::customIcon).selected = 0;
-        controller_.removeCustomIconRule();
+    while (rows(RuleCategory::customIcon) > 0) {
+        tables_.table(RuleCategory::customIcon).selected = 0;
+        editing_.removing.remove(RuleCategory::customIcon);
     }
     platform_.preferences.userSets("enableAllOfCustomIcon", false);
-    controller_.enableAllOfCustomIconClick();
+    editing_.toggling.enableAll(RuleCategory::customIcon);
     EXPECT_TRUE(sharedList(RuleCategory::customIcon).empty());
     EXPECT_EQ(local("enableAllOfCustomIcon"), PlistValue(true));
 }
 
 TEST_F(ToggleRulesTest, EnableAllLeavesAListWithoutSuchASwitchAlone) {
-    const auto ports = platform_.ports();
-    LocalPreferences preferences;
-    preferences.open(ports.preferences);
-    RuleLists lists;
-    RulePublisher publisher(ports.preferences, preferences, lists);
-    RulePages pages(lists, preferences, publisher);
-    lists[RuleCategory::commonPath].append(makeRecord({{"enable", 1}, {"realPath", "/a"}}));
-    platform_.log.clear();
-    ToggleRules(preferences, pages).enableAll(RuleCategory::commonPath);
-    EXPECT_TRUE(lists[RuleCategory::commonPath][0].isEnabled());
+    storeList(RuleCategory::commonPath, {makeRecord({{"enable", 1}, {"realPath", "/a"}})});
+    launch();
+    editing_.toggling.enableAll(RuleCategory::commonPath);
+    EXPECT_TRUE(list(RuleCategory::commonPath)[0].isEnabled());
     EXPECT_TRUE(platform_.log.lines().empty());
-}
-
-class MirroredKeyTest : public ToggleRulesTest, public ::testing::WithParamInterface<std::string_view> {};
-
-TEST_P(MirroredKeyTest, IsCopiedIntoTheSuiteAsABooleanAndSynchronised) {
-    launch();
-    for (const bool on : {false, true}) {
-        platform_.log.clear();
-        platform_.preferences.userSets(GetParam(), on);
-        EXPECT_EQ(shared(GetParam()), PlistValue(on));
-        EXPECT_EQ(platform_.log.lines(), (std::vector<std::string>{"local set " + std::string(GetParam()),
-                                             "shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
-                                             "shared set " + std::string(GetParam()), "shared synchronise"}));
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(Every, MirroredKeyTest, ::testing::ValuesIn(mirroredKeys));
-
-TEST_F(ToggleRulesTest, AMirroredIntegerArrivesAsABoolean) {
-    launch();
-    platform_.preferences.userSets("enableMoveFilesTo", 0);
-    EXPECT_EQ(shared("enableMoveFilesTo"), PlistValue(false));
-}
-
-TEST_F(ToggleRulesTest, TheTerminalSwitchesAreNotMirrored) {
-    launch();
-    for (const auto* key : {"newWindowOfOpenInTerminal", "newWindowOfOpenIniTerm2"}) {
-        platform_.preferences.userSets(key, false);
-        EXPECT_EQ(shared(key), PlistValue(true));
-    }
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "tests/fuzz/Driving.h"
 
 #include "tests/support/SettingsFixture.h"
-#include "ui/WindowLayout.h"
+#include "ui/RuleColumns.h"
 
 #include <algorithm>
 #include <string>
@@ -22,7 +22,8 @@ const PlistValue* valueAt(const PlistDictionary& store, const std::string& key) 
 } // namespace
 
 Program::Program(testing::InMemoryPlatform& platform)
-    : platform_(platform), window_(platform.log), controller_(platform.ports()) {
+    : platform_(platform), window_(platform.log, platform.preferences),
+      controller_(platform.ports(), window_) {
     testing::connect(platform_, window_, controller_);
 }
 
@@ -32,11 +33,11 @@ void Program::launch() {
 }
 
 void Program::showEverything() {
-    for (const auto& page : pageLayouts()) {
-        const auto rows = page.category ? controller_.numberOfRows(*page.category) : 0;
-        for (const auto& column : page.columns) {
+    for (const auto category : allRuleCategories) {
+        const auto rows = controller_.rows().count(category);
+        for (const auto& column : columnsOf(category)) {
             for (long row = -1; row <= rows; ++row) {
-                static_cast<void>(controller_.viewForTableColumn(*page.category, column.identifier, row));
+                static_cast<void>(controller_.rows().cell(category, column.identifier, row));
             }
         }
     }

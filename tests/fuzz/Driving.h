@@ -2,7 +2,7 @@
 
 #include "tests/support/InMemoryPlatform.h"
 #include "tests/support/InMemoryWindow.h"
-#include "ui/SettingsViewController.h"
+#include "ui/SettingsController.h"
 
 namespace tarnwick::fuzz {
 
@@ -14,12 +14,12 @@ public:
     void launch();
     /// Builds every cell of every table, and of the rows before and behind them.
     void showEverything();
-    [[nodiscard]] SettingsViewController& controller() { return controller_; }
+    [[nodiscard]] SettingsController& controller() { return controller_; }
 
 private:
     testing::InMemoryPlatform& platform_;
     testing::InMemoryWindow window_;
-    SettingsViewController controller_;
+    SettingsController controller_;
 };
 
 /// Whether `stored`, as it stood under the list key before, lost nothing: every element of it is in the

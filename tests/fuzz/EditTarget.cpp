@@ -1,8 +1,8 @@
 // Sequences of edits through the controller, each also done to the model of the editing tests.
 
-#include "tests/editing/RandomWalk.h"
 #include "tests/fuzz/FuzzInput.h"
 #include "tests/fuzz/Require.h"
+#include "tests/model/RandomWalk.h"
 
 namespace {
 

@@ -1,11 +1,7 @@
 // Reading one stored value into a list: the dictionaries of an array, in order and unchanged, and nothing
 // else.
 
-#include "prefs/FactoryLists.h"
-#include "prefs/LocalPreferences.h"
-#include "prefs/PreferenceLoading.h"
-#include "prefs/RuleList.h"
-#include "prefs/RulePublisher.h"
+#include "prefs/Preferences.h"
 #include "tests/fuzz/FuzzInput.h"
 #include "tests/fuzz/Require.h"
 #include "tests/support/InMemoryPlatform.h"
@@ -56,15 +52,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     testing::InMemoryPlatform platform;
     platform.preferences.local.insert_or_assign(std::string(factsOf(category).listKey), stored);
 
-    const auto ports = platform.ports();
-    LocalPreferences local;
-    RuleLists lists;
-    RulePublisher publisher(platform.preferences, local, lists);
-    FactoryLists factory(ports, local, lists, publisher);
-    local.open(platform.preferences);
-    PreferenceLoading(ports, local, lists, publisher, factory).loadLists();
+    Preferences preferences(platform.ports());
+    preferences.local.open(platform.preferences);
+    preferences.loading.loadLists();
 
-    const auto& list = lists[category];
+    const auto& list = preferences.lists[category];
     const auto expected = dictionariesIn(stored);
     if (!isCompleted(category, expected)) {
         fuzz::require(list.size() == expected.size(), "every dictionary is a record");

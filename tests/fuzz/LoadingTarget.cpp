@@ -97,9 +97,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     first.launch();
     first.showEverything();
     const auto& local = platform.preferences.local;
-    for (const auto& facts : ruleCategoryFacts) {
+    for (const auto category : allRuleCategories) {
+        const auto& facts = factsOf(category);
         const auto stored = before.find(facts.listKey);
-        if (stored == before.end() || (facts.category == RuleCategory::createNewFile && templatesStartAnew)) {
+        if (stored == before.end() || (category == RuleCategory::createNewFile && templatesStartAnew)) {
             continue;
         }
         fuzz::require(

@@ -6,7 +6,7 @@
 #import "front/MainInterface.h"
 #import "tests/driving/Driving.h"
 
-#include "platform/SystemServices.h"
+#include "adapters/foundation/SystemAdapters.h"
 
 #include <cstdlib>
 

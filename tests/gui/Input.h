@@ -1,7 +1,7 @@
 #pragma once
 
 #include "prefs/RuleCategory.h"
-#include "ui/Outlets.h"
+#include "ui/Page.h"
 
 #include <string>
 

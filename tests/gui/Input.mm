@@ -3,7 +3,7 @@
 #include "tests/gui/SettingsWindow.h"
 
 #import "adapters/foundation/StringConversion.h"
-#import "front/SettingsOutlets.h"
+#import "front/SettingsViewController.h"
 #import "tests/driving/Driving.h"
 
 namespace tarnwick::gui {
@@ -54,13 +54,7 @@ void drag(NSTableView *table, long row, double height) {
 } // namespace
 
 void clickPageButton(Page page) {
-    NSButton *buttons[] = {[outlets() createNewFileButton],
-        [outlets() copyFilesToButton],
-        [outlets() commonPathToButton],
-        [outlets() customIconButton],
-        [outlets() otherOptionButton],
-        [outlets() moreAppButton]};
-    driving::click(buttons[static_cast<std::size_t>(page)]);
+    driving::click([settingsController() buttonOf:page]);
 }
 
 void clickCell(RuleCategory table, long row, const std::string &column, int clicks) {

@@ -7,7 +7,6 @@
 #include <functional>
 #include <string>
 
-@class SettingsOutlets;
 @class SettingsViewController;
 
 namespace tarnwick {
@@ -20,8 +19,7 @@ namespace tarnwick::gui {
 /// Whose window it is, from now on. Before anything else here.
 void useInterface(const MainInterface &interface);
 
-[[nodiscard]] ::SettingsViewController *settingsController();
-[[nodiscard]] SettingsOutlets *outlets();
+[[nodiscard]] SettingsViewController *settingsController();
 [[nodiscard]] NSWindow *settingsWindow();
 /// The page that is shown.
 [[nodiscard]] NSView *pageView();

@@ -2,7 +2,6 @@
 
 #import "adapters/foundation/StringConversion.h"
 #import "front/MainInterface.h"
-#import "front/SettingsOutlets.h"
 #import "front/SettingsViewController.h"
 
 namespace tarnwick::gui {
@@ -16,12 +15,8 @@ void useInterface(const MainInterface &interface) {
     application = &interface;
 }
 
-::SettingsViewController *settingsController() {
+SettingsViewController *settingsController() {
     return application->controller();
-}
-
-SettingsOutlets *outlets() {
-    return [settingsController() outlets];
 }
 
 NSWindow *settingsWindow() {
@@ -29,11 +24,11 @@ NSWindow *settingsWindow() {
 }
 
 NSView *pageView() {
-    return [[[outlets() tabView] selectedTabViewItem] view];
+    return [[[settingsController() tabView] selectedTabViewItem] view];
 }
 
 NSTableView *tableOf(RuleCategory category) {
-    return [outlets() tableOf:category];
+    return [settingsController() tableOf:category];
 }
 
 NSControl *controlIn(RuleCategory category, long row, const std::string &column) {

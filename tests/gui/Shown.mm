@@ -3,7 +3,7 @@
 #include "tests/gui/SettingsWindow.h"
 
 #import "adapters/foundation/StringConversion.h"
-#import "front/SettingsOutlets.h"
+#import "front/SettingsViewController.h"
 
 #include <cstdlib>
 
@@ -17,7 +17,7 @@ NSButton *buttonTitled(const std::string &title) {
 } // namespace
 
 int shownPage() {
-    NSTabView *tabView = [outlets() tabView];
+    NSTabView *tabView = [settingsController() tabView];
     return static_cast<int>([tabView indexOfTabViewItem:[tabView selectedTabViewItem]]);
 }
 
@@ -51,7 +51,7 @@ long builtRows(RuleCategory table) {
 }
 
 bool removeButtonIsEnabled(RuleCategory table) {
-    return [[outlets() removeButtonOf:table] isEnabled];
+    return [[settingsController() removeButtonOf:table] isEnabled];
 }
 
 bool buttonIsEnabled(const std::string &title) {

@@ -1,24 +1,21 @@
-#include "integration/InstalledApplications.h"
 #include "integration/Links.h"
-#include "integration/ScriptHelper.h"
-#include "integration/SystemShortcuts.h"
-#include "tests/support/SettingsFixture.h"
+#include "tests/support/IntegrationFixture.h"
 
 namespace tarnwick::testing {
 namespace {
 
 /// What goes out to the script, the browser and the register, beyond the plain cases.
-class HandlerCallTest : public SettingsFixture {
+class HandlerCallTest : public IntegrationFixture {
 protected:
     void install() { platform_.userScripts.installed.insert("/scripts/applescript.scpt"); }
 };
 
 TEST_F(HandlerCallTest, EveryHandlersEventDiffersInNothingButItsName) {
     install();
-    controller_.restartFinder();
-    controller_.openServicesOfSystemPreferences();
+    integration_.scriptHelper.restartFinder();
+    integration_.scriptHelper.openServicesOfSystemPreferences();
     platform_.runLoop.runMain();
-    controller_.initialize();
+    integration_.scriptHelper.initialize();
     auto& events = platform_.userScripts.events;
     ASSERT_EQ(events.size(), 3U);
     EXPECT_EQ(events[1].parameterText, "openServices");
@@ -31,9 +28,9 @@ TEST_F(HandlerCallTest, EveryHandlersEventDiffersInNothingButItsName) {
 
 TEST_F(HandlerCallTest, ATaskIsMadeAnewForEveryCall) {
     install();
-    controller_.restartFinder();
+    integration_.scriptHelper.restartFinder();
     platform_.userScripts.installed.clear();
-    controller_.restartFinder();
+    integration_.scriptHelper.restartFinder();
     EXPECT_EQ(platform_.userScripts.events.size(), 1U);
     EXPECT_EQ(platform_.systemLog.lines.size(), 1U);
 }
@@ -41,8 +38,8 @@ TEST_F(HandlerCallTest, ATaskIsMadeAnewForEveryCall) {
 TEST_F(HandlerCallTest, AnyOtherAnswerThanTheFirstButtonInitializesNothing) {
     install();
     for (const auto answer : {0L, 999L, 1001L}) {
-        platform_.alerts.answers = {answer};
-        controller_.initialize();
+        platform_.panels.answers = {answer};
+        integration_.scriptHelper.initialize();
     }
     EXPECT_TRUE(platform_.userScripts.events.empty());
     EXPECT_EQ(
@@ -55,38 +52,38 @@ TEST_F(HandlerCallTest, TheInitializeAlertIsLocalised) {
          "all "
          "Tarnwick on the computer, restart the computer, go to the App Store to download, install.",
             "Alles weg."}};
-    controller_.initialize();
+    integration_.scriptHelper.initialize();
     const AlertRequest expected{
         .messageText = "Warnung", .informativeText = "Alles weg.", .buttons = {"Gut", "Abbrechen"}};
-    EXPECT_EQ(platform_.alerts.shown.front(), expected);
+    EXPECT_EQ(platform_.panels.alerts.front(), expected);
 }
 
 TEST_F(HandlerCallTest, ARestartRequestStaysStoredAndIsOverwrittenByTheNext) {
     platform_.preferences.shared.insert_or_assign(
         "askActionFromTarnwick", PlistValue(PlistDictionary{{"ActionType", "older"}, {"more", 1}}));
-    controller_.restartFinderClick();
+    integration_.restartRequest.send();
     EXPECT_EQ(shared("askActionFromTarnwick"), PlistValue(PlistDictionary{{"ActionType", "restartFinder"}}));
     EXPECT_FALSE(platform_.log.holds("shared synchronise"));
 }
 
 TEST_F(HandlerCallTest, TheHelpActionsOpenTheirExactAddresses) {
-    controller_.initializeClick();
-    controller_.helpServicesOfSystemPreferences();
+    integration_.tools.openLink(link::helpRestartFinder);
+    integration_.tools.openLink(link::helpServices);
     EXPECT_EQ(platform_.log.lines(),
         (std::vector<std::string>{"open URL https://tarnwick.halvane.example/help/restart-finder.html",
             "open URL https://tarnwick.halvane.example/help/services.html"}));
 }
 
 TEST_F(HandlerCallTest, AnErrorOfTheRegisterWithoutAnyCopyIsNotInstalledEither) {
-    platform_.launchServices.registered["org.example.Nobody"] = {{}, true};
-    EXPECT_FALSE(appWithBundleIdentifierInstalled(platform_.launchServices, "org.example.Nobody"));
+    platform_.workspace.registered["org.example.Nobody"] = {{}, true};
+    EXPECT_FALSE(integration_.tools.isInstalled("org.example.Nobody"));
 }
 
 TEST_F(HandlerCallTest, SeveralShortcutFilesAreLoggedAndParsedOneAfterTheOtherEvenUnreadableOnes) {
-    platform_.propertyLists.files.insert_or_assign("/b.plist", PlistValue(PlistDictionary{}));
-    getSystemShortcuts(platform_.ports());
+    platform_.files.propertyLists.insert_or_assign("/b.plist", PlistValue(PlistDictionary{}));
+    integration_.tools.chooseSystemShortcuts();
     platform_.log.clear();
-    platform_.openPanel.choose({"/a.plist", "/b.plist"});
+    platform_.panels.confirm({"/a.plist", "/b.plist"});
     EXPECT_EQ(platform_.log.lines(),
         (std::vector<std::string>{"log /a.plist", "parse /a.plist", "log /b.plist", "parse /b.plist"}));
 }

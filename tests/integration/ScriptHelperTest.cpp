@@ -1,4 +1,4 @@
-#include "tests/support/SettingsFixture.h"
+#include "tests/support/IntegrationFixture.h"
 
 namespace tarnwick::testing {
 namespace {
@@ -6,34 +6,34 @@ namespace {
 constexpr const char* noTaskLine =
     "log -[SettingsViewController repairScriptTask] no AppleScript task error = no such file";
 
-class ScriptHelperTest : public SettingsFixture {
+class ScriptHelperTest : public IntegrationFixture {
 protected:
     ScriptHelperTest() { platform_.files.files["/resources/applescript.scpt"] = "script"; }
     void install() { platform_.userScripts.installed.insert("/scripts/applescript.scpt"); }
     void installThroughPanel(const std::string& folder) {
-        controller_.doInstallScript();
+        integration_.scriptHelper.doInstallScript();
         platform_.log.clear();
-        platform_.openPanel.choose({folder});
+        platform_.panels.confirm({folder});
     }
 };
 
 TEST_F(ScriptHelperTest, TheInstallPanelOpensOnTheScriptFolderForFoldersAlone) {
     platform_.bundle.texts["OK"] = "Gut";
-    controller_.doInstallScript();
+    integration_.scriptHelper.doInstallScript();
     OpenPanelRequest expected;
     expected.canChooseFiles = false;
     expected.canChooseDirectories = true;
     expected.startFolder = "/scripts";
     expected.prompt = "Gut";
-    EXPECT_EQ(platform_.openPanel.requests.back(), expected);
+    EXPECT_EQ(platform_.panels.requests.back(), expected);
 }
 
 TEST_F(ScriptHelperTest, ConfirmingTheFolderLogsTheSourceAndCopiesTheScript) {
-    EXPECT_FALSE(controller_.checkScriptInstalled());
+    EXPECT_FALSE(integration_.scriptHelper.checkScriptInstalled());
     installThroughPanel("/scripts");
     EXPECT_EQ(platform_.log.lines(), (std::vector<std::string>{"log /resources/applescript.scpt",
                                          "copy /resources/applescript.scpt -> /scripts/applescript.scpt"}));
-    EXPECT_TRUE(controller_.checkScriptInstalled());
+    EXPECT_TRUE(integration_.scriptHelper.checkScriptInstalled());
 }
 
 TEST_F(ScriptHelperTest, AnInstalledScriptIsNeverOverwritten) {
@@ -51,9 +51,9 @@ TEST_F(ScriptHelperTest, AnyOtherFolderInstallsNothing) {
 }
 
 TEST_F(ScriptHelperTest, CancellingTheInstallPanelDoesNothing) {
-    controller_.doInstallScript();
+    integration_.scriptHelper.doInstallScript();
     platform_.log.clear();
-    platform_.openPanel.cancel();
+    platform_.panels.cancel();
     EXPECT_TRUE(platform_.log.lines().empty());
 }
 
@@ -62,7 +62,7 @@ TEST_F(ScriptHelperTest, AFailedCopyIsSilentAndNoFollowUpRuns) {
     install();
     installThroughPanel("/scripts");
     EXPECT_TRUE(platform_.userScripts.events.empty());
-    EXPECT_FALSE(controller_.checkScriptInstalled());
+    EXPECT_FALSE(integration_.scriptHelper.checkScriptInstalled());
 }
 
 TEST_F(ScriptHelperTest, ASuccessfulInstallRunsNoFollowUpEither) {
@@ -74,29 +74,29 @@ TEST_F(ScriptHelperTest, ASuccessfulInstallRunsNoFollowUpEither) {
 
 TEST_F(ScriptHelperTest, WithoutAScriptFolderNothingIsInstalledWhateverIsChosen) {
     platform_.folders.scripts = {std::nullopt, "denied"};
-    controller_.doInstallScript();
-    EXPECT_EQ(platform_.openPanel.requests.back().startFolder, std::nullopt);
+    integration_.scriptHelper.doInstallScript();
+    EXPECT_EQ(platform_.panels.requests.back().startFolder, std::nullopt);
     platform_.log.clear();
-    platform_.openPanel.choose({"/scripts"});
+    platform_.panels.confirm({"/scripts"});
     EXPECT_TRUE(platform_.log.lines().empty());
-    EXPECT_FALSE(controller_.checkScriptInstalled());
+    EXPECT_FALSE(integration_.scriptHelper.checkScriptInstalled());
 }
 
 TEST_F(ScriptHelperTest, WithoutAScriptEveryCallLogsOnceAndDoesNothingElse) {
-    controller_.restartFinder();
+    integration_.scriptHelper.restartFinder();
     EXPECT_EQ(platform_.log.lines(), std::vector<std::string>{noTaskLine});
     platform_.log.clear();
-    controller_.openServicesOfSystemPreferences();
+    integration_.scriptHelper.openServicesOfSystemPreferences();
     platform_.runLoop.runMain();
     EXPECT_EQ(platform_.log.lines(), (std::vector<std::string>{"queue on main", noTaskLine}));
     platform_.log.clear();
-    controller_.initialize();
+    integration_.scriptHelper.initialize();
     EXPECT_EQ(platform_.log.lines(), (std::vector<std::string>{"alert Warning", noTaskLine}));
 }
 
 TEST_F(ScriptHelperTest, WithoutAScriptFolderTheFailureIsLoggedWithItsError) {
     platform_.folders.scripts = {std::nullopt, "denied"};
-    controller_.restartFinder();
+    integration_.scriptHelper.restartFinder();
     EXPECT_EQ(platform_.systemLog.lines,
         std::vector<std::string>{
             "-[SettingsViewController repairScriptTask] no Application Scripts folder error = denied"});
@@ -104,11 +104,11 @@ TEST_F(ScriptHelperTest, WithoutAScriptFolderTheFailureIsLoggedWithItsError) {
 
 TEST_F(ScriptHelperTest, TheHandlersAreCalledByName) {
     install();
-    controller_.restartFinder();
-    controller_.openServicesOfSystemPreferences();
+    integration_.scriptHelper.restartFinder();
+    integration_.scriptHelper.openServicesOfSystemPreferences();
     EXPECT_EQ(platform_.userScripts.events.size(), 1U);
     platform_.runLoop.runMain();
-    controller_.initialize();
+    integration_.scriptHelper.initialize();
     EXPECT_EQ(platform_.log.linesWith("execute "),
         (std::vector<std::string>{"execute restartFinder", "execute openServices", "execute initialize"}));
 }
@@ -126,35 +126,35 @@ TEST_F(ScriptHelperTest, TheEventCallsTheHandlerInTheCurrentProcess) {
 }
 
 TEST_F(ScriptHelperTest, InitializingAsksFirstWithItsExactText) {
-    platform_.alerts.answers = {1001};
+    platform_.panels.answers = {1001};
     install();
-    controller_.initialize();
+    integration_.scriptHelper.initialize();
     const AlertRequest expected{.messageText = "Warning",
         .informativeText =
             "All setting parameters will be deleted !\n\nIf it is still abnormal after initialization, "
             "delete all Tarnwick on the computer, restart the computer, go to the App Store to "
             "download, install.",
         .buttons = {"OK", "Cancel"}};
-    EXPECT_EQ(platform_.alerts.shown.front(), expected);
+    EXPECT_EQ(platform_.panels.alerts.front(), expected);
     EXPECT_TRUE(platform_.userScripts.events.empty());
 }
 
 TEST_F(ScriptHelperTest, CancellingTheInitializeAlertChangesNothing) {
-    launch();
+    load();
     const auto localBefore = platform_.preferences.local;
     const auto filesBefore = platform_.files.files;
-    platform_.alerts.answers = {1001};
-    controller_.initialize();
+    platform_.panels.answers = {1001};
+    integration_.scriptHelper.initialize();
     EXPECT_EQ(platform_.preferences.local, localBefore);
     EXPECT_EQ(platform_.files.files, filesBefore);
 }
 
 TEST_F(ScriptHelperTest, InitializingItselfRemovesNoKeyAndNoFile) {
-    launch();
+    load();
     install();
     const auto localBefore = platform_.preferences.local;
     const auto filesBefore = platform_.files.files;
-    controller_.initialize();
+    integration_.scriptHelper.initialize();
     EXPECT_EQ(platform_.preferences.local, localBefore);
     EXPECT_EQ(platform_.files.files, filesBefore);
     EXPECT_EQ(platform_.userScripts.events.size(), 1U);

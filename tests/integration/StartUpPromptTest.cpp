@@ -1,34 +1,26 @@
-#include "integration/FinderExtension.h"
-#include "prefs/LocalPreferences.h"
-#include "tests/support/InMemoryPlatform.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/IntegrationFixture.h"
 
 namespace tarnwick::testing {
 namespace {
 
 /// The check at start over a domain that holds only the flag.
-class StartUpPromptTest : public ::testing::Test {
+class StartUpPromptTest : public IntegrationFixture {
 protected:
     StartUpPromptTest() {
-        local_.open(platform_.preferences);
+        preferences_.local.open(platform_.preferences);
         platform_.log.clear();
     }
     void setFlag(const PlistValue& value) {
         platform_.preferences.local.insert_or_assign("ShownEnableExtensionAlert", value);
     }
-    [[nodiscard]] bool flag() const { return local_.flag("ShownEnableExtensionAlert"); }
+    [[nodiscard]] bool flag() const { return preferences_.local.flag("ShownEnableExtensionAlert"); }
     /// How many prompts one check shows.
     std::size_t prompts() {
-        platform_.alerts.shown.clear();
-        extension_.checkAtStart();
+        platform_.panels.alerts.clear();
+        integration_.finderExtension.checkAtStart();
         platform_.runLoop.runMain();
-        return platform_.alerts.shown.size();
+        return platform_.panels.alerts.size();
     }
-
-    InMemoryPlatform platform_;
-    LocalPreferences local_;
-    FinderExtension extension_{platform_.ports(), local_};
 };
 
 TEST_F(StartUpPromptTest, EnabledWithTheFlagSetShowsNoPrompt) {
@@ -55,15 +47,15 @@ TEST_F(StartUpPromptTest, DisabledPromptsWhateverTheFlagAndSetsIt) {
 }
 
 TEST_F(StartUpPromptTest, TheCheckItselfOnlyQueuesThePrompt) {
-    extension_.checkAtStart();
+    integration_.finderExtension.checkAtStart();
     EXPECT_EQ(platform_.log.lines(),
         (std::vector<std::string>{"ask whether the extension is enabled", "queue on main"}));
     EXPECT_FALSE(flag());
 }
 
 TEST_F(StartUpPromptTest, BeforeMacOS1014ThePromptLeadsToTheSystemSettingsAndTheExtensionIsNeverAsked) {
-    platform_.systemVersion.minor = 13;
-    platform_.systemVersion.patch = 6;
+    platform_.process.minor = 13;
+    platform_.process.patch = 6;
     EXPECT_EQ(prompts(), 1U);
     EXPECT_EQ(platform_.log.lines(),
         (std::vector<std::string>{"queue on main", "alert Enable Extension",
@@ -75,7 +67,7 @@ TEST_F(StartUpPromptTest, AnyOtherAnswerThanTheFirstButtonSetsTheFlagAndOpensNot
     for (const auto answer : {0L, 1L, 999L, 1001L, -1000L}) {
         setFlag(false);
         platform_.log.clear();
-        platform_.alerts.answers = {answer};
+        platform_.panels.answers = {answer};
         EXPECT_EQ(prompts(), 1U);
         EXPECT_EQ(platform_.log.lines(),
             (std::vector<std::string>{"ask whether the extension is enabled", "queue on main",

@@ -1,57 +1,57 @@
 #include "integration/TerminalService.h"
-#include "tests/support/SettingsFixture.h"
+#include "tests/support/IntegrationFixture.h"
 #include "values/Utf8.h"
 
 namespace tarnwick::testing {
 namespace {
 
-class ToolsTest : public SettingsFixture {};
+class ToolsTest : public IntegrationFixture {};
 
 TEST_F(ToolsTest, ACommandRunsInTheShellAndGivesItsOutputAsText) {
-    platform_.shell.answer = "hello\n";
-    EXPECT_EQ(controller_.runCommand("echo hello"), "hello\n");
-    ASSERT_EQ(platform_.shell.runs.size(), 1U);
-    EXPECT_EQ(platform_.shell.runs[0].first, "/bin/sh");
-    EXPECT_EQ(platform_.shell.runs[0].second, (std::vector<std::string>{"-c", "echo hello"}));
+    platform_.process.answer = "hello\n";
+    EXPECT_EQ(integration_.tools.runCommand("echo hello"), "hello\n");
+    ASSERT_EQ(platform_.process.runs.size(), 1U);
+    EXPECT_EQ(platform_.process.runs[0].first, "/bin/sh");
+    EXPECT_EQ(platform_.process.runs[0].second, (std::vector<std::string>{"-c", "echo hello"}));
 }
 
 TEST_F(ToolsTest, ACommandWithoutOutputGivesEmptyText) {
-    EXPECT_EQ(controller_.runCommand("true"), "");
+    EXPECT_EQ(integration_.tools.runCommand("true"), "");
 }
 
 TEST_F(ToolsTest, OutputThatIsNoTextGivesNone) {
-    platform_.shell.answer = "\xFF\xFE";
-    EXPECT_EQ(controller_.runCommand("cat picture"), std::nullopt);
+    platform_.process.answer = "\xFF\xFE";
+    EXPECT_EQ(integration_.tools.runCommand("cat picture"), std::nullopt);
 }
 
 TEST_F(ToolsTest, AnApplicationIsInstalledWhenACopyIsRegistered) {
-    EXPECT_FALSE(controller_.appWithBundleIdentifierInstalled("org.example.Nobody"));
-    platform_.launchServices.registered["org.example.Somebody"] = {{"/Applications/Somebody.app"}, false};
-    EXPECT_TRUE(controller_.appWithBundleIdentifierInstalled("org.example.Somebody"));
-    platform_.launchServices.registered["org.example.Somebody"].failed = true;
-    EXPECT_FALSE(controller_.appWithBundleIdentifierInstalled("org.example.Somebody"));
+    EXPECT_FALSE(integration_.tools.isInstalled("org.example.Nobody"));
+    platform_.workspace.registered["org.example.Somebody"] = {{"/Applications/Somebody.app"}, false};
+    EXPECT_TRUE(integration_.tools.isInstalled("org.example.Somebody"));
+    platform_.workspace.registered["org.example.Somebody"].failed = true;
+    EXPECT_FALSE(integration_.tools.isInstalled("org.example.Somebody"));
 }
 
 TEST_F(ToolsTest, TheShortcutChooserOpensAtTheSystemsFileByItsURLText) {
-    controller_.getSystemShortcuts();
+    integration_.tools.chooseSystemShortcuts();
     OpenPanelRequest expected;
     expected.startFolder = "/Users/anna/Library/Preferences/com.apple.symbolichotkeys.plist";
     expected.startFolderIsURLText = true;
     expected.allowedFileTypes = {"plist"};
-    EXPECT_EQ(platform_.openPanel.requests.back(), expected);
+    EXPECT_EQ(platform_.panels.requests.back(), expected);
 }
 
 TEST_F(ToolsTest, ChoosingAShortcutFileLogsItsPathAndParsesIt) {
-    controller_.getSystemShortcuts();
+    integration_.tools.chooseSystemShortcuts();
     platform_.log.clear();
-    platform_.openPanel.choose({"/x/keys.plist"});
+    platform_.panels.confirm({"/x/keys.plist"});
     EXPECT_EQ(platform_.log.lines(), (std::vector<std::string>{"log /x/keys.plist", "parse /x/keys.plist"}));
 }
 
 TEST_F(ToolsTest, CancellingTheShortcutChooserDoesNothing) {
-    controller_.getSystemShortcuts();
+    integration_.tools.chooseSystemShortcuts();
     platform_.log.clear();
-    platform_.openPanel.cancel();
+    platform_.panels.cancel();
     EXPECT_TRUE(platform_.log.lines().empty());
 }
 
@@ -82,6 +82,18 @@ TEST(Utf8Test, RefusesMalformedBytes) {
             "\xF4\x90\x80\x80", "\xF5\x80\x80\x80", "\xE3\x80", "\xE3\x80\x28", "ok\xFF"}) {
         EXPECT_FALSE(isValidUtf8(text)) << text;
     }
+}
+
+TEST_F(ToolsTest, OneWrongByteAnywhereLosesTheWholeOutput) {
+    for (const std::string output : {"\xFFok\n", "o\xFFk\n", "ok\n\xFF"}) {
+        platform_.process.answer = output;
+        EXPECT_EQ(integration_.tools.runCommand("cat"), std::nullopt);
+    }
+}
+
+TEST_F(ToolsTest, OutputKeepsItsZeroBytesAndItsLineBreaks) {
+    platform_.process.answer = std::string("a\0b\r\n\u3001", 8);
+    EXPECT_EQ(integration_.tools.runCommand("cat"), platform_.process.answer);
 }
 
 } // namespace

@@ -1,7 +1,5 @@
 #include "StandInTest.h"
 
-#include "platform/LaunchServices.h"
-
 namespace tarnwick::standins {
 namespace {
 
@@ -9,7 +7,7 @@ class LaunchServicesTest : public StandInTest {
 protected:
     static RegisteredApplications ask() {
         RegisteredApplications result;
-        inPool([&result] { result = makeLaunchServices()->applications("org.halvane.Tarnwick"); });
+        inPool([&result] { result = registeredApplications("org.halvane.Tarnwick"); });
         return result;
     }
 };

@@ -1,6 +1,6 @@
 #include "StandInTest.h"
 
-#include "platform/LoginItems.h"
+#include "LoginItemsProbe.h"
 
 namespace tarnwick::standins {
 namespace {
@@ -9,14 +9,14 @@ class LoginItemsTest : public StandInTest {
 protected:
     static bool isLoginItem() {
         bool result = false;
-        inPool([&result] { result = makeLoginItems()->isLoginItem(); });
+        inPool([&result] { result = tarnwick::isLoginItem(); });
         return result;
     }
     static void add() {
-        inPool([] { makeLoginItems()->add(); });
+        inPool([] { addOwnBundle(); });
     }
     static void remove() {
-        inPool([] { makeLoginItems()->remove(); });
+        inPool([] { removeOwnBundle(); });
     }
     /// Without user interaction (1) and without mounting (2).
     static std::string resolving(const std::string& path) {

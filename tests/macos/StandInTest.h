@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/SystemServices.h"
+#include "adapters/foundation/SystemAdapters.h"
 #include "standins/Recording.h"
 
 #include <gtest/gtest.h>

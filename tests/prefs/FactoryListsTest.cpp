@@ -1,12 +1,12 @@
 #include "prefs/FactoryTables.h"
-#include "tests/support/SettingsFixture.h"
+#include "tests/support/PrefsFixture.h"
 
 namespace tarnwick::testing {
 namespace {
 
-class FactoryListsTest : public SettingsFixture {
+class FactoryListsTest : public PrefsFixture {
 protected:
-    void SetUp() override { controller_.awakeFromNib(); }
+    void SetUp() override { load(); }
 };
 
 TEST_F(FactoryListsTest, TheTemplatesAreFifteenNineOfThemOnAsStrings) {
@@ -27,7 +27,7 @@ TEST_F(FactoryListsTest, TheTemplatesAreFifteenNineOfThemOnAsStrings) {
 
 TEST_F(FactoryListsTest, TheTemplateResetPublishesAllFifteenBeforeTheOrdinaryPublishing) {
     EXPECT_EQ(sharedList(RuleCategory::createNewFile).size(), 15U);
-    platform_.runLoop.runMain();
+    preferences_.publisher.publish(RuleCategory::createNewFile);
     EXPECT_EQ(sharedList(RuleCategory::createNewFile).size(), 9U);
 }
 
@@ -42,7 +42,7 @@ TEST_F(FactoryListsTest, TheTemplateFolderHoldsEveryTemplateAndItsIcon) {
 
 TEST_F(FactoryListsTest, AMissingTemplateLeavesItsRecordAndTheOthersFiles) {
     platform_.files.files.erase("/resources/Word.docx");
-    controller_.resetCreateNewFileRule();
+    preferences_.factory.reset(RuleCategory::createNewFile);
     EXPECT_EQ(localList(RuleCategory::createNewFile).size(), 15U);
     EXPECT_EQ(platform_.files.namesIn("/container/Templates/CreateNewFile").size(), 29U);
     EXPECT_EQ(platform_.systemLog.lines,
@@ -51,7 +51,7 @@ TEST_F(FactoryListsTest, AMissingTemplateLeavesItsRecordAndTheOthersFiles) {
 
 TEST_F(FactoryListsTest, TheTemplateResetStoresPublishesRemovesCreatesAndCopiesInThisOrder) {
     platform_.log.clear();
-    controller_.resetCreateNewFileRule();
+    preferences_.factory.reset(RuleCategory::createNewFile);
     const auto& lines = platform_.log.lines();
     EXPECT_EQ(std::vector<std::string>(lines.begin(), lines.begin() + 10),
         (std::vector<std::string>{"local set pendingTemplateFiles", "local set arrOfCreateNewFile",
@@ -112,7 +112,7 @@ TEST_F(FactoryListsTest, TheOtherItemsAreEighteenWithSevenFieldsEach) {
 
 TEST_F(FactoryListsTest, TheTargetsAreFourFoldersOfTheLoginNamesHomeWhateverTheRealOne) {
     platform_.folders.user = "otto";
-    controller_.resetCopyFilesToRule();
+    preferences_.factory.reset(RuleCategory::copyFilesTo);
     const auto& list = localList(RuleCategory::copyFilesTo);
     ASSERT_EQ(list.size(), 4U);
     EXPECT_EQ(list[0], PlistValue(PlistDictionary{
@@ -125,9 +125,9 @@ TEST_F(FactoryListsTest, TheTargetsAreFourFoldersOfTheLoginNamesHomeWhateverTheR
 TEST_F(FactoryListsTest, AMissingImageLeavesTheOthersListAsItWasWithALogLineThatNamesIt) {
     const auto before = localList(RuleCategory::others);
     platform_.images.missingNames.insert("Snapfin");
-    controller_.resetOthersRule();
+    preferences_.factory.reset(RuleCategory::others);
     EXPECT_EQ(localList(RuleCategory::others), before);
-    EXPECT_EQ(controller_.numberOfRows(RuleCategory::others), 18);
+    EXPECT_EQ(list(RuleCategory::others).size(), 18U);
     ASSERT_EQ(platform_.systemLog.lines.size(), 1U);
     EXPECT_NE(platform_.systemLog.lines[0].find("Snapfin"), std::string::npos);
 }

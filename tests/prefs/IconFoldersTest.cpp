@@ -1,11 +1,10 @@
-#include "tests/support/SettingsFixture.h"
+#include "tests/support/PrefsFixture.h"
 
 namespace tarnwick::testing {
 namespace {
 
-class IconFoldersTest : public SettingsFixture {
+class IconFoldersTest : public PrefsFixture {
 protected:
-    void load() { controller_.awakeFromNib(); }
     [[nodiscard]] std::vector<std::string> copiesInto(const std::string& folder) const {
         std::vector<std::string> names;
         for (const auto& line : platform_.log.linesWith("copy /resources/")) {
@@ -67,21 +66,21 @@ TEST_F(IconFoldersTest, FailuresOfRemovingAndCreatingAreIgnored) {
     platform_.files.failing = {sections, others};
     load();
     EXPECT_EQ(platform_.files.namesIn(sections).size(), 5U);
-    EXPECT_EQ(controller_.numberOfRows(RuleCategory::others), 18);
+    EXPECT_EQ(list(RuleCategory::others).size(), 18U);
 }
 
 TEST_F(IconFoldersTest, WithoutAGroupContainerTheLoadGoesOnAndKeepsStoredTemplates) {
     storeList(RuleCategory::createNewFile, {makeRecord({{"enable", "1"}, {"displayName", "Mine"}})});
     platform_.folders.container.reset();
     load();
-    EXPECT_EQ(controller_.numberOfRows(RuleCategory::createNewFile), 1);
+    EXPECT_EQ(list(RuleCategory::createNewFile).size(), 1U);
     EXPECT_EQ(platform_.systemLog.lines.size(), 1U);
 }
 
 TEST_F(IconFoldersTest, AFirstRunWithoutAGroupContainerStillHasItsTemplates) {
     platform_.folders.container.reset();
     load();
-    EXPECT_EQ(controller_.numberOfRows(RuleCategory::createNewFile), 15);
+    EXPECT_EQ(list(RuleCategory::createNewFile).size(), 15U);
     EXPECT_EQ(platform_.systemLog.lines.size(), 1U);
 }
 

@@ -1,22 +1,20 @@
 #include "prefs/FactoryTables.h"
 #include "prefs/PreferenceKeys.h"
-#include "tests/support/SettingsFixture.h"
+#include "tests/support/PrefsFixture.h"
 
 #include <algorithm>
 
 namespace tarnwick::testing {
 namespace {
 
-class LoadingTest : public SettingsFixture {
+class LoadingTest : public PrefsFixture {
 protected:
-    void load() { controller_.awakeFromNib(); }
-    [[nodiscard]] std::vector<std::string> othersShown() const {
-        std::vector<std::string> actions;
-        for (long row = 0; row < controller_.numberOfRows(RuleCategory::others); ++row) {
-            const auto cell = controller_.viewForTableColumn(RuleCategory::others, "OthersDisplayName", row);
-            actions.push_back(std::get_if<TextFieldCell>(&cell.control)->text);
+    [[nodiscard]] std::vector<std::string> loadedOthers() {
+        std::vector<std::string> names;
+        for (const auto& record : list(RuleCategory::others)) {
+            names.emplace_back(record.text(field::displayName));
         }
-        return actions;
+        return names;
     }
     void storeOthers(const std::vector<std::string>& actions) {
         std::vector<RuleRecord> records;
@@ -53,11 +51,11 @@ TEST_F(LoadingTest, AFreshInstallationPublishesTheElevenFeaturesWithTheDoubledOn
 
 TEST_F(LoadingTest, AFreshInstallationHasEmptyTargetsAndPathsAndFactoryListsOtherwise) {
     load();
-    EXPECT_EQ(controller_.numberOfRows(RuleCategory::createNewFile), 15);
-    EXPECT_EQ(controller_.numberOfRows(RuleCategory::copyFilesTo), 0);
-    EXPECT_EQ(controller_.numberOfRows(RuleCategory::commonPath), 0);
-    EXPECT_EQ(controller_.numberOfRows(RuleCategory::customIcon), 20);
-    EXPECT_EQ(controller_.numberOfRows(RuleCategory::others), 18);
+    EXPECT_EQ(list(RuleCategory::createNewFile).size(), 15U);
+    EXPECT_EQ(list(RuleCategory::copyFilesTo).size(), 0U);
+    EXPECT_EQ(list(RuleCategory::commonPath).size(), 0U);
+    EXPECT_EQ(list(RuleCategory::customIcon).size(), 20U);
+    EXPECT_EQ(list(RuleCategory::others).size(), 18U);
     EXPECT_EQ(platform_.preferences.local.count("arrOfCopyFilesTo"), 0U);
 }
 
@@ -102,23 +100,6 @@ TEST_F(LoadingTest, TheSuiteAndTheLocalStoreAreOpenedFirstAndSeedingSynchronises
     EXPECT_EQ(*(firstSynchronise - 1), "shared set arrOfEnableOther");
 }
 
-TEST_F(LoadingTest, TheStepsFollowEachOtherInOrder) {
-    load();
-    const std::vector<std::string> milestones{"shared set soundTipsOfNewFile",
-        "local set deleteDirectlyRequiresConfirmation", "local set enableCopyPathToPaste",
-        "shared set arrOfEnableOther", "local set arrOfCreateNewFile",
-        "create folder /container/Templates/CreateNewFile", "create folder /container/Templates/FunctionIcon",
-        "create folder /container/Templates/OthersMenuItemIcon", "schedule", "local set arrOfCustomIcon",
-        "local set arrOfOthers", "observe soundTipsOfSendFilesTo",
-        "observe deleteDirectlyRequiresConfirmation"};
-    const auto& lines = platform_.log.lines();
-    auto place = lines.begin();
-    for (const auto& milestone : milestones) {
-        place = std::find(place, lines.end(), milestone);
-        ASSERT_NE(place, lines.end()) << milestone;
-    }
-}
-
 TEST_F(LoadingTest, WithoutTheTargetListTheFeatureArrayIsBuiltAnew) {
     load();
     platform_.preferences.shared.insert_or_assign("arrOfEnableOther", PlistArray{"old"});
@@ -147,24 +128,24 @@ TEST_F(LoadingTest, AnEmptyTemplateListWithItsFolderStaysEmpty) {
     storeList(RuleCategory::createNewFile, {});
     platform_.files.folders.insert("/container/Templates/CreateNewFile");
     load();
-    EXPECT_EQ(controller_.numberOfRows(RuleCategory::createNewFile), 0);
+    EXPECT_EQ(list(RuleCategory::createNewFile).size(), 0U);
 }
 
 TEST_F(LoadingTest, EmptyIconAndOthersListsAreRefilled) {
     storeList(RuleCategory::customIcon, {});
     storeList(RuleCategory::others, {});
     load();
-    EXPECT_EQ(controller_.numberOfRows(RuleCategory::customIcon), 20);
-    EXPECT_EQ(controller_.numberOfRows(RuleCategory::others), 18);
+    EXPECT_EQ(list(RuleCategory::customIcon).size(), 20U);
+    EXPECT_EQ(list(RuleCategory::others).size(), 18U);
 }
 
 TEST_F(LoadingTest, AnOthersListWithoutEditorsGetsThemAtTheirPlacesInMemoryAlone) {
     storeOthers({"a", "b", "c", "d", "e", "f", "g"});
     load();
-    EXPECT_EQ(othersShown(), (std::vector<std::string>{"a", "b", "c", "d", "e", "f", "Open in VSCode",
-                                 "Open in Sublime Text", "Open in Emacs", "g"}));
+    EXPECT_EQ(loadedOthers(), (std::vector<std::string>{"a", "b", "c", "d", "e", "f", "Open in VSCode",
+                                  "Open in Sublime Text", "Open in Emacs", "g"}));
     EXPECT_EQ(localList(RuleCategory::others).size(), 7U);
-    platform_.runLoop.runMain();
+    preferences_.publisher.publish(RuleCategory::others);
     EXPECT_EQ(sharedList(RuleCategory::others).size(), 10U);
     EXPECT_EQ(sharedList(RuleCategory::others)[6],
         PlistValue(PlistDictionary{{"enable", 1}, {"icon", tiffOf("tiff of VSCode")},
@@ -175,20 +156,20 @@ TEST_F(LoadingTest, AnOthersListWithoutEditorsGetsThemAtTheirPlacesInMemoryAlone
 TEST_F(LoadingTest, OnlyTheMissingEditorsAreInserted) {
     storeOthers({"Open in VSCode", "b", "c", "d", "e", "f", "g", "h"});
     load();
-    EXPECT_EQ(othersShown(), (std::vector<std::string>{"Open in VSCode", "b", "c", "d", "e", "f", "g",
-                                 "Open in Sublime Text", "Open in Emacs", "h"}));
+    EXPECT_EQ(loadedOthers(), (std::vector<std::string>{"Open in VSCode", "b", "c", "d", "e", "f", "g",
+                                  "Open in Sublime Text", "Open in Emacs", "h"}));
 }
 
 TEST_F(LoadingTest, AListWithAllEditorsIsLeftUnchanged) {
     storeOthers({"Open in Emacs", "Open in Sublime Text", "Open in VSCode"});
     load();
-    EXPECT_EQ(othersShown().size(), 3U);
+    EXPECT_EQ(loadedOthers().size(), 3U);
 }
 
 TEST_F(LoadingTest, AShortListGetsTheEditorsAtItsEnd) {
     storeOthers({"a", "b"});
     load();
-    EXPECT_EQ(othersShown(),
+    EXPECT_EQ(loadedOthers(),
         (std::vector<std::string>{"a", "b", "Open in VSCode", "Open in Sublime Text", "Open in Emacs"}));
 }
 
@@ -196,26 +177,17 @@ TEST_F(LoadingTest, AnEditorWhoseImageIsMissingIsLeftOutWithALogLine) {
     storeOthers({"a"});
     platform_.images.missingNames.insert("Emacs");
     load();
-    EXPECT_EQ(othersShown(), (std::vector<std::string>{"a", "Open in VSCode", "Open in Sublime Text"}));
+    EXPECT_EQ(loadedOthers(), (std::vector<std::string>{"a", "Open in VSCode", "Open in Sublime Text"}));
     EXPECT_EQ(platform_.systemLog.lines.size(), 1U);
 }
 
 TEST_F(LoadingTest, ASecondLoadWritesNothingButTheSameLists) {
-    launch();
+    load();
     const auto localBefore = platform_.preferences.local;
     const auto sharedBefore = platform_.preferences.shared;
-    launch();
+    load();
     EXPECT_EQ(platform_.preferences.local, localBefore);
     EXPECT_EQ(platform_.preferences.shared, sharedBefore);
-}
-
-TEST_F(LoadingTest, TheThirteenKeysAreObservedInOrder) {
-    load();
-    std::vector<std::string> expected;
-    for (const auto& key : mirroredKeys) {
-        expected.push_back("observe " + std::string(key));
-    }
-    EXPECT_EQ(platform_.log.linesWith("observe "), expected);
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "prefs/LocalPreferences.h"
 #include "prefs/RulePublisher.h"
-#include "tests/support/SettingsFixture.h"
+#include "tests/support/PrefsFixture.h"
 
 namespace tarnwick::testing {
 namespace {
@@ -33,21 +33,21 @@ const std::string openSuite = "shared open H7Q2ZK5RX9.org.halvane.Tarnwick";
 
 TEST_F(PublishingTest, OnlyEnabledRecordsArePublishedInOrderAndTheFlagEndsFalse) {
     fill(RuleCategory::createNewFile, {"1", "0", 1, 0, true, false, "Y"});
-    publisher_.setCreateNewFileToSettings();
+    publisher_.publish(RuleCategory::createNewFile);
     EXPECT_EQ(published("arrOfCreateNewFile"), "0246");
     EXPECT_EQ(platform_.preferences.local.at("enableAllOfCreateNewFiles"), PlistValue(false));
 }
 
 TEST_F(PublishingTest, ARecordWithoutTheFieldCountsAsDisabled) {
     lists_[RuleCategory::others].assign({makeRecord({{"displayName", "a"}})});
-    publisher_.setOthersToSettings();
+    publisher_.publish(RuleCategory::others);
     EXPECT_EQ(published("arrOfOthers"), "");
 }
 
 TEST_F(PublishingTest, AllEnabledEndsTheFlagTrueWithOneWrite) {
     fill(RuleCategory::customIcon, {1, 1});
     platform_.log.clear();
-    publisher_.setCustomIconToSettings();
+    publisher_.publish(RuleCategory::customIcon);
     EXPECT_EQ(platform_.log.lines(), (std::vector<std::string>{"local set enableAllOfCustomIcon", openSuite,
                                          "shared set arrOfCustomIcon", "shared synchronise"}));
     EXPECT_EQ(platform_.preferences.local.at("enableAllOfCustomIcon"), PlistValue(true));
@@ -56,12 +56,12 @@ TEST_F(PublishingTest, AllEnabledEndsTheFlagTrueWithOneWrite) {
 TEST_F(PublishingTest, TheFlagIsWrittenFalseOnlyOnceHoweverManyAreDisabled) {
     fill(RuleCategory::others, {0, 1, 0, 0});
     platform_.log.clear();
-    publisher_.setOthersToSettings();
+    publisher_.publish(RuleCategory::others);
     EXPECT_EQ(platform_.log.linesWith("local set ").size(), 2U);
 }
 
 TEST_F(PublishingTest, AnEmptyListPublishesAnEmptyArrayAndLeavesTheFlagTrue) {
-    publisher_.setOthersToSettings();
+    publisher_.publish(RuleCategory::others);
     EXPECT_EQ(platform_.preferences.shared.at("arrOfOthers"), PlistValue(PlistArray{}));
     EXPECT_EQ(platform_.preferences.local.at("enableAllOfOthers"), PlistValue(true));
 }
@@ -69,8 +69,8 @@ TEST_F(PublishingTest, AnEmptyListPublishesAnEmptyArrayAndLeavesTheFlagTrue) {
 TEST_F(PublishingTest, TargetsAndPathsTouchNoLocalKey) {
     fill(RuleCategory::copyFilesTo, {1, 0});
     fill(RuleCategory::commonPath, {1, 0});
-    publisher_.setCopyFilesToSettings();
-    publisher_.setCommonPathSettings();
+    publisher_.publish(RuleCategory::copyFilesTo);
+    publisher_.publish(RuleCategory::commonPath);
     EXPECT_TRUE(platform_.preferences.local.empty());
     EXPECT_EQ(published("arrOfCopyFilesTo"), "0");
     EXPECT_EQ(published("arrOfCommonPath"), "0");
@@ -79,7 +79,7 @@ TEST_F(PublishingTest, TargetsAndPathsTouchNoLocalKey) {
 TEST_F(PublishingTest, PublishedRecordsKeepAllTheirFields) {
     const auto record = makeRecord({{"enable", "1"}, {"icon", PlistData({1, 2})}, {"unknown", 5}});
     lists_[RuleCategory::customIcon].assign({record});
-    publisher_.setCustomIconToSettings();
+    publisher_.publish(RuleCategory::customIcon);
     EXPECT_EQ((*platform_.preferences.shared.at("arrOfCustomIcon").array())[0], record.toPlist());
 }
 

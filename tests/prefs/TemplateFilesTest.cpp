@@ -1,5 +1,5 @@
 #include "prefs/TemplateFiles.h"
-#include "tests/support/SettingsFixture.h"
+#include "tests/support/PrefsFixture.h"
 
 namespace tarnwick::testing {
 namespace {
@@ -7,11 +7,11 @@ namespace {
 const std::string folder = "/container/Templates/CreateNewFile/";
 
 /// Starts with a note that an earlier process has left.
-class TemplateFilesTest : public SettingsFixture {
+class TemplateFilesTest : public PrefsFixture {
 protected:
     /// A list of one record, Letter.txt.
     void SetUp() override {
-        launch();
+        load();
         storeList(RuleCategory::createNewFile, {makeRecord({{"enable", "1"}, {"displayName", "Letter"},
                                                    {"extension", "txt"}, {"modified", "1"}})});
         for (const auto* name : {"Letter.txt", "Memo.txt"}) {
@@ -20,7 +20,7 @@ protected:
     }
     void startWithNote(const PlistValue& note) {
         platform_.preferences.local.insert_or_assign("pendingTemplateFiles", note);
-        launch();
+        load();
     }
     [[nodiscard]] bool holds(const std::string& name) const { return platform_.files.exists(folder + name); }
     [[nodiscard]] bool isNoted() const {
@@ -29,7 +29,7 @@ protected:
 };
 
 TEST_F(TemplateFilesTest, WithoutANoteAStartTouchesNoFileWhoeverOwnsIt) {
-    launch();
+    load();
     EXPECT_TRUE(holds("Letter.txt"));
     EXPECT_TRUE(holds("Memo.txt"));
 }
@@ -75,8 +75,9 @@ TEST_F(TemplateFilesTest, ACopyWithoutExtensionThatHasItsRecordStays) {
 TEST_F(TemplateFilesTest, AFileThatWasThereBeforeACopyOfItsNameIsNotNoted) {
     platform_.files.files["/home/Memo.txt"] = "chosen";
     platform_.log.clear();
-    controller_.addCreateNewFileRule();
-    platform_.openPanel.choose({"/home/Memo.txt"});
+    const auto work = preferences_.templateFiles.beginCopying({"/home/Memo.txt"});
+    EXPECT_FALSE(preferences_.templateFiles.copy("/home/Memo.txt"));
+    preferences_.templateFiles.finish(work, list(RuleCategory::createNewFile));
     EXPECT_FALSE(platform_.log.holds("local set pendingTemplateFiles"));
     EXPECT_EQ(platform_.files.files[folder + "Memo.txt"], "Memo.txt");
 }
@@ -111,7 +112,7 @@ TEST_F(TemplateFilesTest, TheNoteIsKeptWhileThereIsNoContainer) {
     startWithNote(PlistArray{"remove", "Memo.txt"});
     EXPECT_TRUE(isNoted());
     platform_.folders.container = "/container";
-    launch();
+    load();
     EXPECT_FALSE(holds("Memo.txt"));
     EXPECT_FALSE(isNoted());
 }

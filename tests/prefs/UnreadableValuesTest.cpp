@@ -1,4 +1,4 @@
-#include "tests/support/SettingsFixture.h"
+#include "tests/support/PrefsFixture.h"
 
 #include <algorithm>
 #include <limits>
@@ -6,7 +6,7 @@
 namespace tarnwick::testing {
 namespace {
 
-class UnreadableValuesTest : public SettingsFixture {
+class UnreadableValuesTest : public PrefsFixture {
 protected:
     void store(const std::string& key, PlistValue value) {
         platform_.preferences.local.insert_or_assign(key, std::move(value));
@@ -21,8 +21,7 @@ class UnreadableListTest : public UnreadableValuesTest, public ::testing::WithPa
 TEST_P(UnreadableListTest, ThatIsNoArrayReadsAsMissingAndIsKeptBeforeAnythingOverwritesIt) {
     const std::string key(factsOf(GetParam()).listKey);
     store(key, "damaged");
-    controller_.awakeFromNib();
-    platform_.runLoop.runMain();
+    load();
     EXPECT_EQ(local(key + ".unreadable"), PlistValue("damaged"));
     const auto& lines = platform_.log.lines();
     const auto kept = std::find(lines.begin(), lines.end(), "local set " + key + ".unreadable");
@@ -36,8 +35,8 @@ TEST_P(UnreadableListTest, WithElementsThatAreNoDictionariesKeepsTheOthers) {
     platform_.files.folders.insert("/container/Templates/CreateNewFile");
     const PlistArray stored{"text", PlistDictionary{{"enable", 1}, {"displayName", "good"}}, 7};
     store(key, stored);
-    controller_.awakeFromNib();
-    EXPECT_EQ(controller_.numberOfRows(GetParam()), GetParam() == RuleCategory::others ? 4 : 1);
+    load();
+    EXPECT_EQ(list(GetParam()).size(), GetParam() == RuleCategory::others ? 4U : 1U);
     EXPECT_EQ(local(key + ".unreadable"), PlistValue(stored));
 }
 
@@ -45,7 +44,7 @@ INSTANTIATE_TEST_SUITE_P(Every, UnreadableListTest, ::testing::ValuesIn(allRuleC
 
 TEST_F(UnreadableValuesTest, ATargetListThatIsNoArrayCountsAsAFirstRun) {
     store("arrOfCopyFilesTo", 7);
-    controller_.awakeFromNib();
+    load();
     EXPECT_EQ(shared("arrOfEnableOther").array()->size(), 11U);
 }
 
@@ -53,49 +52,48 @@ TEST_F(UnreadableValuesTest, FieldsOfTheWrongTypeAreKeptAsideAndReadAsMissing) {
     const PlistArray stored{PlistDictionary{
         {"enable", 1}, {"displayName", 42}, {"icon", "no image"}, {"modified", PlistArray{}}}};
     store("arrOfCustomIcon", stored);
-    controller_.awakeFromNib();
+    load();
     EXPECT_EQ(local("arrOfCustomIcon.unreadable"), PlistValue(stored));
-    const auto name = controller_.viewForTableColumn(RuleCategory::customIcon, "CustomIconName", 0);
-    EXPECT_EQ(std::get_if<TextFieldCell>(&name.control)->text, "");
-    const auto icon = controller_.viewForTableColumn(RuleCategory::customIcon, "Icon", 0);
-    EXPECT_EQ(std::get_if<ImageCell>(&icon.control)->image, nullptr);
+    const auto& record = list(RuleCategory::customIcon)[0];
+    EXPECT_EQ(record.text(field::displayName), "");
+    EXPECT_TRUE(record.data(field::icon).empty());
 }
 
 TEST_F(UnreadableValuesTest, AnOriginalIsNeverReplacedByALaterOne) {
     store("arrOfCommonPath", "first");
-    controller_.awakeFromNib();
+    load();
     store("arrOfCommonPath", "second");
-    controller_.awakeFromNib();
+    load();
     EXPECT_EQ(local("arrOfCommonPath.unreadable"), PlistValue("first"));
     EXPECT_EQ(local("arrOfCommonPath.unreadable.2"), PlistValue("second"));
 }
 
 TEST_F(UnreadableValuesTest, TheSameOriginalIsKeptOnce) {
     store("arrOfCommonPath", "damaged");
-    controller_.awakeFromNib();
-    controller_.awakeFromNib();
+    load();
+    load();
     EXPECT_FALSE(has("arrOfCommonPath.unreadable.2"));
 }
 
 TEST_F(UnreadableValuesTest, AnOriginalWithARealThatIsNoNumberIsKeptOnce) {
     store("arrOfCommonPath", PlistArray{std::numeric_limits<double>::quiet_NaN()});
-    controller_.awakeFromNib();
-    controller_.awakeFromNib();
+    load();
+    load();
     EXPECT_FALSE(has("arrOfCommonPath.unreadable.2"));
 }
 
 TEST_F(UnreadableValuesTest, ABadRecordAmongChangedOnesIsNotKeptAgain) {
     const PlistValue bad(PlistDictionary{{"displayName", 1}});
     store("arrOfCommonPath", PlistArray{bad});
-    controller_.awakeFromNib();
+    load();
     store("arrOfCommonPath", PlistArray{bad, PlistDictionary{{"displayName", "good"}}});
-    controller_.awakeFromNib();
+    load();
     EXPECT_FALSE(has("arrOfCommonPath.unreadable.2"));
 }
 
 TEST_F(UnreadableValuesTest, SoundListsAreLeftAloneWithoutALogLine) {
-    launch();
-    launch();
+    load();
+    load();
     for (const auto& [key, value] : platform_.preferences.local) {
         EXPECT_EQ(key.find(".unreadable"), std::string::npos) << key;
     }
@@ -104,14 +102,14 @@ TEST_F(UnreadableValuesTest, SoundListsAreLeftAloneWithoutALogLine) {
 
 TEST_F(UnreadableValuesTest, UnknownFieldsOfAnyTypeAreSound) {
     store("arrOfCommonPath", PlistArray{PlistDictionary{{"enable", "1"}, {"color", PlistArray{1, 2}}}});
-    controller_.awakeFromNib();
+    load();
     EXPECT_FALSE(has("arrOfCommonPath.unreadable"));
 }
 
 TEST_F(UnreadableValuesTest, AFeatureArrayThatIsNoArrayBecomesTheOneEntryArray) {
     storeList(RuleCategory::copyFilesTo, {});
     platform_.preferences.shared.insert_or_assign("arrOfEnableOther", "damaged");
-    controller_.awakeFromNib();
+    load();
     EXPECT_EQ(shared("arrOfEnableOther"), PlistValue(PlistArray{"enableImagetoIcon"}));
     EXPECT_EQ(local("arrOfEnableOther.unreadable"), PlistValue("damaged"));
     EXPECT_EQ(platform_.systemLog.lines,
@@ -121,7 +119,7 @@ TEST_F(UnreadableValuesTest, AFeatureArrayThatIsNoArrayBecomesTheOneEntryArray) 
 
 TEST_F(UnreadableValuesTest, AFeatureArrayThatIsNoArrayIsKeptAlsoWhenAFirstRunBuildsItAnew) {
     platform_.preferences.shared.insert_or_assign("arrOfEnableOther", PlistDictionary{{"a", 1}});
-    controller_.awakeFromNib();
+    load();
     EXPECT_EQ(shared("arrOfEnableOther").array()->size(), 11U);
     EXPECT_EQ(local("arrOfEnableOther.unreadable"), PlistValue(PlistDictionary{{"a", 1}}));
 }
@@ -129,7 +127,7 @@ TEST_F(UnreadableValuesTest, AFeatureArrayThatIsNoArrayIsKeptAlsoWhenAFirstRunBu
 TEST_F(UnreadableValuesTest, WhatAFeatureArrayHoldsStaysInIt) {
     storeList(RuleCategory::copyFilesTo, {});
     platform_.preferences.shared.insert_or_assign("arrOfEnableOther", PlistArray{1, "mine"});
-    controller_.awakeFromNib();
+    load();
     EXPECT_EQ(shared("arrOfEnableOther"), PlistValue(PlistArray{1, "mine", "enableImagetoIcon"}));
     EXPECT_FALSE(has("arrOfEnableOther.unreadable"));
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "prefs/RuleCategory.h"
-#include "ui/SettingsViewController.h"
+#include "ui/SettingsController.h"
 
 #include <functional>
 #include <string>
@@ -15,7 +15,7 @@ namespace tarnwick::soak {
 int runApplication(int argc, char* argv[], std::function<bool()> edit);
 
 /// While the application runs.
-[[nodiscard]] SettingsViewController& controller();
+[[nodiscard]] SettingsController& controller();
 void selectRow(RuleCategory category, long row);
 /// Every open panel that is begun from now on is left with OK and these paths.
 void answerPanelsWith(const std::vector<std::string>& paths);

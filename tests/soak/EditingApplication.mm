@@ -5,10 +5,9 @@
 
 #import "adapters/foundation/StringConversion.h"
 #import "front/MainInterface.h"
-#import "front/SettingsOutlets.h"
 #import "front/SettingsViewController.h"
 
-#include "platform/SystemServices.h"
+#include "adapters/foundation/SystemAdapters.h"
 
 #include <objc/runtime.h>
 
@@ -32,6 +31,19 @@ void replaceMethod(SEL selector, IMP implementation) {
 }
 
 } // namespace
+
+/// What the window does not show to others.
+@interface SettingsViewController (Core)
+- (tarnwick::SettingsController &)core;
+@end
+
+@implementation SettingsViewController (Core)
+
+- (tarnwick::SettingsController &)core {
+    return *_controller;
+}
+
+@end
 
 @interface SoakRunner : NSObject {
 @private
@@ -76,12 +88,12 @@ int runApplication(int argc, char *argv[], std::function<bool()> edit) {
     }
 }
 
-tarnwick::SettingsViewController &controller() {
-    return *[application->controller() controller];
+SettingsController &controller() {
+    return [application->controller() core];
 }
 
 void selectRow(RuleCategory category, long row) {
-    NSTableView *table = [[application->controller() outlets] tableOf:category];
+    NSTableView *table = [application->controller() tableOf:category];
     [table selectRowIndexes:[NSIndexSet indexSetWithIndex:static_cast<NSUInteger>(row)]
         byExtendingSelection:NO];
 }

@@ -10,12 +10,6 @@
 namespace tarnwick::soak {
 namespace {
 
-using Controller = SettingsViewController;
-
-constexpr std::array<void (Controller::*)(), 5> addActions{&Controller::addCreateNewFileRule,
-    &Controller::addSendFilesToRule, &Controller::addCommonPathRule, &Controller::addCustomIconRule,
-    &Controller::addOthersRule};
-
 /// The lists stay of a size.
 constexpr std::size_t longestList = 40;
 
@@ -50,7 +44,7 @@ std::string RandomEdits::makePicture() {
 }
 
 PlistData RandomEdits::pictureOfAction(const std::string& name) const {
-    for (const auto& record : model_.factory[static_cast<std::size_t>(RuleCategory::others)]) {
+    for (const auto& record : model_.factory[RuleCategory::others]) {
         if (testing::textIn(record, "Action") == name) {
             const auto* data = record.at("icon").data();
             return data ? *data : PlistData();
@@ -108,12 +102,10 @@ void RandomEdits::add(RuleCategory category) {
         for (const auto& path : paths) {
             items.push_back({path, isFolder});
         }
-        return perform(
-            "drop-in", category, true, true, [&] { controller().addDroppedItems(category, items); });
+        return perform("drop-in", category, true, true, [&] { controller().addDropped(category, items); });
     }
     answerPanelsWith(paths);
-    perform("add", category, true, true,
-        [&] { (controller().*addActions[static_cast<std::size_t>(category)])(); });
+    perform("add", category, true, true, [&] { controller().add(category); });
 }
 
 } // namespace tarnwick::soak

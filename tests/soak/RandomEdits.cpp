@@ -1,12 +1,11 @@
 #include "tests/soak/RandomEdits.h"
 
 #include "prefs/PreferenceKeys.h"
-#include "tests/editing/CategoryActions.h"
+#include "tests/model/PageFacts.h"
 #include "tests/soak/Canonical.h"
 #include "tests/soak/EditingApplication.h"
 #include "tests/soak/StoredState.h"
 
-#include <array>
 #include <cstdlib>
 #include <fstream>
 #include <unistd.h>
@@ -14,24 +13,14 @@
 namespace tarnwick::soak {
 namespace {
 
-using Controller = SettingsViewController;
-using testing::enableAllActions;
+using testing::haveEnableAll;
+using testing::haveReset;
+using testing::haveRowSwitches;
 using testing::nameFields;
 using testing::nameMarks;
-using testing::removeActions;
-using testing::resetActions;
-using Switch = void (Controller::*)(long row, bool on);
-
-constexpr std::array<Switch, 5> switches{&Controller::onOffcheckedStateChangedOfCreateNewFile,
-    &Controller::onOffcheckedStateChangedOfCopyTo, nullptr, &Controller::onOffcheckedStateChangedOfCustomIcon,
-    &Controller::onOffcheckedStateChangedOfOthers};
 
 /// The lists stay of a size.
 constexpr std::size_t shortestList = 10;
-
-std::size_t at(RuleCategory category) {
-    return static_cast<std::size_t>(category);
-}
 
 std::string sum(const std::string& text) {
     return std::to_string(checksum(reinterpret_cast<const std::uint8_t*>(text.data()), text.size()));
@@ -75,9 +64,9 @@ void RandomEdits::useGivenName() {
     }
     const std::string name{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     for (const auto* field : nameFields) {
-        controller().controlTextShouldEndEditing(field, 0, name);
+        controller().textEdited(field, 0, name);
     }
-    controller().controlTextShouldEndEditing("OthersNote", 0, name);
+    controller().textEdited("OthersNote", 0, name);
 }
 
 void RandomEdits::editOneOf(RuleCategory category) {
@@ -127,34 +116,34 @@ void RandomEdits::remove(RuleCategory category) {
         return;
     }
     selectRow(category, place);
-    perform("remove", category, true, model_.remove(category, place),
-        [&] { (controller().*removeActions[at(category)])(); });
+    perform("remove", category, true, model_.remove(category, place), [&] { controller().remove(category); });
 }
 
 void RandomEdits::toggle(RuleCategory category) {
-    auto change = switches[at(category)];
-    const auto* field = "enable";
-    if (!change || list(category).empty()) {
+    if (!haveRowSwitches[category] || list(category).empty()) {
         return;
     }
-    if (category == RuleCategory::createNewFile && pick(4) == 0) {
-        change = &Controller::onOffEnableMainMenuStateChangedOfCreateNewFile;
-        field = "enableMainMenu";
-    }
+    const auto inMainMenu = category == RuleCategory::createNewFile && pick(4) == 0;
     const auto place = row(category);
     const auto on = pick(2) == 0;
-    perform("toggle", category, true, model_.set(category, place, field, on),
-        [&] { (controller().*change)(place, on); });
+    perform("toggle", category, true,
+        model_.set(category, place, inMainMenu ? "enableMainMenu" : "enable", on), [&] {
+            if (inMainMenu) {
+                controller().setEnabledInMainMenu(place, on);
+            } else {
+                controller().setEnabled(category, place, on);
+            }
+        });
 }
 
 void RandomEdits::enableAll(RuleCategory category) {
-    if (!enableAllActions[at(category)]) {
+    if (!haveEnableAll[category]) {
         return;
     }
     const auto on = pick(2) == 0;
     userSets(factsOf(category).enableAllKey, on);
     perform("enable-all", category, false, model_.enableAll(category, on),
-        [&] { (controller().*enableAllActions[at(category)])(); });
+        [&] { controller().enableAll(category); });
 }
 
 void RandomEdits::drop(RuleCategory category) {
@@ -173,8 +162,8 @@ void RandomEdits::rename(RuleCategory category) {
     }
     const auto place = row(category);
     const auto name = freshName();
-    perform("rename", category, true, model_.rename(category, place, nameMarks[at(category)], name),
-        [&] { controller().controlTextShouldEndEditing(nameFields[at(category)], place, name); });
+    perform("rename", category, true, model_.rename(category, place, nameMarks[category], name),
+        [&] { controller().textEdited(nameFields[category], place, name); });
 }
 
 void RandomEdits::editNote() {
@@ -184,7 +173,7 @@ void RandomEdits::editNote() {
     const auto place = row(RuleCategory::others);
     const auto text = freshName();
     perform("note", RuleCategory::others, true, model_.editNote(place, text),
-        [&] { controller().controlTextShouldEndEditing("OthersNote", place, text); });
+        [&] { controller().textEdited("OthersNote", place, text); });
 }
 
 void RandomEdits::choosePath() {
@@ -200,11 +189,10 @@ void RandomEdits::choosePath() {
 
 void RandomEdits::reset(RuleCategory category) {
     // The factory's lists are known after a first launch only.
-    if (!resetActions[at(category)] || model_.factory.front().empty()) {
+    if (!haveReset[category] || model_.factory[RuleCategory::createNewFile].empty()) {
         return;
     }
-    perform("reset", category, true, model_.reset(category),
-        [&] { (controller().*resetActions[at(category)])(); });
+    perform("reset", category, true, model_.reset(category), [&] { controller().reset(category); });
 }
 
 } // namespace tarnwick::soak

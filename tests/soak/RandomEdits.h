@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/editing/RuleModel.h"
+#include "tests/model/RuleModel.h"
 #include "tests/soak/Journal.h"
 
 #include <cstddef>

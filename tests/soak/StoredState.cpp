@@ -1,8 +1,8 @@
 #include "tests/soak/StoredState.h"
 
 #include "adapters/foundation/Adapters.h"
+#include "platform/FileManager.h"
 #include "platform/PreferenceStore.h"
-#include "platform/PropertyLists.h"
 #include "prefs/PreferenceKeys.h"
 #include "tests/soak/EditingApplication.h"
 
@@ -44,19 +44,19 @@ std::set<std::string> namesIn(const std::string& folder) {
 
 RuleModel stateOf(const std::string& sandbox) {
     RuleModel model;
-    const auto stores = makePreferenceStores([](std::string_view) {});
+    const auto stores = makePreferenceStores();
     const auto local = stores->openStandardDomain();
-    const auto factory = makePropertyLists()->read(sandbox + "/factory.plist");
-    for (const auto& facts : ruleCategoryFacts) {
-        const auto index = static_cast<std::size_t>(facts.category);
-        model.lists[index] = recordsIn(local->value(facts.listKey));
+    const auto factory = makeFileManager()->propertyList(sandbox + "/factory.plist");
+    for (const auto category : allRuleCategories) {
+        const auto& facts = factsOf(category);
+        model.lists[category] = recordsIn(local->value(facts.listKey));
         if (const auto* values = factory ? factory->dictionary() : nullptr) {
             if (const auto found = values->find(facts.listKey); found != values->end()) {
-                model.factory[index] = recordsIn(found->second);
+                model.factory[category] = recordsIn(found->second);
             }
         }
     }
-    auto& targets = model.factory[static_cast<std::size_t>(RuleCategory::copyFilesTo)];
+    auto& targets = model.factory[RuleCategory::copyFilesTo];
     targets.clear();
     for (const auto* name : {"Downloads", "Pictures", "Music", "Movies"}) {
         targets.push_back(

@@ -22,8 +22,7 @@ bool InMemoryFiles::remove(const std::string& path) {
     if (failing.count(path) != 0 || !exists(path)) {
         return false;
     }
-    std::erase_if(files, [&](const auto& file) { return file.first == path || liesIn(file.first, path); });
-    std::erase_if(folders, [&](const auto& folder) { return folder == path || liesIn(folder, path); });
+    erase(path);
     return true;
 }
 
@@ -38,23 +37,53 @@ bool InMemoryFiles::createFolder(const std::string& path) {
     return true;
 }
 
+bool InMemoryFiles::canPut(const std::string& from, const std::string& to) const {
+    return failing.count(to) == 0 && exists(from) && !exists(to) && folders.count(parentOf(to)) != 0 &&
+           !liesIn(to, from);
+}
+
 bool InMemoryFiles::copy(const std::string& from, const std::string& to) {
     log_.add("copy " + from + " -> " + to);
-    if (failing.count(to) != 0 || files.count(from) == 0 || exists(to) || folders.count(parentOf(to)) == 0) {
+    if (!canPut(from, to)) {
         return false;
     }
-    files[to] = files[from];
+    put(from, to);
     return true;
 }
 
 bool InMemoryFiles::move(const std::string& from, const std::string& to) {
     log_.add("move " + from + " -> " + to);
-    if (failing.count(to) != 0 || files.count(from) == 0 || exists(to) || folders.count(parentOf(to)) == 0) {
+    if (!canPut(from, to)) {
         return false;
     }
-    files[to] = files[from];
-    files.erase(from);
+    put(from, to);
+    erase(from);
     return true;
+}
+
+void InMemoryFiles::put(const std::string& from, const std::string& to) {
+    const auto moved = [&](const std::string& path) { return to + path.substr(from.size()); };
+    for (const auto& folder : std::set(folders)) {
+        if (folder == from || liesIn(folder, from)) {
+            folders.insert(moved(folder));
+        }
+    }
+    for (const auto& [path, contents] : std::map(files)) {
+        if (path == from || liesIn(path, from)) {
+            files[moved(path)] = contents;
+        }
+    }
+}
+
+void InMemoryFiles::erase(const std::string& path) {
+    std::erase_if(files, [&](const auto& file) { return file.first == path || liesIn(file.first, path); });
+    std::erase_if(folders, [&](const auto& folder) { return folder == path || liesIn(folder, path); });
+}
+
+std::optional<PlistValue> InMemoryFiles::propertyList(const std::string& path) const {
+    log_.add("parse " + path);
+    const auto found = propertyLists.find(path);
+    return found == propertyLists.end() ? std::nullopt : std::optional(found->second);
 }
 
 std::set<std::string> InMemoryFiles::namesIn(const std::string& folder) const {

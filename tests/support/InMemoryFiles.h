@@ -12,7 +12,7 @@
 namespace tarnwick::testing {
 
 /// A file tree: paths with their contents; folders are paths of their own. Logs "remove PATH",
-/// "create folder PATH", "copy FROM -> TO" and "move FROM -> TO", also when they fail.
+/// "create folder PATH", "copy FROM -> TO", "move FROM -> TO" and "parse PATH", also when they fail.
 class InMemoryFiles final : public FileManager {
 public:
     explicit InMemoryFiles(CallLog& log) : log_(log) {}
@@ -21,17 +21,23 @@ public:
     std::set<std::string> folders;
     /// Destinations (or removed or created paths) at which the operation fails.
     std::set<std::string> failing;
+    /// What property-list files hold.
+    std::map<std::string, PlistValue> propertyLists;
 
     bool exists(const std::string& path) const override;
     bool remove(const std::string& path) override;
     bool createFolder(const std::string& path) override;
     bool copy(const std::string& from, const std::string& to) override;
     bool move(const std::string& from, const std::string& to) override;
+    std::optional<PlistValue> propertyList(const std::string& path) const override;
 
     /// The names of the files directly in a folder, sorted.
     [[nodiscard]] std::set<std::string> namesIn(const std::string& folder) const;
 
 private:
+    [[nodiscard]] bool canPut(const std::string& from, const std::string& to) const;
+    void put(const std::string& from, const std::string& to);
+    void erase(const std::string& path);
     CallLog& log_;
 };
 
@@ -59,6 +65,7 @@ class InMemoryBundle final : public ApplicationBundle {
 public:
     std::map<std::string, std::string, std::less<>> texts;
     std::string version = "1.2.3";
+    bool loginItem = false;
 
     std::string localized(std::string_view key) const override {
         const auto found = texts.find(key);
@@ -67,6 +74,7 @@ public:
     std::string resourceFolder() const override { return "/resources"; }
     std::string plugInsFolder() const override { return "/app/PlugIns"; }
     std::string shortVersion() const override { return version; }
+    bool isLoginItem() const override { return loginItem; }
 };
 
 } // namespace tarnwick::testing

@@ -23,10 +23,9 @@ void InMemoryPlatform::addResources() {
     }
 }
 
-Platform InMemoryPlatform::ports() {
-    return {preferences, files, folders, bundle, images, openPanel, alerts, workspace, runningApplications,
-        launchServices, loginItems, finderSync, userScripts, notifications, runLoop, systemVersion, systemLog,
-        shell, propertyLists, process};
+Ports InMemoryPlatform::ports() {
+    return {preferences, files, folders, bundle, images, panels, workspace, finderSync, userScripts,
+        notifications, runLoop, systemLog, process};
 }
 
 } // namespace tarnwick::testing

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Platform.h"
+#include "platform/Ports.h"
 #include "tests/support/CallLog.h"
 #include "tests/support/InMemoryFiles.h"
 #include "tests/support/InMemoryImages.h"
@@ -17,24 +17,17 @@ struct InMemoryPlatform {
     InMemoryFolders folders;
     InMemoryBundle bundle;
     InMemoryImages images;
-    InMemoryOpenPanel openPanel{log};
-    InMemoryAlerts alerts{log};
+    InMemoryPanels panels{log};
     InMemoryWorkspace workspace{log};
-    InMemoryRunningApplications runningApplications{log};
-    InMemoryLaunchServices launchServices;
-    InMemoryLoginItems loginItems{log};
     InMemoryFinderSync finderSync{log};
     InMemoryUserScripts userScripts{log};
     InMemoryNotifications notifications{log};
     InMemoryRunLoop runLoop{log};
-    InMemorySystemVersion systemVersion;
     InMemorySystemLog systemLog{log};
-    InMemoryShell shell;
-    InMemoryPropertyLists propertyLists{log};
     InMemoryProcess process{log};
 
     InMemoryPlatform();
-    [[nodiscard]] Platform ports();
+    [[nodiscard]] Ports ports();
 
     /// Puts all resource files of the factory lists and icon folders at "/resources".
     void addResources();

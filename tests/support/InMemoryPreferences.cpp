@@ -13,8 +13,10 @@ public:
     }
     void setValue(std::string_view key, const PlistValue& value) override {
         owner_.log_.add(name_ + " set " + std::string(key));
+        const auto old = this->value(key);
         values_.insert_or_assign(std::string(key), value);
-        if (&values_ == &owner_.local && owner_.observer && owner_.observedKeys_.count(key) != 0) {
+        if (&values_ == &owner_.local && owner_.observer && owner_.observedKeys.count(key) != 0 &&
+            old != value) {
             owner_.observer(key, value);
         }
     }
@@ -40,11 +42,6 @@ std::unique_ptr<PreferenceStore> InMemoryPreferences::openStandardDomain() {
 std::unique_ptr<PreferenceStore> InMemoryPreferences::openSuite(std::string_view name) {
     log_.add("shared open " + std::string(name));
     return std::make_unique<Store>(*this, shared, "shared");
-}
-
-void InMemoryPreferences::observeStandardKey(std::string_view key) {
-    log_.add("observe " + std::string(key));
-    observedKeys_.emplace(key);
 }
 
 std::optional<std::string> InMemoryPreferences::systemWideString(std::string_view key) const {

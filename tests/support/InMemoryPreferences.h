@@ -13,7 +13,7 @@
 namespace tarnwick::testing {
 
 /// Both preference domains as dictionaries. Logs "local set KEY", "shared set KEY", "local remove KEY",
-/// "local synchronise", "shared synchronise", "shared open" and "observe KEY".
+/// "local synchronise", "shared synchronise" and "shared open".
 class InMemoryPreferences final : public PreferenceStores {
 public:
     explicit InMemoryPreferences(CallLog& log) : log_(log) {}
@@ -22,12 +22,12 @@ public:
     PlistDictionary shared;
     /// What the system-wide domain holds.
     std::map<std::string, std::string, std::less<>> systemWide;
-    /// Told of each change of an observed key of the local domain; normally the settings controller.
+    /// The keys of the local domain whose changes, and only changes, `observer` is told.
+    std::set<std::string, std::less<>> observedKeys;
     std::function<void(std::string_view key, const PlistValue& value)> observer;
 
     std::unique_ptr<PreferenceStore> openStandardDomain() override;
     std::unique_ptr<PreferenceStore> openSuite(std::string_view name) override;
-    void observeStandardKey(std::string_view key) override;
     std::optional<std::string> systemWideString(std::string_view key) const override;
 
     /// A write that the user's switch makes: stored, then told to the observer.
@@ -36,7 +36,6 @@ public:
 private:
     class Store;
     CallLog& log_;
-    std::set<std::string, std::less<>> observedKeys_;
 };
 
 } // namespace tarnwick::testing

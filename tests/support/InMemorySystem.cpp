@@ -5,30 +5,30 @@
 
 namespace tarnwick::testing {
 
-void InMemoryOpenPanel::begin(
+void InMemoryPanels::choose(
     const OpenPanelRequest& request, std::function<void(const OpenPanelAnswer&)> completion) {
     log_.add("open panel");
     requests.push_back(request);
     open_.push_back(std::move(completion));
 }
 
-void InMemoryOpenPanel::choose(std::vector<std::string> paths) {
+void InMemoryPanels::confirm(std::vector<std::string> paths) {
     close({true, std::move(paths)});
 }
 
-void InMemoryOpenPanel::cancel() {
+void InMemoryPanels::cancel() {
     close({});
 }
 
-void InMemoryOpenPanel::close(const OpenPanelAnswer& answer) {
+void InMemoryPanels::close(const OpenPanelAnswer& answer) {
     const auto completion = std::move(open_.front());
     open_.pop_front();
     completion(answer);
 }
 
-long InMemoryAlerts::runModal(const AlertRequest& request) {
+long InMemoryPanels::runAlert(const AlertRequest& request) {
     log_.add("alert " + request.messageText);
-    shown.push_back(request);
+    alerts.push_back(request);
     if (answers.empty()) {
         return alertFirstButton;
     }
@@ -42,19 +42,9 @@ std::optional<std::string> InMemoryWorkspace::applicationPath(std::string_view b
     return found == applications.end() ? std::nullopt : std::optional(found->second);
 }
 
-RegisteredApplications InMemoryLaunchServices::applications(std::string_view bundleIdentifier) const {
+RegisteredApplications InMemoryWorkspace::registeredApplications(std::string_view bundleIdentifier) const {
     const auto found = registered.find(bundleIdentifier);
     return found == registered.end() ? RegisteredApplications{} : found->second;
-}
-
-void InMemoryLoginItems::add() {
-    log_.add("add login item");
-    present = true;
-}
-
-void InMemoryLoginItems::remove() {
-    log_.add("remove login item");
-    present = false;
 }
 
 bool InMemoryFinderSync::isExtensionEnabled() const {
@@ -126,7 +116,7 @@ void InMemoryRunLoop::runBackground() {
     drain(background_);
 }
 
-bool InMemorySystemVersion::isAtLeast(int otherMajor, int otherMinor, int otherPatch) const {
+bool InMemoryProcess::isSystemAtLeast(int otherMajor, int otherMinor, int otherPatch) const {
     return std::tie(major, minor, patch) >= std::tie(otherMajor, otherMinor, otherPatch);
 }
 
@@ -135,15 +125,9 @@ void InMemorySystemLog::write(std::string_view line) {
     lines.emplace_back(line);
 }
 
-PlistData InMemoryShell::output(const std::string& launchPath, const std::vector<std::string>& arguments) {
+PlistData InMemoryProcess::output(const std::string& launchPath, const std::vector<std::string>& arguments) {
     runs.emplace_back(launchPath, arguments);
     return PlistData({answer.begin(), answer.end()});
-}
-
-std::optional<PlistValue> InMemoryPropertyLists::read(const std::string& path) const {
-    log_.add("parse " + path);
-    const auto found = files.find(path);
-    return found == files.end() ? std::nullopt : std::optional(found->second);
 }
 
 void InMemoryProcess::exit(int status) {

@@ -1,18 +1,11 @@
 #pragma once
 
-#include "platform/Alerts.h"
 #include "platform/DistributedNotifications.h"
 #include "platform/FinderSync.h"
-#include "platform/LaunchServices.h"
-#include "platform/LoginItems.h"
-#include "platform/OpenPanel.h"
-#include "platform/ProcessControl.h"
-#include "platform/PropertyLists.h"
+#include "platform/Panels.h"
+#include "platform/Process.h"
 #include "platform/RunLoop.h"
-#include "platform/RunningApplications.h"
-#include "platform/ShellTask.h"
 #include "platform/SystemLog.h"
-#include "platform/SystemVersion.h"
 #include "platform/UserScript.h"
 #include "platform/Workspace.h"
 #include "tests/support/CallLog.h"
@@ -24,17 +17,22 @@
 
 namespace tarnwick::testing {
 
-/// Keeps each chooser open until the test answers it. Logs "open panel".
-class InMemoryOpenPanel final : public OpenPanel {
+/// Keeps each chooser open until the test answers it, and answers each alert with the next of `answers`, the
+/// first button when there is none. Logs "open panel" and "alert MESSAGE".
+class InMemoryPanels final : public Panels {
 public:
-    explicit InMemoryOpenPanel(CallLog& log) : log_(log) {}
+    explicit InMemoryPanels(CallLog& log) : log_(log) {}
     std::vector<OpenPanelRequest> requests;
+    std::vector<AlertRequest> alerts;
+    std::deque<long> answers;
 
-    void begin(
+    long runAlert(const AlertRequest& request) override;
+    void choose(
         const OpenPanelRequest& request, std::function<void(const OpenPanelAnswer&)> completion) override;
+
     [[nodiscard]] bool isOpen() const { return !open_.empty(); }
     /// Closes the chooser that was opened first.
-    void choose(std::vector<std::string> paths);
+    void confirm(std::vector<std::string> paths);
     void cancel();
 
 private:
@@ -43,62 +41,24 @@ private:
     std::deque<std::function<void(const OpenPanelAnswer&)>> open_;
 };
 
-/// Answers each alert with the next of `answers`, the first button when there is none. Logs "alert MESSAGE".
-class InMemoryAlerts final : public Alerts {
-public:
-    explicit InMemoryAlerts(CallLog& log) : log_(log) {}
-    std::vector<AlertRequest> shown;
-    std::deque<long> answers;
-    long runModal(const AlertRequest& request) override;
-
-private:
-    CallLog& log_;
-};
-
-/// Logs "open URL ADDRESS", "launch PATH" and "observe applications".
+/// Logs "open URL ADDRESS", "launch PATH" and "terminate IDENTIFIER".
 class InMemoryWorkspace final : public Workspace {
 public:
     explicit InMemoryWorkspace(CallLog& log) : log_(log) {}
     std::map<std::string, std::string, std::less<>> applications;
+    std::map<std::string, RegisteredApplications, std::less<>> registered;
+    std::set<std::string, std::less<>> running;
+
     void openURL(std::string_view address) override { log_.add("open URL " + std::string(address)); }
     void launchApplication(const std::string& path) override { log_.add("launch " + path); }
     std::optional<std::string> applicationPath(std::string_view bundleIdentifier) const override;
-    void observeApplicationChanges() override { log_.add("observe applications"); }
-
-private:
-    CallLog& log_;
-};
-
-/// Logs "terminate IDENTIFIER".
-class InMemoryRunningApplications final : public RunningApplications {
-public:
-    explicit InMemoryRunningApplications(CallLog& log) : log_(log) {}
-    std::set<std::string, std::less<>> running;
+    RegisteredApplications registeredApplications(std::string_view bundleIdentifier) const override;
     bool isRunning(std::string_view bundleIdentifier) const override {
         return running.count(bundleIdentifier) != 0;
     }
     void terminateAll(std::string_view bundleIdentifier) override {
         log_.add("terminate " + std::string(bundleIdentifier));
     }
-
-private:
-    CallLog& log_;
-};
-
-class InMemoryLaunchServices final : public LaunchServices {
-public:
-    std::map<std::string, RegisteredApplications, std::less<>> registered;
-    RegisteredApplications applications(std::string_view bundleIdentifier) const override;
-};
-
-/// Logs "add login item" and "remove login item".
-class InMemoryLoginItems final : public LoginItems {
-public:
-    explicit InMemoryLoginItems(CallLog& log) : log_(log) {}
-    bool present = false;
-    bool isLoginItem() const override { return present; }
-    void add() override;
-    void remove() override;
 
 private:
     CallLog& log_;
@@ -161,14 +121,6 @@ private:
     std::deque<std::function<void()>> background_;
 };
 
-class InMemorySystemVersion final : public SystemVersion {
-public:
-    int major = 10;
-    int minor = 15;
-    int patch = 0;
-    bool isAtLeast(int otherMajor, int otherMinor, int otherPatch) const override;
-};
-
 /// Logs "log LINE" and keeps the lines.
 class InMemorySystemLog final : public SystemLog {
 public:
@@ -180,31 +132,21 @@ private:
     CallLog& log_;
 };
 
-/// Answers each run with the bytes of `answer` and keeps what was run.
-class InMemoryShell final : public ShellTask {
-public:
-    std::vector<std::pair<std::string, std::vector<std::string>>> runs;
-    std::string answer;
-    PlistData output(const std::string& launchPath, const std::vector<std::string>& arguments) override;
-};
-
-/// Logs "parse PATH".
-class InMemoryPropertyLists final : public PropertyLists {
-public:
-    explicit InMemoryPropertyLists(CallLog& log) : log_(log) {}
-    std::map<std::string, PlistValue> files;
-    std::optional<PlistValue> read(const std::string& path) const override;
-
-private:
-    CallLog& log_;
-};
-
-/// Does not end anything; logs "exit STATUS".
-class InMemoryProcess final : public ProcessControl {
+/// Does not end anything; logs "exit STATUS". Runs no program: gives the bytes of `answer` and keeps what was
+/// to run.
+class InMemoryProcess final : public Process {
 public:
     explicit InMemoryProcess(CallLog& log) : log_(log) {}
     std::vector<int> exits;
+    int major = 10;
+    int minor = 15;
+    int patch = 0;
+    std::vector<std::pair<std::string, std::vector<std::string>>> runs;
+    std::string answer;
+
     void exit(int status) override;
+    bool isSystemAtLeast(int otherMajor, int otherMinor, int otherPatch) const override;
+    PlistData output(const std::string& launchPath, const std::vector<std::string>& arguments) override;
 
 private:
     CallLog& log_;

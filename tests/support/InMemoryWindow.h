@@ -1,121 +1,76 @@
 #pragma once
 
-#include "platform/WindowControls.h"
-#include "tests/support/CallLog.h"
-#include "ui/Outlets.h"
+#include "app/ApplicationWindow.h"
+#include "tests/support/InMemoryPreferences.h"
+#include "tests/support/InMemoryTables.h"
+#include "ui/Colour.h"
+#include "ui/SettingsWindow.h"
 
-#include <array>
-#include <deque>
-#include <functional>
+#include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace tarnwick::testing {
 
-/// A table that counts its rows through `rowCount` when it is reloaded, as a real one asks its data source.
-/// Logs "reload NAME", "select NAME ROW" and "deselect NAME".
-class InMemoryTable final : public TableControl {
+/// The settings window. Beside what its tables log: "observe KEY" and "observe applications".
+class InMemoryWindow final : public InMemoryTablesOf<SettingsWindow> {
 public:
-    InMemoryTable(CallLog& log, std::string name) : log_(log), name_(std::move(name)) {}
-    long selected = -1;
-    long rows = 0;
-    std::function<long()> rowCount;
-    std::vector<std::pair<std::uint32_t, DragScope>> dragMasks;
-    std::vector<std::string> dragTypes;
+    struct DragSetUp {
+        RuleCategory category;
+        std::uint32_t outside;
+        std::uint32_t inside;
+        std::string type;
+    };
 
-    void reloadData() override;
-    long selectedRow() const override { return selected; }
-    long numberOfRows() const override { return rows; }
-    void selectRow(long row) override;
-    void deselectAll() override;
-    void setDraggingSourceOperationMask(std::uint32_t mask, DragScope scope) override;
-    void registerForDraggedType(std::string_view type) override { dragTypes.emplace_back(type); }
+    /// The controller that changes of `preferences` are told to once it observes them.
+    InMemoryWindow(CallLog& log, InMemoryPreferences& preferences)
+        : InMemoryTablesOf(log), preferences_(preferences) {}
+
+    std::string version;
+    std::optional<Page> page;
+    PerPage<Colour> pageButtons = PerPage<Colour>::madeBy([](Page) { return Colour(); });
+    bool restartButtonIsHidden = false;
+    Colour helpTitle;
+    std::vector<DragSetUp> drags;
+
+    void showVersion(std::string_view text) override { version = text; }
+    void showPage(Page shown) override { page = shown; }
+    void setPageButtonBackground(Page button, const Colour& colour) override { pageButtons[button] = colour; }
+    void hideRestartButton() override { restartButtonIsHidden = true; }
+    void setHelpTitleColour(const Colour& colour) override { helpTitle = colour; }
+    void setUpDragging(RuleCategory category, std::uint32_t outside, std::uint32_t inside,
+        std::string_view draggedType) override {
+        drags.push_back({category, outside, inside, std::string(draggedType)});
+    }
+    void observeSwitches(std::span<const std::string_view> keys) override {
+        for (const auto& key : keys) {
+            log_.add("observe " + std::string(key));
+            preferences_.observedKeys.emplace(key);
+        }
+    }
+    void observeApplicationChanges() override { log_.add("observe applications"); }
 
 private:
-    CallLog& log_;
-    std::string name_;
-};
-
-/// Logs "enable NAME" and "disable NAME".
-class InMemoryButton final : public ButtonControl {
-public:
-    InMemoryButton(CallLog& log, std::string name) : log_(log), name_(std::move(name)) {}
-    bool enabled = true;
-    bool hidden = false;
-    Colour background;
-    Colour titleColour;
-
-    void setEnabled(bool on) override;
-    void setHidden(bool on) override { hidden = on; }
-    void setBackground(const Colour& colour) override { background = colour; }
-    void setTitleColour(const Colour& colour) override { titleColour = colour; }
-
-private:
-    CallLog& log_;
-    std::string name_;
-};
-
-/// Logs "end edit" when it ends one.
-class InMemoryRowEditing final : public RowEditing {
-public:
-    explicit InMemoryRowEditing(CallLog& log) : log_(log) {}
-    /// The edit in progress: gives the controller its text, as the field does. Empty: none.
-    std::function<void()> edit;
-
-    void end() override;
-
-private:
-    CallLog& log_;
-};
-
-class InMemoryLabel final : public LabelControl {
-public:
-    std::string text;
-    void setText(std::string_view newText) override { text = newText; }
-};
-
-class InMemoryTabs final : public TabControl {
-public:
-    int selected = -1;
-    void selectTab(int index) override { selected = index; }
+    InMemoryPreferences& preferences_;
 };
 
 /// Logs each call.
-class InMemoryWindowFrame final : public WindowControl {
+class InMemoryApplicationWindow final : public ApplicationWindow {
 public:
-    explicit InMemoryWindowFrame(CallLog& log) : log_(log) {}
+    explicit InMemoryApplicationWindow(CallLog& log) : log_(log) {}
     Colour background;
-    void setMovableByBackground(bool movable) override;
-    void setBackground(const Colour& colour) override;
+    void setMovableByBackground(bool movable) override {
+        log_.add(movable ? "movable by background" : "not movable by background");
+    }
+    void setBackground(const Colour& colour) override {
+        log_.add("background");
+        background = colour;
+    }
     void setTextBackground() override { log_.add("text background"); }
     void activateApplication() override { log_.add("activate"); }
 
 private:
     CallLog& log_;
-};
-
-/// All controls of the window, named after their categories: "createNewFile", "copyFilesTo", "commonPath",
-/// "customIcon", "others".
-class InMemoryWindow {
-public:
-    explicit InMemoryWindow(CallLog& log);
-    [[nodiscard]] Outlets outlets();
-    [[nodiscard]] InMemoryTable& table(RuleCategory category) {
-        return tables[static_cast<std::size_t>(category)];
-    }
-    [[nodiscard]] InMemoryButton& removeButton(RuleCategory category) {
-        return removeButtons[static_cast<std::size_t>(category)];
-    }
-
-    InMemoryLabel version;
-    InMemoryTabs tabs;
-    std::deque<InMemoryButton> pageButtons;
-    std::deque<InMemoryTable> tables;
-    std::deque<InMemoryButton> removeButtons;
-    InMemoryRowEditing rowEditing;
-    InMemoryButton restartFinderButton;
-    InMemoryButton helpButton;
 };
 
 } // namespace tarnwick::testing

@@ -1,6 +1,5 @@
-#include "ui/RowLabels.h"
 #include "tests/support/SettingsFixture.h"
-#include "ui/WindowLayout.h"
+#include "ui/RuleColumns.h"
 
 #include <set>
 
@@ -9,14 +8,19 @@ namespace {
 
 class RowLabelsTest : public SettingsFixture {
 protected:
-    [[nodiscard]] std::string label(
-        std::string_view column, std::string_view name = "TXT", long row = 0) const {
-        return rowControlLabel(platform_.bundle, column, name, row, false);
+    /// Of the first row, TXT, unless it is called otherwise.
+    [[nodiscard]] std::string label(RuleCategory category, std::string_view column) {
+        launch();
+        return controller_.rows().label(category, column, 0);
+    }
+    void callTheFirst(const PlistValue& name) {
+        storeList(RuleCategory::createNewFile, {makeRecord({{"displayName", name}, {"modified", "1"}})});
+        platform_.files.createFolder("/container/Templates/CreateNewFile");
     }
     [[nodiscard]] std::vector<std::string> labels(RuleCategory category, std::string_view column) const {
         std::vector<std::string> found;
-        for (long row = 0; row < controller_.numberOfRows(category); ++row) {
-            found.push_back(controller_.accessibilityLabel(category, column, row));
+        for (long row = 0; row < controller_.rows().count(category); ++row) {
+            found.push_back(controller_.rows().label(category, column, row));
         }
         return found;
     }
@@ -24,45 +28,49 @@ protected:
 };
 
 TEST_F(RowLabelsTest, ASwitchSaysWhatItDoesToWhichRow) {
-    EXPECT_EQ(label("Enable"), "Offer TXT in the menu");
-    EXPECT_EQ(label("OthersEnable"), "Offer TXT in the menu");
-    EXPECT_EQ(label("EnableMainMenu"), "Offer TXT in the main menu");
+    EXPECT_EQ(label(RuleCategory::createNewFile, "Enable"), "Offer TXT in the menu");
+    EXPECT_EQ(label(RuleCategory::others, "OthersEnable"), "Offer Cut in the menu");
+    EXPECT_EQ(label(RuleCategory::createNewFile, "EnableMainMenu"), "Offer TXT in the main menu");
 }
 
 TEST_F(RowLabelsTest, AFieldSaysWhatItHoldsOfWhichRow) {
-    EXPECT_EQ(label("NewFileDisplayName"), "Name of TXT");
-    EXPECT_EQ(label("Extension"), "Extension of TXT");
-    EXPECT_EQ(label("realPath"), "Folder of TXT");
-    EXPECT_EQ(label("Size"), "Size of TXT");
-    EXPECT_EQ(label("OthersNote"), "Note of TXT");
+    EXPECT_EQ(label(RuleCategory::createNewFile, "NewFileDisplayName"), "Name of TXT");
+    EXPECT_EQ(label(RuleCategory::createNewFile, "Extension"), "Extension of TXT");
+    EXPECT_EQ(label(RuleCategory::customIcon, "Size"), "Size of App");
+    EXPECT_EQ(label(RuleCategory::others, "OthersNote"), "Note of Cut");
 }
 
 TEST_F(RowLabelsTest, ARowWithoutANameGoesByItsNumber) {
-    EXPECT_EQ(label("Enable", "", 2), "Offer row 3 in the menu");
+    callTheFirst("");
+    EXPECT_EQ(label(RuleCategory::createNewFile, "Enable"), "Offer row 1 in the menu");
 }
 
-TEST_F(RowLabelsTest, AnUnknownColumnSaysNothing) {
-    EXPECT_EQ(label("Anything"), "");
+TEST_F(RowLabelsTest, AnUnknownColumnAndARowThatIsNotThereSayNothing) {
+    EXPECT_EQ(label(RuleCategory::createNewFile, "Anything"), "");
+    EXPECT_EQ(controller_.rows().label(RuleCategory::commonPath, "realPath", 7), "");
 }
 
-TEST_F(RowLabelsTest, ALabelIsTranslatedAndANameIsNot) {
-    platform_.bundle.texts = {{"Name of %@", "%@, Name"}, {"TXT", "Text"}};
-    EXPECT_EQ(label("NewFileDisplayName"), "TXT, Name");
+TEST_F(RowLabelsTest, ALabelIsTranslatedAndANameOfTheUsersIsNot) {
+    callTheFirst("Word");
+    platform_.bundle.texts = {{"Name of %@", "%@, Name"}, {"Word", "Wort"}};
+    EXPECT_EQ(label(RuleCategory::createNewFile, "NewFileDisplayName"), "Word, Name");
 }
 
 TEST_F(RowLabelsTest, ANameWithAPlaceholderStaysAsItIs) {
-    EXPECT_EQ(label("Enable", "%@ %d"), "Offer %@ %d in the menu");
+    callTheFirst("%@ %d");
+    EXPECT_EQ(label(RuleCategory::createNewFile, "Enable"), "Offer %@ %d in the menu");
 }
 
 TEST_F(RowLabelsTest, EveryColumnOfARowHasALabelOfItsOwnThatNamesTheRow) {
     storeList(RuleCategory::copyFilesTo, {makeRecord({{"realPath", "/a/Pictures"}})});
     storeList(RuleCategory::commonPath, {makeRecord({{"realPath", "/a/Pictures"}})});
     launch();
-    for (const auto& page : pageLayouts()) {
+    for (const auto category : allRuleCategories) {
         std::set<std::string> labels;
-        for (const auto& column : page.columns) {
-            const auto cell = controller_.viewForTableColumn(*page.category, page.nameColumn, 0);
-            const auto found = controller_.accessibilityLabel(*page.category, column.identifier, 0);
+        for (const auto& column : columnsOf(category)) {
+            const auto* nameColumn = columnOf(category, ColumnRole::name);
+            const auto cell = controller_.rows().cell(category, nameColumn->identifier, 0);
+            const auto found = controller_.rows().label(category, column.identifier, 0);
             EXPECT_NE(found.find(std::get_if<TextFieldCell>(&cell.control)->text), std::string::npos)
                 << found;
             EXPECT_TRUE(labels.insert(found).second) << found;
@@ -85,11 +93,11 @@ TEST_F(RowLabelsTest, TheNumbersComeAndGoWithTheSecondRowOfAName) {
         {makeRecord({{"realPath", "/a/src"}}), makeRecord({{"realPath", "/a/doc"}})});
     launch();
     EXPECT_EQ(labels(RuleCategory::commonPath, "realPath"), (Labels{"Folder of src", "Folder of doc"}));
-    controller_.controlTextShouldEndEditing("commonPathDisplayName", 1, "src");
+    controller_.textEdited("commonPathDisplayName", 1, "src");
     EXPECT_EQ(labels(RuleCategory::commonPath, "realPath"),
         (Labels{"Folder of src (row 1)", "Folder of src (row 2)"}));
     window_.table(RuleCategory::commonPath).selected = 0;
-    controller_.removeCommondPathRule();
+    controller_.remove(RuleCategory::commonPath);
     EXPECT_EQ(labels(RuleCategory::commonPath, "realPath"), Labels{"Folder of src"});
 }
 
@@ -98,11 +106,6 @@ TEST_F(RowLabelsTest, TheSameNameInAnotherTableIsNoRepetition) {
     storeList(RuleCategory::commonPath, {makeRecord({{"realPath", "/a/src"}})});
     launch();
     EXPECT_EQ(labels(RuleCategory::copyFilesTo, "Enable"), Labels{"Offer src in the menu"});
-}
-
-TEST_F(RowLabelsTest, ARowThatIsNotThereHasNoNameButALabel) {
-    launch();
-    EXPECT_EQ(controller_.accessibilityLabel(RuleCategory::commonPath, "realPath", 7), "Folder of row 8");
 }
 
 } // namespace

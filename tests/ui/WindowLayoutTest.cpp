@@ -1,6 +1,7 @@
 #include "ui/WindowLayout.h"
 #include "prefs/PreferenceKeys.h"
 #include "tests/support/SettingsFixture.h"
+#include "ui/RuleColumns.h"
 
 #include <algorithm>
 #include <set>
@@ -10,22 +11,12 @@ namespace {
 
 class WindowLayoutTest : public SettingsFixture {};
 
-TEST_F(WindowLayoutTest, ThePagesStandInTheOrderOfTheTabView) {
-    for (std::size_t index = 0; index < pageCount; ++index) {
-        EXPECT_EQ(static_cast<std::size_t>(pageLayouts()[index].page), index);
-    }
-}
-
 TEST_F(WindowLayoutTest, EachListHasItsPageWithItsNameAndSwitchAmongTheColumns) {
     for (const auto category : allRuleCategories) {
-        const auto& page = layoutOf(category);
-        EXPECT_EQ(page.category, category);
-        const auto holds = [&page](std::string_view identifier) {
-            return std::any_of(page.columns.begin(), page.columns.end(),
-                [identifier](const auto& column) { return column.identifier == identifier; });
-        };
-        EXPECT_TRUE(holds(page.nameColumn)) << page.title;
-        EXPECT_EQ(holds(page.switchColumn), category != RuleCategory::commonPath) << page.title;
+        EXPECT_EQ(layoutOf(pageOf(category)).category, category);
+        EXPECT_NE(columnOf(category, ColumnRole::name), nullptr);
+        EXPECT_EQ(
+            columnOf(category, ColumnRole::enableSwitch) == nullptr, category == RuleCategory::commonPath);
     }
 }
 
@@ -33,9 +24,9 @@ TEST_F(WindowLayoutTest, EveryColumnOfThePagesHasACell) {
     storeList(RuleCategory::copyFilesTo, {makeRecord({{"realPath", "/a"}})});
     storeList(RuleCategory::commonPath, {makeRecord({{"realPath", "/a"}})});
     launch();
-    for (const auto& page : pageLayouts()) {
-        for (const auto& column : page.columns) {
-            EXPECT_NE(controller_.viewForTableColumn(*page.category, column.identifier, 0), CellView{})
+    for (const auto category : allRuleCategories) {
+        for (const auto& column : columnsOf(category)) {
+            EXPECT_NE(controller_.rows().cell(category, column.identifier, 0), CellView{})
                 << column.identifier;
         }
     }
@@ -43,7 +34,8 @@ TEST_F(WindowLayoutTest, EveryColumnOfThePagesHasACell) {
 
 TEST_F(WindowLayoutTest, EveryOptionSwitchStandsOnExactlyOnePage) {
     std::set<std::string_view> keys;
-    for (const auto& page : pageLayouts()) {
+    for (const auto shown : allPages) {
+        const auto& page = layoutOf(shown);
         for (const auto& facts : page.switches) {
             EXPECT_TRUE(keys.insert(facts.key).second) << facts.key;
         }
@@ -55,7 +47,8 @@ TEST_F(WindowLayoutTest, EveryOptionSwitchStandsOnExactlyOnePage) {
 
 TEST_F(WindowLayoutTest, EveryListSaysWhatIsMissingWhileItIsEmptyAndNamesItsAddButton) {
     std::set<std::string_view> titles;
-    for (const auto& page : pageLayouts()) {
+    for (const auto shown : allPages) {
+        const auto& page = layoutOf(shown);
         EXPECT_EQ(page.category.has_value(), !page.emptyTitle.empty()) << page.title;
         EXPECT_NE(page.emptyHint.find(page.addTitle), std::string_view::npos) << page.title;
         EXPECT_TRUE(titles.insert(page.emptyTitle).second) << page.title;
@@ -63,7 +56,8 @@ TEST_F(WindowLayoutTest, EveryListSaysWhatIsMissingWhileItIsEmptyAndNamesItsAddB
 }
 
 TEST_F(WindowLayoutTest, ExactlyTheListsWithAnEnableAllBooleanHaveThatSwitch) {
-    for (const auto& page : pageLayouts()) {
+    for (const auto shown : allPages) {
+        const auto& page = layoutOf(shown);
         const auto hasBoolean = page.category && !factsOf(*page.category).enableAllKey.empty();
         EXPECT_EQ(!page.enableAllTitle.empty(), hasBoolean) << page.title;
     }

@@ -36,7 +36,6 @@ typedef TN_OPTIONS(NSUInteger, NSAutoresizingMaskOptions){
 - (NSRect)convertRect:(NSRect)rect toView:(nullable NSView *)view;
 - (instancetype)initWithFrame:(NSRect)frame;
 - (void)setAccessibilityLabel:(nullable NSString *)label;
-- (nullable NSString *)accessibilityLabel;
 - (void)setFrameSize:(NSSize)size;
 - (void)setFrameOrigin:(NSPoint)origin;
 - (void)addSubview:(NSView *)view;

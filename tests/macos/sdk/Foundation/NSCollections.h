@@ -21,7 +21,6 @@ typedef struct {
 @property (readonly) NSUInteger count;
 - (ObjectType)objectAtIndex:(NSUInteger)index;
 - (BOOL)containsObject:(ObjectType)object;
-- (NSUInteger)indexOfObjectIdenticalTo:(ObjectType)object;
 + (instancetype)array;
 + (instancetype)arrayWithObject:(ObjectType)object;
 @end

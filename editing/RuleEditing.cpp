@@ -1,0 +1,15 @@
+#include "editing/RuleEditing.h"
+
+#include "platform/Ports.h"
+#include "prefs/Preferences.h"
+
+namespace tarnwick {
+
+RuleEditing::RuleEditing(const Ports& ports, Preferences& preferences, RuleTables& tables)
+    : editor(preferences.lists, preferences.local, preferences.publisher, preferences.factory,
+          preferences.templateFiles, tables),
+      adding(ports.panels, ports.images, ports.folders, preferences.local, preferences.templateFiles, editor),
+      removing(editor, tables), resetting(editor), toggling(preferences.local, editor),
+      reordering(editor, tables), textEditing(editor), pathChoosing(ports.panels, ports.folders, editor) {}
+
+} // namespace tarnwick

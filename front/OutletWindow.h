@@ -1,0 +1,41 @@
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+#include "ui/SettingsWindow.h"
+
+@class SettingsViewController;
+
+namespace tarnwick {
+
+/// The settings window through the outlets of its controller, which it does not keep alive.
+class OutletWindow final : public SettingsWindow {
+public:
+    explicit OutletWindow(SettingsViewController *controller) : controller_(controller) {}
+
+    void endEditing() override;
+    void reload(RuleCategory category) override;
+    [[nodiscard]] long selectedRow(RuleCategory category) const override;
+    [[nodiscard]] long numberOfRows(RuleCategory category) const override;
+    void selectRow(RuleCategory category, long row) override;
+    void deselectAll(RuleCategory category) override;
+    void setRemoveButtonEnabled(RuleCategory category, bool enabled) override;
+
+    void showVersion(std::string_view text) override;
+    /// The keyboard goes to the page's table.
+    void showPage(Page page) override;
+    void setPageButtonBackground(Page page, const Colour &colour) override;
+    void hideRestartButton() override;
+    void setHelpTitleColour(const Colour &colour) override;
+    void setUpDragging(RuleCategory category, std::uint32_t outside, std::uint32_t inside,
+        std::string_view draggedType) override;
+    void observeSwitches(std::span<const std::string_view> keys) override;
+    void observeApplicationChanges() override;
+
+private:
+    [[nodiscard]] NSTableView *table(RuleCategory category) const;
+
+    SettingsViewController *controller_;
+};
+
+} // namespace tarnwick

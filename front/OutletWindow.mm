@@ -1,0 +1,134 @@
+#import "front/OutletWindow.h"
+
+#import "adapters/foundation/StringConversion.h"
+#import "front/Colors.h"
+#import "front/KeyViewLoop.h"
+#import "front/SettingsViewController.h"
+
+#include "ui/WindowLayout.h"
+
+#import <QuartzCore/QuartzCore.h>
+
+namespace tarnwick {
+namespace {
+
+/// The table that a view stands in; nil when it stands in none.
+NSTableView *tableAround(NSView *view) {
+    while (view && ![view isKindOfClass:[NSTableView class]]) {
+        view = [view superview];
+    }
+    return static_cast<NSTableView *>(view);
+}
+
+} // namespace
+
+NSTableView *OutletWindow::table(RuleCategory category) const {
+    return [controller_ tableOf:category];
+}
+
+/// The keyboard goes back to the table.
+void OutletWindow::endEditing() {
+    NSWindow *window = [[controller_ tabView] window];
+    id editor = [window firstResponder];
+    if (![editor isKindOfClass:[NSText class]] || ![editor isFieldEditor] ||
+        ![[editor delegate] isKindOfClass:[NSTextField class]]) {
+        return;
+    }
+    if (NSTableView *edited = tableAround(static_cast<NSTextField *>([editor delegate]))) {
+        [window makeFirstResponder:edited];
+    }
+}
+
+void OutletWindow::reload(RuleCategory category) {
+    [table(category) reloadData];
+}
+
+long OutletWindow::selectedRow(RuleCategory category) const {
+    NSTableView *selected = table(category);
+    return selected ? [selected selectedRow] : -1;
+}
+
+long OutletWindow::numberOfRows(RuleCategory category) const {
+    return [table(category) numberOfRows];
+}
+
+void OutletWindow::selectRow(RuleCategory category, long row) {
+    if (row >= 0 && row < numberOfRows(category)) {
+        [table(category) selectRowIndexes:[NSIndexSet indexSetWithIndex:static_cast<NSUInteger>(row)]
+                     byExtendingSelection:NO];
+        [table(category) scrollRowToVisible:row];
+    }
+}
+
+void OutletWindow::deselectAll(RuleCategory category) {
+    [table(category) deselectAll:nil];
+}
+
+void OutletWindow::setRemoveButtonEnabled(RuleCategory category, bool enabled) {
+    [[controller_ removeButtonOf:category] setEnabled:enabled];
+}
+
+void OutletWindow::showVersion(std::string_view text) {
+    [[controller_ Version] setStringValue:toNSString(text)];
+}
+
+void OutletWindow::showPage(Page page) {
+    NSTabView *tabView = [controller_ tabView];
+    if (!tabView) {
+        return;
+    }
+    [tabView selectTabViewItem:[tabView tabViewItemAtIndex:static_cast<NSInteger>(page)]];
+    linkKeyViews(tabView);
+    const auto category = layoutOf(page).category;
+    [[tabView window] makeFirstResponder:category ? table(*category) : nil];
+}
+
+void OutletWindow::setPageButtonBackground(Page page, const Colour &colour) {
+    NSButton *button = [controller_ buttonOf:page];
+    [[button layer] setBackgroundColor:[colorOf(colour) CGColor]];
+    [button setNeedsDisplay:YES];
+}
+
+void OutletWindow::hideRestartButton() {
+    [[controller_ restartFinderButton] setHidden:YES];
+}
+
+void OutletWindow::setHelpTitleColour(const Colour &colour) {
+    NSButton *button = [controller_ helpButton];
+    if (!button) {
+        return;
+    }
+    NSMutableParagraphStyle *style = [[[NSMutableParagraphStyle alloc] init] autorelease];
+    [style setAlignment:NSTextAlignmentCenter];
+    NSDictionary *attributes =
+        [NSDictionary dictionaryWithObjectsAndKeys:colorOf(colour), NSForegroundColorAttributeName, style,
+                      NSParagraphStyleAttributeName, [button font], NSFontAttributeName, nil];
+    [button setAttributedTitle:[[[NSAttributedString alloc] initWithString:[button title]
+                                                                attributes:attributes] autorelease]];
+}
+
+void OutletWindow::setUpDragging(
+    RuleCategory category, std::uint32_t outside, std::uint32_t inside, std::string_view draggedType) {
+    [table(category) setDraggingSourceOperationMask:outside forLocal:NO];
+    [table(category) setDraggingSourceOperationMask:inside forLocal:YES];
+    [table(category) registerForDraggedTypes:[NSArray arrayWithObject:toNSString(draggedType)]];
+}
+
+void OutletWindow::observeSwitches(std::span<const std::string_view> keys) {
+    for (const auto &key : keys) {
+        [[NSUserDefaults standardUserDefaults] addObserver:controller_
+                                                forKeyPath:toNSString(key)
+                                                   options:NSKeyValueObservingOptionNew
+                                                   context:nullptr];
+    }
+}
+
+void OutletWindow::observeApplicationChanges() {
+    NSNotificationCenter *center = [[NSWorkspace sharedWorkspace] notificationCenter];
+    for (NSString *name :
+        {NSWorkspaceDidActivateApplicationNotification, NSWorkspaceDidDeactivateApplicationNotification}) {
+        [center addObserver:controller_ selector:@selector(appChanged:) name:name object:nil];
+    }
+}
+
+} // namespace tarnwick

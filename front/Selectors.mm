@@ -1,0 +1,164 @@
+#import "front/Selectors.h"
+
+#import "front/SettingsViewController+Actions.h"
+
+/// Actions that the responder chain answers without any header saying so.
+@protocol UndoActions
+- (void)undo:(id)sender;
+- (void)redo:(id)sender;
+@end
+
+namespace tarnwick {
+
+const RuleActions &actionsOf(RuleCategory category) {
+    static const PerCategory<RuleActions> actions(
+        RuleActions {
+            .click = @selector(createNewFileViewClick:), .add = @selector(addCreateNewFileRule:),
+            .remove = @selector(removeCreateNewFileRule:), .reset = @selector(resetCreateNewFileRule:),
+            .enableAll = @selector(enableAllOfCreateNewFilesClick:),
+            .enable = @selector(OnOffcheckedStateChangedOfCreateNewFile:),
+            .enableMainMenu = @selector(OnOffEnableMainMenuStateChangedOfCreateNewFile:)
+        },
+        RuleActions {
+            .click = @selector(copyFilesToViewClick:), .add = @selector(addSendFilesToRule:),
+            .remove = @selector(removeCopyFilesToRule:), .reset = @selector(resetCopyFilesToRule:),
+            .enable = @selector(OnOffcheckedStateChangedOfCopyTo:)
+        },
+        RuleActions {
+            .click = @selector(commonPathViewClick:), .add = @selector(addCommonPathRule:),
+            .remove = @selector(removeCommondPathRule:)
+        },
+        RuleActions {
+            .click = @selector(customIconViewClick:), .add = @selector(addCustomIconRule:),
+            .remove = @selector(removeCustomIconRule:), .reset = @selector(resetCustomIconRule:),
+            .enableAll = @selector(enableAllOfCustomIconClick:),
+            .enable = @selector(OnOffcheckedStateChangedOfCustomIcon:)
+        },
+        RuleActions {
+            .click = @selector(othersViewClick:), .add = @selector(addOthersRule:),
+            .remove = @selector(removeOthersRule:), .reset = @selector(resetOthersRule:),
+            .enableAll = @selector(enableAllOfOthersClick:),
+            .enable = @selector(OnOffcheckedStateChangedOfOthers:)
+        });
+    return actions[category];
+}
+
+SEL actionOf(RuleCategory category, RowSwitch rowSwitch) {
+    const auto &actions = actionsOf(category);
+    return rowSwitch == RowSwitch::enable ? actions.enable : actions.enableMainMenu;
+}
+
+SEL actionOf(Page page) {
+    static const PerPage<SEL> actions(@selector(createNewFilePressed:), @selector(copyFilesToPressed:),
+        @selector(commonPathPressed:), @selector(customIconFolder:), @selector(otherOptionPressed:),
+        @selector(moreAppPressed:));
+    return actions[page];
+}
+
+CommandAction actionOf(Command command) {
+    constexpr bool controllers = true;
+    constexpr bool anyones = false;
+    switch (command) {
+    case Command::separator:
+        break;
+    case Command::about:
+        return {
+            @selector(orderFrontStandardAboutPanel:), anyones
+        };
+    case Command::enableExtension:
+        return {
+            @selector(openSystemPreferences), controllers
+        };
+    case Command::installScriptHelper:
+        return {
+            @selector(doInstallScript), controllers
+        };
+    case Command::initialize:
+        return {
+            @selector(initialize), controllers
+        };
+    case Command::hide:
+        return {
+            @selector(hide:), anyones
+        };
+    case Command::hideOthers:
+        return {
+            @selector(hideOtherApplications:), anyones
+        };
+    case Command::showAll:
+        return {
+            @selector(unhideAllApplications:), anyones
+        };
+    case Command::quit:
+        return {
+            @selector(terminate:), anyones
+        };
+    case Command::addRule:
+        return {
+            @selector(addRuleOfCurrentPage:), controllers
+        };
+    case Command::closeWindow:
+        return {
+            @selector(performClose:), anyones
+        };
+    case Command::undo:
+        return {
+            @selector(undo:), anyones
+        };
+    case Command::redo:
+        return {
+            @selector(redo:), anyones
+        };
+    case Command::cut:
+        return {
+            @selector(cut:), anyones
+        };
+    case Command::copy:
+        return {
+            @selector(copy:), anyones
+        };
+    case Command::paste:
+        return {
+            @selector(paste:), anyones
+        };
+    case Command::selectAll:
+        return {
+            @selector(selectAll:), anyones
+        };
+    case Command::moveUp:
+        return {
+            @selector(moveSelectedRuleUp:), controllers
+        };
+    case Command::moveDown:
+        return {
+            @selector(moveSelectedRuleDown:), controllers
+        };
+    case Command::minimize:
+        return {
+            @selector(performMiniaturize:), anyones
+        };
+    case Command::zoom:
+        return {
+            @selector(performZoom:), anyones
+        };
+    case Command::bringAllToFront:
+        return {
+            @selector(arrangeInFront:), anyones
+        };
+    case Command::helpRestartingFinder:
+        return {
+            @selector(initializeClick:), controllers
+        };
+    case Command::helpServices:
+        return {
+            @selector(helpServicesOfSystemPreferences:), controllers
+        };
+    case Command::openServicesSettings:
+        return {
+            @selector(openServicesOfSystemPreferences), controllers
+        };
+    }
+    return {nullptr, anyones};
+}
+
+} // namespace tarnwick

@@ -1,0 +1,106 @@
+#pragma once
+
+#import "front/SettingsViewController.h"
+
+/// What the page buttons, and clicks in the tables, send.
+@interface SettingsViewController (Pages)
+
+- (void)createNewFilePressed:(id)sender;
+- (void)copyFilesToPressed:(id)sender;
+- (void)commonPathPressed:(id)sender;
+- (void)customIconFolder:(id)sender;
+- (void)otherOptionPressed:(id)sender;
+- (void)moreAppPressed:(id)sender;
+
+- (void)createNewFileViewClick:(id)sender;
+- (void)copyFilesToViewClick:(id)sender;
+- (void)commonPathViewClick:(id)sender;
+- (void)customIconViewClick:(id)sender;
+- (void)othersViewClick:(id)sender;
+
+@end
+
+/// What changes rules. A row's control carries its row as its tag.
+@interface SettingsViewController (Rules)
+
+- (void)addCreateNewFileRule:(id)sender;
+- (void)addSendFilesToRule:(id)sender;
+- (void)addCommonPathRule:(id)sender;
+- (void)addCustomIconRule:(id)sender;
+- (void)addOthersRule:(id)sender;
+
+- (void)removeCreateNewFileRule:(id)sender;
+- (void)removeCopyFilesToRule:(id)sender;
+- (void)removeCommondPathRule:(id)sender;
+- (void)removeCustomIconRule:(id)sender;
+- (void)removeOthersRule:(id)sender;
+
+- (void)resetCreateNewFileRule:(id)sender;
+- (void)resetCopyFilesToRule:(id)sender;
+- (void)resetCustomIconRule:(id)sender;
+- (void)resetOthersRule:(id)sender;
+
+- (void)OnOffcheckedStateChangedOfCreateNewFile:(id)sender;
+- (void)OnOffEnableMainMenuStateChangedOfCreateNewFile:(id)sender;
+- (void)OnOffcheckedStateChangedOfCopyTo:(id)sender;
+- (void)OnOffcheckedStateChangedOfCustomIcon:(id)sender;
+- (void)OnOffcheckedStateChangedOfOthers:(id)sender;
+
+- (void)enableAllOfCreateNewFilesClick:(id)sender;
+- (void)enableAllOfCustomIconClick:(id)sender;
+- (void)enableAllOfOthersClick:(id)sender;
+
+- (void)selectPath:(id)sender;
+/// A double click on a row's path chooses its folder.
+- (void)copyFilesToViewDoubleClick:(NSTableView *)sender;
+
+@end
+
+/// Files and folders that are dragged in.
+@interface SettingsViewController (Dropping)
+
+- (BOOL)takesItemsOn:(NSPasteboard *)pasteboard forCategory:(tarnwick::RuleCategory)category;
+- (BOOL)addItemsOn:(NSPasteboard *)pasteboard toCategory:(tarnwick::RuleCategory)category;
+
+@end
+
+@interface SettingsViewController (Tables) <NSTableViewDataSource, NSTableViewDelegate, NSTextFieldDelegate>
+@end
+
+/// The Finder, its extension, the user script and further tools.
+@interface SettingsViewController (System)
+
+- (BOOL)isExtensionEnabled;
+- (void)promptToEnableExtension;
+- (void)openSystemPreferences;
+- (void)restartFinderClick:(id)sender;
+- (void)restartFinder;
+- (void)initializeClick:(id)sender;
+- (void)helpServicesOfSystemPreferences:(id)sender;
+- (void)openServiceOfSystemPreferences:(id)sender;
+- (void)openLink:(LinkButton *)sender;
+
+- (BOOL)checkScriptInstalled;
+- (void)doInstallScript;
+- (void)openServicesOfSystemPreferences;
+- (void)initialize;
+
+/// Nil when the output is not text.
+- (NSString *)runCommand:(NSString *)command;
+- (BOOL)_appWithBundleIdentifierInstalled:(NSString *)bundleIdentifier;
+- (void)getSystemShortcuts:(id)sender;
+
+@end
+
+/// What the menus need beyond the actions of the window.
+@interface SettingsViewController (Menus)
+
+/// Presses the add button of the page that is shown; the page of further apps has none.
+- (void)addRuleOfCurrentPage:(id)sender;
+/// One place up or down in the list of the page that is shown.
+- (void)moveSelectedRuleUp:(id)sender;
+- (void)moveSelectedRuleDown:(id)sender;
+/// Marks the script helper's item while the script is installed; disables what cannot be done just now.
+- (BOOL)validateMenuItem:(NSMenuItem *)item;
+
+@end

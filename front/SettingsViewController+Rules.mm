@@ -1,0 +1,114 @@
+#import "front/SettingsViewController+Actions.h"
+
+using tarnwick::RuleCategory;
+
+namespace {
+
+bool isOn(id sender) {
+    return [sender state] == NSControlStateValueOn;
+}
+
+} // namespace
+
+@implementation SettingsViewController (Rules)
+
+- (void)addCreateNewFileRule:(id)sender {
+    _controller->add(RuleCategory::createNewFile);
+}
+
+- (void)addSendFilesToRule:(id)sender {
+    _controller->add(RuleCategory::copyFilesTo);
+}
+
+- (void)addCommonPathRule:(id)sender {
+    _controller->add(RuleCategory::commonPath);
+}
+
+- (void)addCustomIconRule:(id)sender {
+    _controller->add(RuleCategory::customIcon);
+}
+
+- (void)addOthersRule:(id)sender {
+    _controller->add(RuleCategory::others);
+}
+
+- (void)removeCreateNewFileRule:(id)sender {
+    _controller->remove(RuleCategory::createNewFile);
+}
+
+- (void)removeCopyFilesToRule:(id)sender {
+    _controller->remove(RuleCategory::copyFilesTo);
+}
+
+- (void)removeCommondPathRule:(id)sender {
+    _controller->remove(RuleCategory::commonPath);
+}
+
+- (void)removeCustomIconRule:(id)sender {
+    _controller->remove(RuleCategory::customIcon);
+}
+
+- (void)removeOthersRule:(id)sender {
+    _controller->remove(RuleCategory::others);
+}
+
+- (void)resetCreateNewFileRule:(id)sender {
+    _controller->reset(RuleCategory::createNewFile);
+}
+
+- (void)resetCopyFilesToRule:(id)sender {
+    _controller->reset(RuleCategory::copyFilesTo);
+}
+
+- (void)resetCustomIconRule:(id)sender {
+    _controller->reset(RuleCategory::customIcon);
+}
+
+- (void)resetOthersRule:(id)sender {
+    _controller->reset(RuleCategory::others);
+}
+
+- (void)OnOffcheckedStateChangedOfCreateNewFile:(id)sender {
+    _controller->setEnabled(RuleCategory::createNewFile, [sender tag], isOn(sender));
+}
+
+- (void)OnOffEnableMainMenuStateChangedOfCreateNewFile:(id)sender {
+    _controller->setEnabledInMainMenu([sender tag], isOn(sender));
+}
+
+- (void)OnOffcheckedStateChangedOfCopyTo:(id)sender {
+    _controller->setEnabled(RuleCategory::copyFilesTo, [sender tag], isOn(sender));
+}
+
+- (void)OnOffcheckedStateChangedOfCustomIcon:(id)sender {
+    _controller->setEnabled(RuleCategory::customIcon, [sender tag], isOn(sender));
+}
+
+- (void)OnOffcheckedStateChangedOfOthers:(id)sender {
+    _controller->setEnabled(RuleCategory::others, [sender tag], isOn(sender));
+}
+
+- (void)enableAllOfCreateNewFilesClick:(id)sender {
+    _controller->enableAll(RuleCategory::createNewFile);
+}
+
+- (void)enableAllOfCustomIconClick:(id)sender {
+    _controller->enableAll(RuleCategory::customIcon);
+}
+
+- (void)enableAllOfOthersClick:(id)sender {
+    _controller->enableAll(RuleCategory::others);
+}
+
+- (void)selectPath:(id)sender {
+    _controller->selectPath([sender tag]);
+}
+
+- (void)copyFilesToViewDoubleClick:(NSTableView *)sender {
+    const NSInteger pathColumn = [sender columnWithIdentifier:@"realPath"];
+    if ([sender clickedRow] >= 0 && [sender clickedColumn] == pathColumn) {
+        _controller->selectPath([sender clickedRow]);
+    }
+}
+
+@end

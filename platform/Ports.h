@@ -1,0 +1,37 @@
+#pragma once
+
+namespace tarnwick {
+
+class ApplicationBundle;
+class DistributedNotifications;
+class FileManager;
+class FinderSync;
+class Images;
+class KnownFolders;
+class Panels;
+class PreferenceStores;
+class Process;
+class RunLoop;
+class SystemLog;
+class UserScripts;
+class Workspace;
+
+/// Every port of the system in one hand, for whoever wires the program together. Nothing else sees it: an
+/// operation takes the ports that it uses. What is referred to outlives the program's objects.
+struct Ports {
+    PreferenceStores& preferences;
+    FileManager& files;
+    KnownFolders& folders;
+    ApplicationBundle& bundle;
+    Images& images;
+    Panels& panels;
+    Workspace& workspace;
+    FinderSync& finderSync;
+    UserScripts& userScripts;
+    DistributedNotifications& notifications;
+    RunLoop& runLoop;
+    SystemLog& log;
+    Process& process;
+};
+
+} // namespace tarnwick

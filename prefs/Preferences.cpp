@@ -1,0 +1,15 @@
+#include "prefs/Preferences.h"
+
+#include "platform/Ports.h"
+
+namespace tarnwick {
+
+Preferences::Preferences(const Ports& ports)
+    : publisher(ports.preferences, local, lists),
+      templateFiles(ports.files, ports.folders, ports.bundle, ports.log, local),
+      factory(ports.images, ports.folders, ports.log, local, lists, publisher, templateFiles),
+      icons(ports.files, ports.folders, ports.bundle, ports.log),
+      loading(ports.preferences, ports.files, ports.folders, ports.log, local, lists, publisher, factory,
+          icons) {}
+
+} // namespace tarnwick

@@ -1,0 +1,9 @@
+#pragma once
+
+namespace tarnwick::standins {
+
+/// The operations of the application's bundle on the login items.
+void addOwnBundle();
+void removeOwnBundle();
+
+} // namespace tarnwick::standins

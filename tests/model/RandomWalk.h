@@ -1,0 +1,69 @@
+#pragma once
+
+#include "tests/model/RuleModel.h"
+#include "tests/support/SettingsFixture.h"
+
+#include <functional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace tarnwick::testing {
+
+/// A first launch, or the launch of a program that has been used for long: a target without folder, common
+/// paths, an Others list from before the editors, and a template whose file cannot be made.
+enum class Start { fresh, used };
+
+inline void PrintTo(Start start, std::ostream* stream) {
+    *stream << (start == Start::fresh ? "fresh" : "used");
+}
+
+/// Edits through the controller, each also done to the model. What is edited, and how, is asked of `pick`,
+/// which gives a number from 0 to below its argument.
+class RandomWalk : public SettingsFixture {
+protected:
+    RandomWalk(Start start, std::function<long(long below)> pick);
+
+    void step();
+    /// The lists on the screen, both stores and the template folder are what the model says.
+    void check() const;
+
+private:
+    void describeFactory();
+    void useForLong();
+
+    [[nodiscard]] std::vector<std::string> onScreen(RuleCategory category) const;
+    [[nodiscard]] std::vector<std::string> expectedOnScreen(RuleCategory category) const;
+
+    void add(RuleCategory category);
+    void remove(RuleCategory category);
+    void reset(RuleCategory category);
+    void toggle(RuleCategory category);
+    void enableAll(RuleCategory category);
+    void drop(RuleCategory category);
+    void rename(RuleCategory category);
+    void editNote();
+    void choosePath();
+
+    long pick(long below) { return pick_(below); }
+    bool flip() { return pick(2) == 1; }
+    std::string freshName() { return "N" + std::to_string(++names_); }
+    [[nodiscard]] long rows(RuleCategory category) const {
+        return static_cast<long>(model_.list(category).size());
+    }
+    /// A row, or the place before or behind them all.
+    long anyRow(RuleCategory category) { return pick(rows(category) + 2) - 1; }
+    void noteSaved(RuleCategory category, bool saved);
+
+    std::function<long(long below)> pick_;
+    RuleModel model_;
+    /// What was stored before the launch.
+    PerCategory<PlistValue> originals_ =
+        PerCategory<PlistValue>::madeBy([](RuleCategory) { return PlistValue(false); });
+    /// Whether the stored list is the one in memory, and whether the extension has been given it.
+    PerCategory<bool> stored_{true, false, false, true, true};
+    PerCategory<bool> published_{true, true, false, true, true};
+    int names_ = 0;
+};
+
+} // namespace tarnwick::testing

@@ -1,0 +1,72 @@
+#include "ui/MenuLayout.h"
+
+#include <array>
+
+namespace tarnwick {
+namespace {
+
+constexpr MenuItemLayout separator;
+
+constexpr std::array applicationMenu{
+    MenuItemLayout{"About Tarnwick", Command::about},
+    separator,
+    MenuItemLayout{"Enable Extension\u2026", Command::enableExtension},
+    MenuItemLayout{"Install Script Helper\u2026", Command::installScriptHelper},
+    MenuItemLayout{"Initialize All Settings\u2026", Command::initialize},
+    separator,
+    MenuItemLayout{"Hide Tarnwick", Command::hide, u'h'},
+    MenuItemLayout{"Hide Others", Command::hideOthers, u'h', KeyModifiers::optionCommand},
+    MenuItemLayout{"Show All", Command::showAll},
+    separator,
+    MenuItemLayout{"Quit Tarnwick", Command::quit, u'q'},
+};
+
+constexpr std::array fileMenu{
+    MenuItemLayout{"Add\u2026", Command::addRule, u'n'},
+    separator,
+    MenuItemLayout{"Close Window", Command::closeWindow, u'w'},
+};
+
+constexpr std::array editMenu{
+    MenuItemLayout{"Undo", Command::undo, u'z'},
+    MenuItemLayout{"Redo", Command::redo, u'z', KeyModifiers::shiftCommand},
+    separator,
+    MenuItemLayout{"Cut Text", Command::cut, u'x'},
+    MenuItemLayout{"Copy Text", Command::copy, u'c'},
+    MenuItemLayout{"Paste Text", Command::paste, u'v'},
+    MenuItemLayout{"Select All", Command::selectAll, u'a'},
+    separator,
+    MenuItemLayout{"Move Up", Command::moveUp, upArrowKey, KeyModifiers::optionCommand},
+    MenuItemLayout{"Move Down", Command::moveDown, downArrowKey, KeyModifiers::optionCommand},
+};
+
+constexpr std::array windowMenu{
+    MenuItemLayout{"Minimize", Command::minimize, u'm'},
+    MenuItemLayout{"Zoom", Command::zoom},
+    separator,
+    MenuItemLayout{"Bring All to Front", Command::bringAllToFront},
+};
+
+constexpr std::array helpMenu{
+    MenuItemLayout{"Restarting the Finder", Command::helpRestartingFinder},
+    MenuItemLayout{"Turning on the Services", Command::helpServices},
+    separator,
+    MenuItemLayout{"Open Services Settings", Command::openServicesSettings},
+};
+
+constexpr std::array menus{
+    MenuLayout{"Tarnwick", applicationMenu},
+    MenuLayout{"File", fileMenu},
+    MenuLayout{"Edit", editMenu},
+    MenuLayout{"View", {}, MenuRole::pages},
+    MenuLayout{"Window", windowMenu, MenuRole::windows},
+    MenuLayout{"Help", helpMenu},
+};
+
+} // namespace
+
+std::span<const MenuLayout> menuBar() {
+    return menus;
+}
+
+} // namespace tarnwick

@@ -1,0 +1,106 @@
+#include "ui/SettingsController.h"
+
+#include "integration/Links.h"
+#include "platform/ApplicationBundle.h"
+#include "platform/Ports.h"
+#include "platform/RunLoop.h"
+#include "platform/SystemLog.h"
+#include "platform/Workspace.h"
+#include "prefs/PreferenceKeys.h"
+#include "prefs/SharedPreferences.h"
+#include "ui/Colour.h"
+#include "ui/SettingsWindow.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr double startDelaySeconds = 0.01;
+
+/// The system's gray, half white, seen through at 0.4.
+constexpr Colour currentPageColour{0.5, 0.5, 0.5, 0.4};
+constexpr Colour red{1, 0, 0, 1};
+
+} // namespace
+
+SettingsController::SettingsController(const Ports& ports, SettingsWindow& window)
+    : stores_(ports.preferences), bundle_(ports.bundle), workspace_(ports.workspace), runLoop_(ports.runLoop),
+      log_(ports.log), window_(window), preferences_(ports), editing_(ports, preferences_, window),
+      integration_(ports, preferences_),
+      rows_(preferences_.lists, ports.folders, ports.bundle, ports.images) {}
+
+void SettingsController::awakeFromNib() {
+    preferences_.loading.prepareStoresAndFolders();
+    runLoop_.performAfterDelay(startDelaySeconds, [this] { start(); });
+    window_.showVersion(bundle_.localized("Tarnwick Lite") + ": " + bundle_.shortVersion());
+    preferences_.loading.loadLists();
+    window_.observeSwitches(mirroredKeys);
+    for (const auto category : allRuleCategories) {
+        window_.setUpDragging(category, dragOperationLink, dragOperationMove, rowDragType);
+    }
+    if (!workspace_.isRunning(siblingApplication)) {
+        window_.hideRestartButton();
+    }
+    window_.setHelpTitleColour(red);
+}
+
+void SettingsController::viewDidLoad() {
+    log_.write("ddd");
+}
+
+void SettingsController::start() {
+    showPage(Page::createNewFile);
+    integration_.finderExtension.checkAtStart();
+    for (const auto category : publishedAtStart) {
+        preferences_.publisher.publish(category);
+    }
+    for (const auto category : removingDisabledAtStart) {
+        window_.setRemoveButtonEnabled(category, false);
+    }
+    window_.observeApplicationChanges();
+}
+
+void SettingsController::showPage(Page page) {
+    editing_.editor.endEditing();
+    window_.showPage(page);
+    window_.setPageButtonBackground(page, currentPageColour);
+    for (const auto other : allPages) {
+        if (other != page) {
+            window_.setPageButtonBackground(other, clearColour);
+        }
+    }
+    if (page == Page::copyFilesTo || page == Page::commonPath || page == Page::customIcon) {
+        // The copy/move-to table in all three cases, on purpose.
+        window_.reload(RuleCategory::copyFilesTo);
+    }
+}
+
+void SettingsController::tableClicked(RuleCategory category) {
+    const auto row = window_.selectedRow(category);
+    const auto& list = preferences_.lists[category];
+    window_.setRemoveButtonEnabled(
+        category, list.holds(row) && !list.isProtected(static_cast<std::size_t>(row)));
+}
+
+void SettingsController::switchChanged(std::string_view key, const PlistValue& newValue) {
+    mirrorSwitch(stores_, key, newValue);
+}
+
+void SettingsController::acceptDrop(
+    std::optional<RuleCategory> target, std::optional<RuleCategory> source, long from, long to) {
+    editing_.reordering.acceptDrop(target, source, from, to);
+}
+
+bool SettingsController::canMoveSelectedRule(RuleCategory category, MoveDirection direction) const {
+    return editing_.reordering.canMoveSelection(category, direction);
+}
+
+void SettingsController::moveSelectedRule(RuleCategory category, MoveDirection direction) {
+    editing_.reordering.moveSelection(category, direction);
+    tableClicked(category);
+}
+
+void SettingsController::textEdited(std::string_view identifier, long row, std::string_view text) {
+    editing_.textEditing.endEditing(identifier, row, text);
+}
+
+} // namespace tarnwick

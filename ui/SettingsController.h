@@ -1,0 +1,88 @@
+#pragma once
+
+#include "editing/RuleEditing.h"
+#include "integration/SystemIntegration.h"
+#include "prefs/Preferences.h"
+#include "ui/Page.h"
+#include "ui/RuleRows.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarnwick {
+
+class ApplicationBundle;
+class PreferenceStores;
+class RunLoop;
+class SettingsWindow;
+class SystemLog;
+class Workspace;
+
+/// The one controller of the settings window: hands what the window asks for to the operations behind it. It
+/// owns the lists, for the life of the process. Main thread only.
+///
+/// A row that its list does not have changes nothing. All that changes a list or shows another page first
+/// ends an edit in progress, into its own row.
+class SettingsController {
+public:
+    SettingsController(const Ports& ports, SettingsWindow& window);
+    SettingsController(const SettingsController&) = delete;
+    SettingsController& operator=(const SettingsController&) = delete;
+
+    /// When the window is loaded: the preferences, then the window itself.
+    void awakeFromNib();
+    void viewDidLoad();
+    /// Runs once, shortly after the window has been set up.
+    void start();
+
+    void showPage(Page page);
+    [[nodiscard]] const RuleRows& rows() const { return rows_; }
+    /// A click in a table: its remove button is enabled exactly while a removable row is selected.
+    void tableClicked(RuleCategory category);
+
+    void add(RuleCategory category) { editing_.adding.add(category); }
+    /// False when the list takes nothing of the drop.
+    bool addDropped(RuleCategory category, const std::vector<DroppedItem>& items) {
+        return editing_.adding.addDropped(category, items);
+    }
+    void remove(RuleCategory category) { editing_.removing.remove(category); }
+    void reset(RuleCategory category) { editing_.resetting.reset(category); }
+
+    void setEnabled(RuleCategory category, long row, bool on) {
+        editing_.toggling.setEnabled(category, row, on);
+    }
+    void setEnabledInMainMenu(long row, bool on) { editing_.toggling.setEnabledInMainMenu(row, on); }
+    void enableAll(RuleCategory category) { editing_.toggling.enableAll(category); }
+    /// A mirrored key of `LocalPreferences` has a new value.
+    void switchChanged(std::string_view key, const PlistValue& newValue);
+
+    void acceptDrop(
+        std::optional<RuleCategory> target, std::optional<RuleCategory> source, long from, long to);
+    [[nodiscard]] bool canMoveSelectedRule(RuleCategory category, MoveDirection direction) const;
+    void moveSelectedRule(RuleCategory category, MoveDirection direction);
+
+    /// A field with this identifier in this row has been edited.
+    void textEdited(std::string_view identifier, long row, std::string_view text);
+    void endEditing() { editing_.editor.endEditing(); }
+    void selectPath(long row) { editing_.pathChoosing.selectPath(row); }
+
+    /// What the window asks of the system around the program.
+    [[nodiscard]] SystemIntegration& integration() { return integration_; }
+
+private:
+    PreferenceStores& stores_;
+    const ApplicationBundle& bundle_;
+    const Workspace& workspace_;
+    RunLoop& runLoop_;
+    SystemLog& log_;
+    SettingsWindow& window_;
+
+    Preferences preferences_;
+    RuleEditing editing_;
+    SystemIntegration integration_;
+    RuleRows rows_;
+};
+
+} // namespace tarnwick
