@@ -3,43 +3,44 @@
 #include "editing/ListEditor.h"
 #include "prefs/RuleList.h"
 
-#include <algorithm>
-#include <array>
+#include <optional>
 
 namespace tarnwick {
 namespace {
 
-/// What an edit of the field with this identifier writes: the mark, if there is one, then the text.
-struct EditableField {
-    std::string_view identifier;
+/// What an edit writes: the mark, if there is one, then the text.
+struct EditedField {
     RuleCategory category;
     /// The flag string that becomes "1"; empty: none.
     std::string_view mark;
-    std::string_view textField;
+    std::string_view text;
 };
 
-constexpr std::array<EditableField, 7> editableFields{{
-    {"NewFileDisplayName", RuleCategory::createNewFile, field::modified, field::displayName},
-    {"newFileName", RuleCategory::copyFilesTo, "", field::displayName},
-    {"Note", RuleCategory::copyFilesTo, "", field::displayName},
-    {"commonPathDisplayName", RuleCategory::commonPath, "", field::displayName},
-    {"CustomIconName", RuleCategory::customIcon, field::modified, field::displayName},
-    {"OthersDisplayName", RuleCategory::others, field::nameModified, field::displayName},
-    {"OthersNote", RuleCategory::others, field::noteModified, field::note},
-}};
+/// Nothing for a field that is none of a record's. The targets' names are known by a second identifier too.
+std::optional<EditedField> editedField(std::string_view identifier) {
+    if (identifier == "OthersNote") {
+        return EditedField{RuleCategory::others, field::noteModified, field::note};
+    }
+    const auto name = identifier == "newFileName" ? factsOf(RuleCategory::copyFilesTo).nameIdentifier : identifier;
+    for (const auto category : allRuleCategories) {
+        if (factsOf(category).nameIdentifier == name) {
+            return EditedField{category, factsOf(category).nameMark, field::displayName};
+        }
+    }
+    return std::nullopt;
+}
 
 } // namespace
 
 void EditText::endEditing(std::string_view identifier, long row, std::string_view text) {
-    const auto edited = std::find_if(editableFields.begin(), editableFields.end(),
-        [&](const auto& candidate) { return candidate.identifier == identifier; });
-    if (edited == editableFields.end() || !editor_.list(edited->category).holds(row)) {
+    const auto edited = editedField(identifier);
+    if (!edited || !editor_.list(edited->category).holds(row)) {
         return;
     }
     const auto index = static_cast<std::size_t>(row);
     const auto& old = editor_.list(edited->category)[index];
     const auto marked = edited->mark.empty() ? old : old.with(edited->mark, "1");
-    editor_.replace(edited->category, index, marked.with(edited->textField, text));
+    editor_.replace(edited->category, index, marked.with(edited->text, text));
 }
 
 } // namespace tarnwick

@@ -9,7 +9,7 @@
 namespace tarnwick {
 namespace {
 
-RuleRecord switched(const RuleList& list, std::size_t index, std::string_view key, bool on) {
+RuleRecord switched(const RuleList& list, std::size_t index, std::string_view flag, bool on) {
     const auto& record = list[index];
     if (list.isFixed(index)) {
         return record;
@@ -17,25 +17,17 @@ RuleRecord switched(const RuleList& list, std::size_t index, std::string_view ke
     // A target without a folder cannot be switched on.
     const auto allowed =
         list.category() != RuleCategory::copyFilesTo || record.text(field::realPath) != undefinedPath;
-    return record.with(key, on && allowed ? 1 : 0);
+    return record.with(flag, on && allowed ? 1 : 0);
 }
 
 } // namespace
 
-void ToggleRules::setEnabled(RuleCategory category, long row, bool on) {
-    setFlag(category, row, field::enable, on);
-}
-
-void ToggleRules::setEnabledInMainMenu(long row, bool on) {
-    setFlag(RuleCategory::createNewFile, row, field::enableMainMenu, on);
-}
-
-void ToggleRules::setFlag(RuleCategory category, long row, std::string_view key, bool on) {
+void ToggleRules::set(RuleCategory category, long row, std::string_view field, bool on) {
     editor_.endEditing();
     const auto& list = editor_.list(category);
     if (list.holds(row)) {
         const auto index = static_cast<std::size_t>(row);
-        editor_.replace(category, index, switched(list, index, key, on));
+        editor_.replace(category, index, switched(list, index, field, on));
     }
 }
 

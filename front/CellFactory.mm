@@ -40,7 +40,7 @@ NSButton *makeCheckBox(const CheckBoxCell &cell, RuleCategory category, id contr
     [box setState:cell.on ? NSControlStateValueOn : NSControlStateValueOff];
     [box setEnabled:cell.enabled];
     [box setTarget:controller];
-    [box setAction:actionOf(category, cell.turns)];
+    [box setAction:actionOf(category, cell.field)];
     return box;
 }
 

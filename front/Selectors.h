@@ -3,9 +3,12 @@
 #import <Foundation/Foundation.h>
 
 #include "prefs/RuleCategory.h"
-#include "ui/CellView.h"
 #include "ui/MenuLayout.h"
 #include "ui/Page.h"
+
+#include <string_view>
+#include <utility>
+#include <vector>
 
 namespace tarnwick {
 
@@ -18,12 +21,12 @@ struct RuleActions {
     SEL remove = nullptr;
     SEL reset = nullptr;
     SEL enableAll = nullptr;
-    SEL enable = nullptr;
-    SEL enableMainMenu = nullptr;
+    /// The check boxes of the rows, by the field that they turn on and off.
+    std::vector<std::pair<std::string_view, SEL>> switches;
 };
 
 [[nodiscard]] const RuleActions& actionsOf(RuleCategory category);
-[[nodiscard]] SEL actionOf(RuleCategory category, RowSwitch rowSwitch);
+[[nodiscard]] SEL actionOf(RuleCategory category, std::string_view switchedField);
 [[nodiscard]] SEL actionOf(Page page);
 
 struct CommandAction {

@@ -15,14 +15,17 @@ const RuleActions &actionsOf(RuleCategory category) {
         RuleActions {
             .click = @selector(createNewFileViewClick:), .add = @selector(addCreateNewFileRule:),
             .remove = @selector(removeCreateNewFileRule:), .reset = @selector(resetCreateNewFileRule:),
-            .enableAll = @selector(enableAllOfCreateNewFilesClick:),
-            .enable = @selector(OnOffcheckedStateChangedOfCreateNewFile:),
-            .enableMainMenu = @selector(OnOffEnableMainMenuStateChangedOfCreateNewFile:)
+            .enableAll = @selector(enableAllOfCreateNewFilesClick:), .switches = {
+                {field::enable, @selector(OnOffcheckedStateChangedOfCreateNewFile:)},
+                {field::enableMainMenu, @selector(OnOffEnableMainMenuStateChangedOfCreateNewFile:)}
+            }
         },
         RuleActions {
             .click = @selector(copyFilesToViewClick:), .add = @selector(addSendFilesToRule:),
             .remove = @selector(removeCopyFilesToRule:), .reset = @selector(resetCopyFilesToRule:),
-            .enable = @selector(OnOffcheckedStateChangedOfCopyTo:)
+            .switches = {
+                {field::enable, @selector(OnOffcheckedStateChangedOfCopyTo:)}
+            }
         },
         RuleActions {
             .click = @selector(commonPathViewClick:), .add = @selector(addCommonPathRule:),
@@ -31,21 +34,27 @@ const RuleActions &actionsOf(RuleCategory category) {
         RuleActions {
             .click = @selector(customIconViewClick:), .add = @selector(addCustomIconRule:),
             .remove = @selector(removeCustomIconRule:), .reset = @selector(resetCustomIconRule:),
-            .enableAll = @selector(enableAllOfCustomIconClick:),
-            .enable = @selector(OnOffcheckedStateChangedOfCustomIcon:)
+            .enableAll = @selector(enableAllOfCustomIconClick:), .switches = {
+                {field::enable, @selector(OnOffcheckedStateChangedOfCustomIcon:)}
+            }
         },
         RuleActions {
             .click = @selector(othersViewClick:), .add = @selector(addOthersRule:),
             .remove = @selector(removeOthersRule:), .reset = @selector(resetOthersRule:),
-            .enableAll = @selector(enableAllOfOthersClick:),
-            .enable = @selector(OnOffcheckedStateChangedOfOthers:)
+            .enableAll = @selector(enableAllOfOthersClick:), .switches = {
+                {field::enable, @selector(OnOffcheckedStateChangedOfOthers:)}
+            }
         });
     return actions[category];
 }
 
-SEL actionOf(RuleCategory category, RowSwitch rowSwitch) {
-    const auto &actions = actionsOf(category);
-    return rowSwitch == RowSwitch::enable ? actions.enable : actions.enableMainMenu;
+SEL actionOf(RuleCategory category, std::string_view switchedField) {
+    for (const auto &[field, action] : actionsOf(category).switches) {
+        if (field == switchedField) {
+            return action;
+        }
+    }
+    return nullptr;
 }
 
 SEL actionOf(Page page) {

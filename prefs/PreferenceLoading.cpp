@@ -66,15 +66,16 @@ void PreferenceLoading::ensureTemplates() {
 }
 
 void PreferenceLoading::loadLists() {
-    load(RuleCategory::copyFilesTo);
-    load(RuleCategory::commonPath);
-    load(RuleCategory::createNewFile);
+    for (const auto category : loadedFirst) {
+        load(category);
+    }
     factory_.recoverTemplateFiles();
     if (!local_.contains(key::imageToIcon)) {
         addImageToIconFeature();
     }
-    load(RuleCategory::customIcon);
-    load(RuleCategory::others);
+    for (const auto category : loadedLast) {
+        load(category);
+    }
     addMissingEditors();
 }
 

@@ -29,6 +29,8 @@ struct RuleCategoryFacts {
     /// Where `LocalPreferences` remembers the folder last chosen by the add action; without one its chooser
     /// opens at the icons of the fixed items.
     std::string_view rememberedFolderKey;
+    /// The identifier of the text field in which a record's name is edited.
+    std::string_view nameIdentifier;
     /// The field that says that a record bears the user's own name for it; its name is a key of the
     /// localisation table until then. Without one a record may lack a name, and is then called after its
     /// folder.
@@ -53,27 +55,32 @@ inline constexpr PerCategory<RuleCategoryFacts> ruleCategoryFacts{
     RuleCategoryFacts{.listKey = "arrOfCreateNewFile",
         .enableAllKey = "enableAllOfCreateNewFiles",
         .rememberedFolderKey = "prePathOfCreateNewFile",
+        .nameIdentifier = "NewFileDisplayName",
         .nameMark = field::modified,
         .hasTemplateFiles = true,
         .countedAtDrop = RuleCategory::createNewFile},
     RuleCategoryFacts{.listKey = "arrOfCopyFilesTo",
         .rememberedFolderKey = "prePathOfSendFilesTo",
+        .nameIdentifier = "Note",
         .source = RuleSource::folders,
         .countedAtDrop = RuleCategory::copyFilesTo},
     RuleCategoryFacts{.listKey = "arrOfCommonPath",
         .rememberedFolderKey = "prePathOfCommonPath",
+        .nameIdentifier = "commonPathDisplayName",
         .source = RuleSource::folders,
         .hasFactoryList = false,
         .countedAtDrop = RuleCategory::commonPath},
     RuleCategoryFacts{.listKey = "arrOfCustomIcon",
         .enableAllKey = "enableAllOfCustomIcon",
         .rememberedFolderKey = "prePathOfCustomIcon",
+        .nameIdentifier = "CustomIconName",
         .nameMark = field::modified,
         .allowedType = "png",
         .isNeverEmpty = true,
         .countedAtDrop = RuleCategory::customIcon},
     RuleCategoryFacts{.listKey = "arrOfOthers",
         .enableAllKey = "enableAllOfOthers",
+        .nameIdentifier = "OthersDisplayName",
         .nameMark = field::nameModified,
         .allowedType = "png",
         .choosesWithoutExtensions = true,
@@ -88,13 +95,21 @@ inline constexpr PerCategory<RuleCategoryFacts> ruleCategoryFacts{
     return ruleCategoryFacts[category];
 }
 
+/// The orders in which a start reads the lists, before and after the additions that older stores lack.
+inline constexpr std::array loadedFirst{
+    RuleCategory::copyFilesTo, RuleCategory::commonPath, RuleCategory::createNewFile};
+inline constexpr std::array loadedLast{RuleCategory::customIcon, RuleCategory::others};
+static_assert(loadedFirst.size() + loadedLast.size() == allRuleCategories.size());
+
 /// The order in which a start publishes lists. The common paths are not among them, on purpose: they are
 /// published when they are edited.
 inline constexpr std::array publishedAtStart{
     RuleCategory::copyFilesTo, RuleCategory::customIcon, RuleCategory::others, RuleCategory::createNewFile};
+static_assert(publishedAtStart.size() == allRuleCategories.size() - 1);
 
 /// The order in which a start disables the remove buttons. That of Others is left as the layout has it.
 inline constexpr std::array removingDisabledAtStart{RuleCategory::createNewFile, RuleCategory::customIcon,
     RuleCategory::copyFilesTo, RuleCategory::commonPath};
+static_assert(removingDisabledAtStart.size() == allRuleCategories.size() - 1);
 
 } // namespace tarnwick

@@ -32,14 +32,12 @@ struct TextFieldCell {
     bool operator==(const TextFieldCell&) const = default;
 };
 
-/// What of a rule a check box turns on and off.
-enum class RowSwitch { enable, enableMainMenu };
-
 /// A check box without title whose target is the controller.
 struct CheckBoxCell {
     bool on = false;
     bool enabled = true;
-    RowSwitch turns = RowSwitch::enable;
+    /// The field of the record that it turns on and off.
+    std::string_view field;
     bool operator==(const CheckBoxCell&) const = default;
 };
 

@@ -6,52 +6,107 @@
 namespace tarnwick {
 namespace {
 
-constexpr std::string_view offer = "Offer %@ in the menu";
-constexpr std::string_view name = "Name of %@";
-constexpr std::string_view icon = "Icon of %@";
-constexpr std::string_view folder = "Folder of %@";
+constexpr Frame nameFrame{0, 0, 300, 23};
+constexpr Frame wideFrame{0, 0, 500, 23};
+constexpr Frame sizeFrame{0, 0, 100, 23};
+constexpr Frame checkBoxFrame{6, 5, 20, 20};
+constexpr Frame mainMenuFrame{35, 5, 20, 20};
+constexpr Frame iconFrame{8, 1, 28, 28};
+constexpr Frame folderIconFrame{5, 1, 28, 28};
+constexpr Frame actionIconFrame{20, 5, 20, 20};
 
-constexpr bool flexible = true;
-constexpr bool fixed = false;
-constexpr bool centred = true;
-constexpr bool atTheLeft = false;
+constexpr Column iconColumn(
+    std::string_view identifier, double width, RuleCells::Maker cell, const Frame& frame) {
+    return {.identifier = identifier, .width = width, .label = "Icon of %@", .cell = cell, .frame = frame};
+}
+
+/// The switch at the head of a row.
+constexpr Column enableColumn(std::string_view identifier, std::optional<Frame> frame) {
+    return {.identifier = identifier,
+        .width = 34,
+        .label = "Offer %@ in the menu",
+        .cell = &RuleCells::checkBox,
+        .frame = frame,
+        .field = field::enable,
+        .role = ColumnRole::enableSwitch};
+}
+
+constexpr Column nameColumn(RuleCategory category, double width, const Frame& frame) {
+    return {.identifier = factsOf(category).nameIdentifier,
+        .title = "Name",
+        .width = width,
+        .label = "Name of %@",
+        .cell = &RuleCells::name,
+        .frame = frame,
+        .flexible = true,
+        .role = ColumnRole::name};
+}
+
+constexpr Column pathColumn{.identifier = "realPath",
+    .title = "Folder",
+    .width = 280,
+    .label = "Folder of %@",
+    .cell = &RuleCells::path,
+    .frame = wideFrame,
+    .flexible = true};
 
 constexpr std::array createNewFileColumns{
-    Column{"Enable", "", 34, offer, &RuleCells::enableBox, fixed, atTheLeft, ColumnRole::enableSwitch},
-    Column{"NewFileIcon", "", 44, icon, &RuleCells::templateIcon},
-    Column{
-        "NewFileDisplayName", "Name", 260, name, &RuleCells::wideName, flexible, atTheLeft, ColumnRole::name},
-    Column{"Extension", "Extension", 110, "Extension of %@", &RuleCells::extension},
-    Column{"EnableMainMenu", "Main Menu", 92, "Offer %@ in the main menu", &RuleCells::mainMenuBox, fixed,
-        centred},
+    enableColumn("Enable", checkBoxFrame),
+    iconColumn("NewFileIcon", 44, &RuleCells::templateIcon, iconFrame),
+    nameColumn(RuleCategory::createNewFile, 260, wideFrame),
+    Column{.identifier = "Extension",
+        .title = "Extension",
+        .width = 110,
+        .label = "Extension of %@",
+        .cell = &RuleCells::extension,
+        .frame = nameFrame},
+    Column{.identifier = "EnableMainMenu",
+        .title = "Main Menu",
+        .width = 92,
+        .label = "Offer %@ in the main menu",
+        .cell = &RuleCells::checkBox,
+        .frame = mainMenuFrame,
+        .field = field::enableMainMenu,
+        .centredTitle = true},
 };
 
 constexpr std::array copyFilesToColumns{
-    Column{"Enable", "", 34, offer, &RuleCells::bareEnableBox, fixed, atTheLeft, ColumnRole::enableSwitch},
-    Column{"SendFileIcon", "", 40, icon, &RuleCells::folderIcon},
-    Column{"Note", "Name", 200, name, &RuleCells::name, flexible, atTheLeft, ColumnRole::name},
-    Column{"realPath", "Folder", 280, folder, &RuleCells::path, flexible},
+    enableColumn("Enable", std::nullopt),
+    iconColumn("SendFileIcon", 40, &RuleCells::folderIcon, folderIconFrame),
+    nameColumn(RuleCategory::copyFilesTo, 200, nameFrame),
+    pathColumn,
 };
 
 constexpr std::array commonPathColumns{
-    Column{"commonPathIcon", "", 40, icon, &RuleCells::folderIcon},
-    Column{
-        "commonPathDisplayName", "Name", 200, name, &RuleCells::name, flexible, atTheLeft, ColumnRole::name},
-    Column{"realPath", "Folder", 280, folder, &RuleCells::path, flexible},
+    iconColumn("commonPathIcon", 40, &RuleCells::folderIcon, folderIconFrame),
+    nameColumn(RuleCategory::commonPath, 200, nameFrame),
+    pathColumn,
 };
 
 constexpr std::array customIconColumns{
-    Column{"Enable", "", 34, offer, &RuleCells::enableBox, fixed, atTheLeft, ColumnRole::enableSwitch},
-    Column{"Icon", "", 44, icon, &RuleCells::recordIcon},
-    Column{"CustomIconName", "Name", 300, name, &RuleCells::name, flexible, atTheLeft, ColumnRole::name},
-    Column{"Size", "Size", 112, "Size of %@", &RuleCells::size, fixed, centred},
+    enableColumn("Enable", checkBoxFrame),
+    iconColumn("Icon", 44, &RuleCells::recordIcon, iconFrame),
+    nameColumn(RuleCategory::customIcon, 300, nameFrame),
+    Column{.identifier = "Size",
+        .title = "Size",
+        .width = 112,
+        .label = "Size of %@",
+        .cell = &RuleCells::size,
+        .frame = sizeFrame,
+        .centredTitle = true},
 };
 
 constexpr std::array othersColumns{
-    Column{"OthersEnable", "", 34, offer, &RuleCells::enableBox, fixed, atTheLeft, ColumnRole::enableSwitch},
-    Column{"OthersIcon", "", 52, icon, &RuleCells::actionIcon},
-    Column{"OthersDisplayName", "Name", 240, name, &RuleCells::name, flexible, atTheLeft, ColumnRole::name},
-    Column{"OthersNote", "Note", 200, "Note of %@", &RuleCells::note, flexible},
+    enableColumn("OthersEnable", checkBoxFrame),
+    iconColumn("OthersIcon", 52, &RuleCells::recordIcon, actionIconFrame),
+    nameColumn(RuleCategory::others, 240, nameFrame),
+    Column{.identifier = "OthersNote",
+        .title = "Note",
+        .width = 200,
+        .label = "Note of %@",
+        .cell = &RuleCells::note,
+        .frame = nameFrame,
+        .flexible = true},
 };
 
 constexpr PerCategory<std::span<const Column>> columns{

@@ -3,6 +3,7 @@
 #include "prefs/RuleCategory.h"
 #include "ui/RuleCells.h"
 
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -21,6 +22,10 @@ struct Column {
     /// What a cell's control does or shows, for those who do not see it; the placeholder stands for the row.
     std::string_view label;
     RuleCells::Maker cell = nullptr;
+    /// Of the control in its cell.
+    std::optional<Frame> frame;
+    /// What a check box turns on and off.
+    std::string_view field;
     /// Takes a share of the width that the window gains or loses; the others keep theirs.
     bool flexible = false;
     /// Over contents that stand in the middle of the column.

@@ -26,7 +26,7 @@ CellView RuleRows::cell(RuleCategory category, std::string_view column, long row
     if (!list.holds(row) || !facts) {
         return {};
     }
-    return (cells_.*facts->cell)(facts->identifier, list, static_cast<std::size_t>(row));
+    return (cells_.*facts->cell)(*facts, list, static_cast<std::size_t>(row));
 }
 
 std::string RuleRows::label(RuleCategory category, std::string_view column, long row) const {

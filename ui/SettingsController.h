@@ -50,10 +50,10 @@ public:
     void remove(RuleCategory category) { editing_.removing.remove(category); }
     void reset(RuleCategory category) { editing_.resetting.reset(category); }
 
-    void setEnabled(RuleCategory category, long row, bool on) {
-        editing_.toggling.setEnabled(category, row, on);
+    /// The check box of a record's field in a row.
+    void set(RuleCategory category, long row, std::string_view field, bool on) {
+        editing_.toggling.set(category, row, field, on);
     }
-    void setEnabledInMainMenu(long row, bool on) { editing_.toggling.setEnabledInMainMenu(row, on); }
     void enableAll(RuleCategory category) { editing_.toggling.enableAll(category); }
     /// A mirrored key of `LocalPreferences` has a new value.
     void switchChanged(std::string_view key, const PlistValue& newValue);

@@ -78,6 +78,13 @@ constexpr std::array<AppTile, 3> tiles{{
     {"app-Website", "Website", "News, help and everything else we make.", "Visit", link::website},
 }};
 
+constexpr auto findPage(RuleCategory category) {
+    return std::find_if(allPages.begin(), allPages.end(),
+        [category](Page page) { return layouts[page].category == category; });
+}
+static_assert(std::all_of(allRuleCategories.begin(), allRuleCategories.end(),
+    [](RuleCategory category) { return findPage(category) != allPages.end(); }));
+
 } // namespace
 
 const PageLayout& layoutOf(Page page) {
@@ -85,11 +92,7 @@ const PageLayout& layoutOf(Page page) {
 }
 
 Page pageOf(RuleCategory category) {
-    static const auto pages = PerCategory<Page>::madeBy([](RuleCategory wanted) {
-        return *std::find_if(allPages.begin(), allPages.end(),
-            [wanted](Page page) { return layouts[page].category == wanted; });
-    });
-    return pages[category];
+    return *findPage(category);
 }
 
 std::span<const AppTile> appTiles() {

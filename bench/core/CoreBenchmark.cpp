@@ -66,7 +66,7 @@ void toggle(benchmark::State& state) {
     LaunchedSettings settings(recordsOf(state), imageBytesOf(state));
     bool on = false;
     for (auto unused : state) {
-        settings.controller().setEnabled(RuleCategory::customIcon, middleRow(state), on);
+        settings.controller().set(RuleCategory::customIcon, middleRow(state), field::enable, on);
         on = !on;
         settings.forgetCalls();
     }

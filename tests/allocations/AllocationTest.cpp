@@ -44,7 +44,7 @@ void launch(LongList& list) {
 }
 
 void toggle(LongList& list) {
-    list.controller().setEnabled(RuleCategory::customIcon, list.middleRow(), false);
+    list.controller().set(RuleCategory::customIcon, list.middleRow(), field::enable, false);
 }
 
 void enableAll(LongList& list) {

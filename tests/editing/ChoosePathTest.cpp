@@ -38,7 +38,7 @@ TEST_F(ChoosePathTest, ATargetWithoutFolderKeepsItsFlagAndCanBeSwitchedOnAfterwa
     editing_.pathChoosing.selectPath(1);
     platform_.panels.confirm({"/Volumes/Backup"});
     EXPECT_EQ(list()[1].dictionary()->at("enable"), PlistValue(0));
-    editing_.toggling.setEnabled(RuleCategory::copyFilesTo, 1, true);
+    editing_.toggling.set(RuleCategory::copyFilesTo, 1, field::enable, true);
     EXPECT_EQ(list()[1].dictionary()->at("enable"), PlistValue(1));
 }
 

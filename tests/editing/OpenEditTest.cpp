@@ -89,7 +89,7 @@ TEST_F(OpenEditTest, ADroppedRowLandsAfterTheNameIsStored) {
 
 TEST_F(OpenEditTest, SwitchingAnotherRowStoresTheNameFirst) {
     type("CustomIconName");
-    editing_.toggling.setEnabled(RuleCategory::customIcon, 0, false);
+    editing_.toggling.set(RuleCategory::customIcon, 0, field::enable, false);
     EXPECT_EQ(names(RuleCategory::customIcon), (std::vector<std::string>{"A", "New", "C", "D"}));
     EXPECT_EQ(publishedNames(RuleCategory::customIcon), (std::vector<std::string>{"New", "C", "D"}));
     expectTheEditCameFirst("arrOfCustomIcon");

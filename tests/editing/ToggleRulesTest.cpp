@@ -20,7 +20,7 @@ std::vector<std::string> rowSwitchOrder(const std::string& table, const std::str
 TEST_F(ToggleRulesTest, SwitchingOffRowTwoStoresTheIntegerZeroThereAndNothingElse) {
     launch();
     const auto before = localList(RuleCategory::createNewFile);
-    editing_.toggling.setEnabled(RuleCategory::createNewFile, 2, false);
+    editing_.toggling.set(RuleCategory::createNewFile, 2, field::enable, false);
     const auto& after = localList(RuleCategory::createNewFile);
     EXPECT_EQ(storedFlag(RuleCategory::createNewFile, 2), PlistValue(0));
     for (std::size_t row = 0; row < before.size(); ++row) {
@@ -31,13 +31,13 @@ TEST_F(ToggleRulesTest, SwitchingOffRowTwoStoresTheIntegerZeroThereAndNothingEls
 
 TEST_F(ToggleRulesTest, SwitchingOnStoresTheIntegerOne) {
     launch();
-    editing_.toggling.setEnabled(RuleCategory::createNewFile, 12, true);
+    editing_.toggling.set(RuleCategory::createNewFile, 12, field::enable, true);
     EXPECT_EQ(storedFlag(RuleCategory::createNewFile, 12), PlistValue(1));
 }
 
 TEST_F(ToggleRulesTest, TheMainMenuSwitchWritesItsOwnField) {
     launch();
-    editing_.toggling.setEnabledInMainMenu(1, true);
+    editing_.toggling.set(RuleCategory::createNewFile, 1, field::enableMainMenu, true);
     EXPECT_EQ(storedFlag(RuleCategory::createNewFile, 1, "enableMainMenu"), PlistValue(1));
     EXPECT_EQ(storedFlag(RuleCategory::createNewFile, 1), PlistValue("1"));
 }
@@ -46,7 +46,7 @@ TEST_F(ToggleRulesTest, ARowSwitchStoresSynchronisesReloadsAndPublishes) {
     launch();
     editing_.resetting.reset(RuleCategory::copyFilesTo);
     platform_.log.clear();
-    editing_.toggling.setEnabled(RuleCategory::copyFilesTo, 1, false);
+    editing_.toggling.set(RuleCategory::copyFilesTo, 1, field::enable, false);
     EXPECT_EQ(platform_.log.lines(), rowSwitchOrder("copyFilesTo", "arrOfCopyFilesTo"));
 }
 
@@ -54,7 +54,7 @@ TEST_F(ToggleRulesTest, ATargetWithoutFolderIsStoredOffHoweverItIsSwitched) {
     storeList(RuleCategory::copyFilesTo,
         {makeRecord({{"enable", 0}, {"realPath", "Undefined"}, {"displayName", ""}})});
     launch();
-    editing_.toggling.setEnabled(RuleCategory::copyFilesTo, 0, true);
+    editing_.toggling.set(RuleCategory::copyFilesTo, 0, field::enable, true);
     EXPECT_EQ(storedFlag(RuleCategory::copyFilesTo, 0), PlistValue(0));
     EXPECT_EQ(platform_.log.lines(), rowSwitchOrder("copyFilesTo", "arrOfCopyFilesTo"));
 }
@@ -64,7 +64,7 @@ TEST_F(ToggleRulesTest, AFixedActionIsLeftAsItIsAndTheListStillSavedAndPublished
     const auto before = localList(RuleCategory::others);
     for (const long row : {15L, 16L, 17L}) {
         platform_.log.clear();
-        editing_.toggling.setEnabled(RuleCategory::others, row, false);
+        editing_.toggling.set(RuleCategory::others, row, field::enable, false);
         EXPECT_EQ(localList(RuleCategory::others), before);
         EXPECT_EQ(platform_.log.lines()[0], "local set arrOfOthers");
         EXPECT_EQ(platform_.log.lines().back(), "shared synchronise");
@@ -73,7 +73,7 @@ TEST_F(ToggleRulesTest, AFixedActionIsLeftAsItIsAndTheListStillSavedAndPublished
 
 TEST_F(ToggleRulesTest, ACustomIconIsSwitchedByItsRow) {
     launch();
-    editing_.toggling.setEnabled(RuleCategory::customIcon, 4, false);
+    editing_.toggling.set(RuleCategory::customIcon, 4, field::enable, false);
     EXPECT_EQ(storedFlag(RuleCategory::customIcon, 4), PlistValue(0));
     EXPECT_EQ(sharedList(RuleCategory::customIcon).size(), 19U);
     EXPECT_EQ(local("enableAllOfCustomIcon"), PlistValue(false));
@@ -82,7 +82,7 @@ TEST_F(ToggleRulesTest, ACustomIconIsSwitchedByItsRow) {
 TEST_F(ToggleRulesTest, ARowThatTheListDoesNotHaveChangesNothing) {
     launch();
     for (const long row : {-1L, 15L, 1000L}) {
-        editing_.toggling.setEnabled(RuleCategory::createNewFile, row, false);
+        editing_.toggling.set(RuleCategory::createNewFile, row, field::enable, false);
     }
     EXPECT_TRUE(platform_.log.lines().empty());
 }

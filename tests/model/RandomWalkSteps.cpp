@@ -101,11 +101,11 @@ void RandomWalk::toggle(RuleCategory category) {
     const auto row = anyRow(category);
     const auto on = flip();
     if (category == RuleCategory::createNewFile && pick(4) == 0) {
-        controller_.setEnabledInMainMenu(row, on);
+        controller_.set(RuleCategory::createNewFile, row, field::enableMainMenu, on);
         return noteSaved(category, model_.set(category, row, "enableMainMenu", on));
     }
     if (haveRowSwitches[category]) {
-        controller_.setEnabled(category, row, on);
+        controller_.set(category, row, field::enable, on);
         noteSaved(category, model_.set(category, row, "enable", on));
     }
 }

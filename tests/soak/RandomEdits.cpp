@@ -129,9 +129,9 @@ void RandomEdits::toggle(RuleCategory category) {
     perform("toggle", category, true,
         model_.set(category, place, inMainMenu ? "enableMainMenu" : "enable", on), [&] {
             if (inMainMenu) {
-                controller().setEnabledInMainMenu(place, on);
+                controller().set(RuleCategory::createNewFile, place, field::enableMainMenu, on);
             } else {
-                controller().setEnabled(category, place, on);
+                controller().set(category, place, field::enable, on);
             }
         });
 }

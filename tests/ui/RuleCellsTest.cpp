@@ -140,10 +140,10 @@ TEST_F(RuleCellsTest, CheckBoxesShowTheirFieldAndTurnIt) {
     EXPECT_TRUE(box(templates, "Enable", 0).on);
     EXPECT_FALSE(box(templates, "Enable", 14).on);
     EXPECT_FALSE(box(templates, "EnableMainMenu", 0).on);
-    EXPECT_EQ(box(templates, "EnableMainMenu", 0).turns, RowSwitch::enableMainMenu);
+    EXPECT_EQ(box(templates, "EnableMainMenu", 0).field, field::enableMainMenu);
     for (const auto& [category, column] : {std::pair{templates, "Enable"}, std::pair{targets, "Enable"},
              std::pair{icons, "Enable"}, std::pair{others, "OthersEnable"}}) {
-        EXPECT_EQ(box(category, column, 0).turns, RowSwitch::enable);
+        EXPECT_EQ(box(category, column, 0).field, field::enable);
     }
 }
 

@@ -1,6 +1,8 @@
 #import "front/SettingsViewController+Actions.h"
 
+using tarnwick::Page;
 using tarnwick::RuleCategory;
+namespace field = tarnwick::field;
 
 namespace {
 
@@ -9,6 +11,54 @@ bool isOn(id sender) {
 }
 
 } // namespace
+
+@implementation SettingsViewController (Pages)
+
+- (void)createNewFilePressed:(id)sender {
+    _controller->showPage(Page::createNewFile);
+}
+
+- (void)copyFilesToPressed:(id)sender {
+    _controller->showPage(Page::copyFilesTo);
+}
+
+- (void)commonPathPressed:(id)sender {
+    _controller->showPage(Page::commonPath);
+}
+
+- (void)customIconFolder:(id)sender {
+    _controller->showPage(Page::customIcon);
+}
+
+- (void)otherOptionPressed:(id)sender {
+    _controller->showPage(Page::others);
+}
+
+- (void)moreAppPressed:(id)sender {
+    _controller->showPage(Page::moreApps);
+}
+
+- (void)createNewFileViewClick:(id)sender {
+    _controller->tableClicked(RuleCategory::createNewFile);
+}
+
+- (void)copyFilesToViewClick:(id)sender {
+    _controller->tableClicked(RuleCategory::copyFilesTo);
+}
+
+- (void)commonPathViewClick:(id)sender {
+    _controller->tableClicked(RuleCategory::commonPath);
+}
+
+- (void)customIconViewClick:(id)sender {
+    _controller->tableClicked(RuleCategory::customIcon);
+}
+
+- (void)othersViewClick:(id)sender {
+    _controller->tableClicked(RuleCategory::others);
+}
+
+@end
 
 @implementation SettingsViewController (Rules)
 
@@ -69,23 +119,23 @@ bool isOn(id sender) {
 }
 
 - (void)OnOffcheckedStateChangedOfCreateNewFile:(id)sender {
-    _controller->setEnabled(RuleCategory::createNewFile, [sender tag], isOn(sender));
+    _controller->set(RuleCategory::createNewFile, [sender tag], field::enable, isOn(sender));
 }
 
 - (void)OnOffEnableMainMenuStateChangedOfCreateNewFile:(id)sender {
-    _controller->setEnabledInMainMenu([sender tag], isOn(sender));
+    _controller->set(RuleCategory::createNewFile, [sender tag], field::enableMainMenu, isOn(sender));
 }
 
 - (void)OnOffcheckedStateChangedOfCopyTo:(id)sender {
-    _controller->setEnabled(RuleCategory::copyFilesTo, [sender tag], isOn(sender));
+    _controller->set(RuleCategory::copyFilesTo, [sender tag], field::enable, isOn(sender));
 }
 
 - (void)OnOffcheckedStateChangedOfCustomIcon:(id)sender {
-    _controller->setEnabled(RuleCategory::customIcon, [sender tag], isOn(sender));
+    _controller->set(RuleCategory::customIcon, [sender tag], field::enable, isOn(sender));
 }
 
 - (void)OnOffcheckedStateChangedOfOthers:(id)sender {
-    _controller->setEnabled(RuleCategory::others, [sender tag], isOn(sender));
+    _controller->set(RuleCategory::others, [sender tag], field::enable, isOn(sender));
 }
 
 - (void)enableAllOfCreateNewFilesClick:(id)sender {
