@@ -7,8 +7,6 @@
 
 @class CALayer;
 
-typedef NSString *NSKeyValueChangeKey;
-
 // Layers.mm
 @interface NSView (TNLayers)
 - (void)setWantsLayer:(BOOL)wantsLayer;
@@ -33,23 +31,6 @@ typedef NSString *NSKeyValueChangeKey;
 // ViewControllers.mm
 @interface NSViewController (TNViewDidLoad)
 - (void)viewDidLoad;
-- (BOOL)isViewLoaded;
-/// Nil as long as the view is not loaded.
-- (NSView *)viewIfLoaded;
-@end
-
-// TextPlaceholders.mm
-@interface NSTextField (TNPlaceholders)
-/// Shown while the field is empty and not being edited.
-- (void)setPlaceholderString:(NSString *)text;
-- (NSString *)placeholderString;
-@end
-
-// Alerts.mm
-@interface NSAlert (TNSheets)
-/// Runs the alert for the whole application; the handler may be nil.
-- (void)beginSheetModalForWindow:(NSWindow *)window
-               completionHandler:(void (^)(NSModalResponse answer))handler;
 @end
 
 // FolderLocations.mm
@@ -62,17 +43,4 @@ typedef NSString *NSKeyValueChangeKey;
 @interface NSUserDefaults (TNSuites)
 /// Nil without a name. All handles of a name share their state.
 - (instancetype)initWithSuiteName:(NSString *)name;
-@end
-
-// ProcessInformation.mm
-typedef struct {
-    NSInteger majorVersion;
-    NSInteger minorVersion;
-    NSInteger patchVersion;
-} NSOperatingSystemVersion;
-
-@interface NSProcessInfo (TNOperatingSystemVersion)
-/// The kernel's version.
-- (NSOperatingSystemVersion)operatingSystemVersion;
-- (BOOL)isOperatingSystemAtLeastVersion:(NSOperatingSystemVersion)version;
 @end

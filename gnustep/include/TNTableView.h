@@ -8,7 +8,8 @@
 #include <vector>
 
 /// A table that asks its delegate for a view per cell, for the rows on screen alone, and handles mouse,
-/// editing, selection and row dragging as AppKit's does. All rows are as high as the first.
+/// editing, selection and row dragging as AppKit's does. All rows are as high as the first, and one at most
+/// is selected.
 @interface TNTableView : NSTableView {
 @private
     std::map<NSInteger, std::vector<NSView *>> _rowViews;

@@ -160,7 +160,7 @@ void _Block_object_dispose(const void *object, const int flags) {
 } // extern "C"
 
 /// Makes blocks answer messages: its class record is copied over the three that blocks point to.
-@interface TNBlock : NSObject
+@interface TNBlock : NSObject <NSCopying>
 @end
 
 @implementation TNBlock

@@ -11,7 +11,6 @@ NSString *const NSWorkspaceDidActivateApplicationNotification =
     @"NSWorkspaceDidActivateApplicationNotification";
 NSString *const NSWorkspaceDidDeactivateApplicationNotification =
     @"NSWorkspaceDidDeactivateApplicationNotification";
-NSString *const NSWorkspaceApplicationKey = @"NSWorkspaceApplicationKey";
 
 namespace {
 

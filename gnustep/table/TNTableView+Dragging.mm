@@ -68,10 +68,6 @@ constexpr CGFloat scrollMargin = 16;
     return image;
 }
 
-- (NSDragOperation)draggingSourceOperationMaskForLocal:(BOOL)isLocal {
-    return isLocal ? _draggingSourceOperationMaskForLocal : _draggingSourceOperationMaskForRemote;
-}
-
 - (void)setDropRow:(NSInteger)row dropOperation:(NSTableViewDropOperation)operation {
     _dropRow = row;
     _dropOperation = operation;

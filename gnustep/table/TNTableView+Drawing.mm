@@ -41,11 +41,7 @@
 - (void)highlightSelectionInClipRect:(NSRect)clip {
     const auto *colors = TNThemeCurrentColors();
     [([[self window] isKeyWindow] ? colors->selectedRow : colors->selectedRowInactive) set];
-    NSIndexSet *selection = [self selectedRowIndexes];
-    for (NSUInteger row = [selection firstIndex]; row != NSNotFound;
-         row = [selection indexGreaterThanIndex:row]) {
-        NSRectFill(NSIntersectionRect(clip, [self rectOfRow:static_cast<NSInteger>(row)]));
-    }
+    NSRectFill(NSIntersectionRect(clip, [self rectOfRow:[self selectedRow]]));
 }
 
 /// Views draw the cells.

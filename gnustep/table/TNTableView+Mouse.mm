@@ -3,7 +3,6 @@
 
 #import "TNTableView.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -29,10 +28,6 @@ bool takesItsOwnClicks(NSView *view) {
     }
     return [view isKindOfClass:[NSControl class]] && ![view isKindOfClass:[NSTextField class]] &&
            ![view isKindOfClass:[NSImageView class]] && [(NSControl *)view isEnabled];
-}
-
-bool extends(NSUInteger modifiers) {
-    return (modifiers & (NSEventModifierFlagShift | NSEventModifierFlagCommand)) != 0;
 }
 
 } // namespace
@@ -64,18 +59,10 @@ bool extends(NSUInteger modifiers) {
     _clickedRow = row;
     _clickedColumn = column;
     const BOOL wasSelected = row >= 0 && [self isRowSelected:row];
-    // One of several selected rows: all of them may be about to be dragged.
-    const BOOL selectsLater =
-        wasSelected && [self numberOfSelectedRows] > 1 && !extends([event modifierFlags]);
-    if (!selectsLater) {
-        [self selectClickedRow:row modifiers:[event modifierFlags]];
-    }
+    [self selectClickedRow:row];
     if ([self leavesForDragFrom:event] && row >= 0) {
         [self dragRowsFromEvent:event];
         return;
-    }
-    if (selectsLater) {
-        [self selectClickedRow:row modifiers:0];
     }
     if ([event clickCount] == 2) {
         [self finishDoubleClickAtColumn:column row:row];
@@ -94,43 +81,14 @@ bool extends(NSUInteger modifiers) {
     }
 }
 
-- (void)selectClickedRow:(NSInteger)row modifiers:(NSUInteger)modifiers {
-    if (![self mayChangeSelectionTo:row]) {
-        return;
-    }
+/// A click in empty space takes the selection away.
+- (void)selectClickedRow:(NSInteger)row {
     if (row < 0) {
-        if ([self allowsEmptySelection]) {
-            [self deselectAll:self];
-        }
-        return;
+        [self deselectAll:self];
+    } else {
+        [self selectRowIndexes:[NSIndexSet indexSetWithIndex:static_cast<NSUInteger>(row)]
+            byExtendingSelection:NO];
     }
-    const bool toggles = [self allowsMultipleSelection] && (modifiers & NSEventModifierFlagCommand) != 0;
-    if (toggles && [self isRowSelected:row]) {
-        if ([self allowsEmptySelection] || [self numberOfSelectedRows] > 1) {
-            [self deselectRow:row];
-        }
-        return;
-    }
-    NSInteger first = row;
-    NSInteger last = row;
-    if ([self allowsMultipleSelection] && (modifiers & NSEventModifierFlagShift) != 0 &&
-        [self selectedRow] >= 0) {
-        first = std::min(row, [self selectedRow]);
-        last = std::max(row, [self selectedRow]);
-    }
-    const auto range = NSMakeRange(static_cast<NSUInteger>(first), static_cast<NSUInteger>(last - first + 1));
-    [self selectRowIndexes:[NSIndexSet indexSetWithIndexesInRange:range] byExtendingSelection:toggles];
-}
-
-/// The delegate may keep the user's clicks from changing the selection.
-- (BOOL)mayChangeSelectionTo:(NSInteger)row {
-    id delegate = [self delegate];
-    if ([delegate respondsToSelector:@selector(selectionShouldChangeInTableView:)] &&
-        ![delegate selectionShouldChangeInTableView:self]) {
-        return NO;
-    }
-    return row < 0 || ![delegate respondsToSelector:@selector(tableView:shouldSelectRow:)] ||
-           [delegate tableView:self shouldSelectRow:row];
 }
 
 /// Follows the mouse until it is let go (no) or has left its place (yes).

@@ -18,7 +18,6 @@ NSArray *deferringModes() {
     self = [super initWithFrame:frame];
     if (self) {
         _dropRow = -1;
-        [self setVerticalMotionCanBeginDrag:YES];
     }
     return self;
 }
@@ -156,9 +155,12 @@ NSArray *deferringModes() {
 #pragma mark Loading and layout
 
 - (void)reloadData {
-    NSIndexSet *selection = [[[self selectedRowIndexes] copy] autorelease];
+    const NSInteger selected = [self selectedRow];
     [super reloadData];
-    [self restoreSelection:selection];
+    if (selected >= 0 && selected < [self numberOfRows] && selected != [self selectedRow]) {
+        [self selectRowIndexes:[NSIndexSet indexSetWithIndex:static_cast<NSUInteger>(selected)]
+            byExtendingSelection:NO];
+    }
     if ([self editedField]) {
         // The field is still needed by the edit that ends just now.
         if (!_reloadIsPending) {
@@ -171,15 +173,6 @@ NSArray *deferringModes() {
         return;
     }
     [self exchangeRowViews];
-}
-
-- (void)restoreSelection:(NSIndexSet *)selection {
-    if ([selection count] == 0 || [selection isEqual:[self selectedRowIndexes]]) {
-        return;
-    }
-    if (static_cast<NSInteger>([selection lastIndex]) < [self numberOfRows]) {
-        [self selectRowIndexes:selection byExtendingSelection:NO];
-    }
 }
 
 - (void)finishReload {

@@ -40,17 +40,9 @@ void drawLayer(NSView *self, SEL, NSRect) {
     [_view setNeedsDisplay:YES];
 }
 
-- (CGColorRef)backgroundColor {
-    return (CGColorRef)_color;
-}
-
 - (void)setCornerRadius:(CGFloat)radius {
     _cornerRadius = radius;
     [_view setNeedsDisplay:YES];
-}
-
-- (CGFloat)cornerRadius {
-    return _cornerRadius;
 }
 
 - (void)drawInBounds:(NSRect)bounds {

@@ -232,19 +232,11 @@ NSBezierPath *TNThemeHairline(NSRect rect, CGFloat radius) {
     return TNThemeCurrentColors()->surface;
 }
 
-- (NSColor *)menuBarBackgroundColor {
-    return TNThemeCurrentColors()->header;
-}
-
 - (NSColor *)menuItemBackgroundColor {
     return TNThemeCurrentColors()->surface;
 }
 
 - (NSColor *)menuBorderColor {
-    return TNThemeCurrentColors()->border;
-}
-
-- (NSColor *)menuBarBorderColor {
     return TNThemeCurrentColors()->border;
 }
 

@@ -1,4 +1,4 @@
-// Pictures that GNUstep draws from files in its own look: check boxes, radio buttons, the marks of menu items
+// Pictures that GNUstep draws from files in its own look: check boxes, the marks of menu items
 // and the arrow of the default button. They are drawn here in the theme's colours and take over the names.
 // What the theme never shows is blank: reading GNUstep's own file of one picture takes longer than drawing
 // them all.
@@ -65,16 +65,6 @@ void installCheckBox(NSString *name, bool on) {
     });
 }
 
-void installRadioButton(NSString *name, bool on) {
-    TNThemeInstallImage(name, NSMakeSize(boxSize, boxSize), ^(NSRect bounds) {
-        fillShape([NSBezierPath bezierPathWithOvalInRect:NSInsetRect(bounds, 1.5, 1.5)], on);
-        if (on) {
-            [TNThemeCurrentColors()->accentText set];
-            [[NSBezierPath bezierPathWithOvalInRect:NSInsetRect(bounds, 5.5, 5.5)] fill];
-        }
-    });
-}
-
 void installMenuMarks() {
     constexpr CGFloat size = 10;
     TNThemeInstallImage(@"GSMenuSelected", NSMakeSize(size, size), ^(NSRect) {
@@ -125,8 +115,6 @@ void TNThemeInstallImage(NSString *name, NSSize size, void (^drawing)(NSRect bou
 void TNThemeInstallImages() {
     installCheckBox(@"GSSwitch", false);
     installCheckBox(@"GSSwitchSelected", true);
-    installRadioButton(@"GSRadio", false);
-    installRadioButton(@"GSRadioSelected", true);
     installMenuMarks();
     // The arrow of the default button, and the parts of a scroller.
     for (NSString *name in

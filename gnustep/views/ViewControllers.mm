@@ -1,5 +1,5 @@
-// Missing: `viewDidLoad` of NSViewController and the question whether it has come to that, as of GNUstep GUI
-// 0.29. Sent when a controller gets its first view, from an interface file or by `setView:`.
+// Missing: `viewDidLoad` of NSViewController, as of GNUstep GUI 0.29. Sent when a controller gets its first
+// view, from an interface file or by `setView:`.
 
 #import "TNAdditions.h"
 
@@ -33,14 +33,6 @@ void setView(id self, SEL command, NSView *view) {
 }
 
 - (void)viewDidLoad {
-}
-
-- (BOOL)isViewLoaded {
-    return hasView(self);
-}
-
-- (NSView *)viewIfLoaded {
-    return hasView(self) ? [self view] : nil;
 }
 
 @end

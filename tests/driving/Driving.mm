@@ -16,7 +16,7 @@ NSTimeInterval now() {
 
 bool pump(double seconds) {
     @autoreleasepool {
-        NSEvent *event = [NSApp nextEventMatchingMask:NSEventMaskAny
+        NSEvent *event = [NSApp nextEventMatchingMask:NSAnyEventMask
                                             untilDate:[NSDate dateWithTimeIntervalSinceNow:seconds]
                                                inMode:NSDefaultRunLoopMode
                                               dequeue:YES];
@@ -68,13 +68,13 @@ void postMouse(NSWindow *window, NSEventType type, NSPoint place, int clicks, NS
 
 void postClicks(NSWindow *window, NSPoint place, int clicks, NSUInteger modifiers) {
     for (int click = 1; click <= clicks; ++click) {
-        postMouse(window, NSEventTypeLeftMouseDown, place, click, modifiers);
-        postMouse(window, NSEventTypeLeftMouseUp, place, click, modifiers);
+        postMouse(window, NSLeftMouseDown, place, click, modifiers);
+        postMouse(window, NSLeftMouseUp, place, click, modifiers);
     }
 }
 
 void postKey(NSWindow *window, NSString *characters, NSUInteger modifiers) {
-    for (const auto type : {NSEventTypeKeyDown, NSEventTypeKeyUp}) {
+    for (const auto type : {NSKeyDown, NSKeyUp}) {
         [NSApp postEvent:[NSEvent keyEventWithType:type
                                                 location:NSZeroPoint
                                            modifierFlags:modifiers
@@ -115,13 +115,13 @@ void type(NSWindow *window, NSString *text) {
 
 void drag(NSWindow *window, NSPoint start, NSPoint end) {
     @autoreleasepool {
-        postMouse(window, NSEventTypeLeftMouseDown, start);
+        postMouse(window, NSLeftMouseDown, start);
         for (int step = 1; step <= dragSteps; ++step) {
             const double part = static_cast<double>(step) / dragSteps;
-            postMouse(window, NSEventTypeLeftMouseDragged,
+            postMouse(window, NSLeftMouseDragged,
                 NSMakePoint(start.x + (end.x - start.x) * part, start.y + (end.y - start.y) * part));
         }
-        postMouse(window, NSEventTypeLeftMouseUp, end);
+        postMouse(window, NSLeftMouseUp, end);
         settle();
     }
 }

@@ -3,9 +3,8 @@
 /// What the layer's look comes down to in pixels, from a program that has started up.
 namespace tarnwick::probe {
 
-/// The share of a text field's pixels that differ from its background, 0 to 1.
-double inkOfField(const char* text, const char* placeholder);
-/// The same of a tab view of the kind that has neither tabs nor border.
+/// The share of the pixels that differ from the background, 0 to 1, in a tab view of the kind that has
+/// neither tabs nor border.
 double inkOfBareTabView();
 /// How dark a ticked check box without title is, 0 to 1.
 double darknessOfCheckBox(bool enabled);

@@ -52,16 +52,6 @@ double ink(NSBitmapImageRep *pixels) {
 
 } // namespace
 
-double inkOfField(const char *text, const char *placeholder) {
-    @autoreleasepool {
-        TNPrepareProcess(0, nullptr);
-        NSTextField *field = [[[NSTextField alloc] initWithFrame:NSMakeRect(10, 10, 150, 24)] autorelease];
-        [field setStringValue:[NSString stringWithUTF8String:text]];
-        [field setPlaceholderString:[NSString stringWithUTF8String:placeholder]];
-        return ink(pixelsOf(field));
-    }
-}
-
 double inkOfBareTabView() {
     @autoreleasepool {
         TNPrepareProcess(0, nullptr);
@@ -101,7 +91,7 @@ bool folderPictureSurvivesScaling() {
         [small lockFocus];
         [icon drawInRect:NSMakeRect(0, 0, side, side)
                 fromRect:NSZeroRect
-               operation:NSCompositingOperationCopy
+               operation:NSCompositeCopy
                 fraction:1];
         [small unlockFocus];
         NSBitmapImageRep *pixels = [NSBitmapImageRep imageRepWithData:[small TIFFRepresentation]];

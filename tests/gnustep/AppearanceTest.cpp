@@ -4,12 +4,6 @@
 
 using namespace tarnwick::probe;
 
-TEST(Appearance, AnEmptyFieldShowsItsPlaceholder) {
-    EXPECT_EQ(inkOfField("", ""), 0);
-    EXPECT_GT(inkOfField("", "Placeholder"), 0.02);
-    EXPECT_EQ(inkOfField("x", "Placeholder"), inkOfField("x", ""));
-}
-
 TEST(Appearance, ATabViewWithoutTabsAndBorderDrawsNothing) {
     EXPECT_EQ(inkOfBareTabView(), 0);
 }

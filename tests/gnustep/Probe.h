@@ -46,8 +46,6 @@ void startUp(int argc, char** argv);
 std::string standardString(const std::string& key);
 void setStandardString(const std::string& key, const std::string& value);
 bool synchronizeStandardDomain();
-/// Whether a block given to the main queue from another thread ran on the main thread.
-bool mainQueueRunsOnMainThread();
 
 /// The names of the classes that pictures are offered to, after one has been looked for.
 std::vector<std::string> imageReaders();

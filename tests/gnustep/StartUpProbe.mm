@@ -29,26 +29,6 @@ bool synchronizeStandardDomain() {
     }
 }
 
-bool mainQueueRunsOnMainThread() {
-    @autoreleasepool {
-        __block bool hasRun = false;
-        __block bool wasMain = false;
-        NSOperationQueue *worker = [[[NSOperationQueue alloc] init] autorelease];
-        [worker addOperationWithBlock:^{
-            [[NSOperationQueue mainQueue] addOperationWithBlock:^{
-                wasMain = [NSThread isMainThread];
-                hasRun = true;
-            }];
-        }];
-        NSDate *end = [NSDate dateWithTimeIntervalSinceNow:10];
-        while (!hasRun && [end timeIntervalSinceNow] > 0) {
-            [[NSRunLoop currentRunLoop] runMode:NSDefaultRunLoopMode
-                                     beforeDate:[NSDate dateWithTimeIntervalSinceNow:0.05]];
-        }
-        return hasRun && wasMain;
-    }
-}
-
 std::vector<std::string> imageReaders() {
     @autoreleasepool {
         [NSImage imageNamed:@"there is none of this name"];

@@ -120,11 +120,6 @@ TEST(StartUp, WritesEmojiAndWhatLooksLikeAnEscapeAsTheyAre) {
     EXPECT_NE(contentOf(standardFile()).find(text), std::string::npos) << contentOf(standardFile());
 }
 
-TEST(StartUp, MakesTheMainQueueRunOnTheMainThread) {
-    startUp();
-    EXPECT_TRUE(mainQueueRunsOnMainThread());
-}
-
 TEST(StartUp, LeavesPicturesToTheBitmapReaderAlone) {
     startUp();
     EXPECT_EQ(imageReaders(), std::vector<std::string>{"NSBitmapImageRep"});

@@ -20,8 +20,6 @@ public:
     enum Column { check, name, path };
 
     void click(long row, Column column, int clicks = 1);
-    void clickWithCommand(long row);
-    void clickWithShift(long row);
     /// Below the last row.
     void clickEmptySpace(int clicks = 1);
     /// A text field beside the table.
@@ -39,13 +37,11 @@ public:
     void refuseEndOfEditing(bool refuse);
     /// The data source sends drops on a row into the gap above it.
     void retargetDropsOnRows();
-    void allowMultipleSelection();
 
     /// What happened since the last call, in order: "action 2", "double 2" and "empty" with the clicked row,
     /// "check 2", "end 2 text", "drop 3 above 1", "selection 2".
     std::vector<std::string> takeEvents();
     [[nodiscard]] long selectedRow() const;
-    [[nodiscard]] std::vector<long> selectedRows() const;
     [[nodiscard]] bool isEditing() const;
     [[nodiscard]] std::string editedText() const;
     [[nodiscard]] std::vector<std::string> names() const;

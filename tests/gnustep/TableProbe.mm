@@ -103,14 +103,6 @@ void TableWindow::click(long row, Column column, int clicks) {
         parts_->window, parts_->placeInWindow(NSMakePoint(NSMinX(frame) + inset, NSMidY(frame))), clicks);
 }
 
-void TableWindow::clickWithCommand(long row) {
-    driving::click(parts_->window, parts_->middleOfRow(row), 1, NSEventModifierFlagCommand);
-}
-
-void TableWindow::clickWithShift(long row) {
-    driving::click(parts_->window, parts_->middleOfRow(row), 1, NSEventModifierFlagShift);
-}
-
 void TableWindow::clickEmptySpace(int clicks) {
     const NSRect visible = [parts_->table visibleRect];
     driving::click(parts_->window, parts_->placeInWindow(NSMakePoint(grip, NSMaxY(visible) - 4)), clicks);
@@ -148,12 +140,12 @@ void TableWindow::dragAtLowerEdge(long row, double wantedScroll) {
         const NSPoint edge = parts_->placeInWindow(NSMakePoint(grip, NSMaxY(visible) - 4));
         TNLettingGo *end = [[[TNLettingGo alloc] init] autorelease];
         end->condition = [this, wantedScroll] { return scrolledBy() >= wantedScroll; };
-        end->letGo = [this, edge] { driving::postMouse(parts_->window, NSEventTypeLeftMouseUp, edge, 1); };
+        end->letGo = [this, edge] { driving::postMouse(parts_->window, NSLeftMouseUp, edge, 1); };
         // During a drag GNUstep asks where the pointer really is.
         [GSCurrentServer() setMouseLocation:[parts_->window convertBaseToScreen:edge] onScreen:0];
         [end wait];
-        driving::postMouse(parts_->window, NSEventTypeLeftMouseDown, start, 1);
-        driving::postMouse(parts_->window, NSEventTypeLeftMouseDragged, edge, 1);
+        driving::postMouse(parts_->window, NSLeftMouseDown, start, 1);
+        driving::postMouse(parts_->window, NSLeftMouseDragged, edge, 1);
         driving::settle();
     }
 }
@@ -176,26 +168,12 @@ void TableWindow::retargetDropsOnRows() {
     parts_->model->retargetsDrops = YES;
 }
 
-void TableWindow::allowMultipleSelection() {
-    [parts_->table setAllowsMultipleSelection:YES];
-}
-
 std::vector<std::string> TableWindow::takeEvents() {
     return std::exchange(parts_->model->events, {});
 }
 
 long TableWindow::selectedRow() const {
     return [parts_->table selectedRow];
-}
-
-std::vector<long> TableWindow::selectedRows() const {
-    std::vector<long> rows;
-    NSIndexSet *selection = [parts_->table selectedRowIndexes];
-    for (NSUInteger row = [selection firstIndex]; row != NSNotFound;
-         row = [selection indexGreaterThanIndex:row]) {
-        rows.push_back(static_cast<long>(row));
-    }
-    return rows;
 }
 
 bool TableWindow::isEditing() const {

@@ -93,17 +93,3 @@ TEST(Table, ArrowKeysMoveTheSelection) {
     table.press(TableKey::up);
     EXPECT_EQ(table.selectedRow(), 19);
 }
-
-TEST(Table, ModifiersExtendTheSelectionWhereSeveralRowsMayBeSelected) {
-    TableWindow table(6);
-    table.click(1, TableWindow::path);
-    table.clickWithCommand(4);
-    EXPECT_EQ(table.selectedRows(), std::vector<long>{4});
-    table.allowMultipleSelection();
-    table.clickWithCommand(1);
-    EXPECT_EQ(table.selectedRows(), (std::vector<long>{1, 4}));
-    table.clickWithCommand(4);
-    EXPECT_EQ(table.selectedRows(), std::vector<long>{1});
-    table.clickWithShift(3);
-    EXPECT_EQ(table.selectedRows(), (std::vector<long>{1, 2, 3}));
-}

@@ -51,7 +51,7 @@ NSPoint placeOf(DropSpot spot) {
 void moveMouse(NSPoint place) {
     const NSPoint onScreen = [settingsWindow() convertBaseToScreen:place];
     [GSCurrentServer() setMouseLocation:onScreen onScreen:0];
-    postMouse(settingsWindow(), NSEventTypeLeftMouseDragged, place);
+    postMouse(settingsWindow(), NSLeftMouseDragged, place);
 }
 
 const NSPoint outside = NSMakePoint(20, 120);
@@ -93,7 +93,7 @@ const NSPoint outside = NSMakePoint(20, 120);
     [[settingsWindow() contentView] dragImage:image
                                            at:outside
                                        offset:NSZeroSize
-                                        event:mouseEvent(settingsWindow(), NSEventTypeLeftMouseDown, outside)
+                                        event:mouseEvent(settingsWindow(), NSLeftMouseDown, outside)
                                    pasteboard:pasteboard
                                        source:self
                                     slideBack:NO];
@@ -106,7 +106,7 @@ const NSPoint outside = NSMakePoint(20, 120);
 }
 
 - (void)goOn:(NSTimer *)timer {
-    NSEvent *waiting = [NSApp nextEventMatchingMask:NSEventMaskAny
+    NSEvent *waiting = [NSApp nextEventMatchingMask:NSAnyEventMask
                                           untilDate:nil
                                              inMode:NSEventTrackingRunLoopMode
                                             dequeue:NO];
@@ -129,7 +129,7 @@ const NSPoint outside = NSMakePoint(20, 120);
     if (_result.wasHighlighted && !_returns) {
         tarnwick::gui::takePicture("drop-on-page-" + std::to_string(tarnwick::gui::shownPage() + 1));
     }
-    postMouse(settingsWindow(), NSEventTypeLeftMouseUp, _returns ? outside : _spot);
+    postMouse(settingsWindow(), NSLeftMouseUp, _returns ? outside : _spot);
 }
 
 @end

@@ -19,7 +19,7 @@ NSTextField *firstLabel(NSView *view) {
 }
 
 bool eventsAreWaiting() {
-    return [NSApp nextEventMatchingMask:NSEventMaskAny
+    return [NSApp nextEventMatchingMask:NSAnyEventMask
                               untilDate:nil
                                  inMode:NSModalPanelRunLoopMode
                                 dequeue:NO] != nil;

@@ -17,9 +17,7 @@
 
 /// Colours are NSColor objects, see `-[NSColor CGColor]`; a null colour draws nothing.
 - (void)setBackgroundColor:(CGColorRef)color;
-- (CGColorRef)backgroundColor;
 - (void)setCornerRadius:(CGFloat)radius;
-- (CGFloat)cornerRadius;
 
 /// Fills the view's bounds.
 - (void)drawInBounds:(NSRect)bounds;

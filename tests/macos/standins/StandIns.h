@@ -44,6 +44,12 @@ typedef struct CGImage *CGImageRef;
               usingBlock:(void (^)(NSNotification *notification))block;
 @end
 
+typedef struct {
+    NSInteger majorVersion;
+    NSInteger minorVersion;
+    NSInteger patchVersion;
+} NSOperatingSystemVersion;
+
 @interface StandInProcessInfo : NSObject
 + (StandInProcessInfo *)processInfo;
 - (BOOL)isOperatingSystemAtLeastVersion:(NSOperatingSystemVersion)version;
