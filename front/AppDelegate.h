@@ -6,7 +6,7 @@ namespace tarnwick {
 class ApplicationDelegate;
 } // namespace tarnwick
 
-/// The application delegate as AppKit sees it; hands everything to the core's.
+/// The application delegate as AppKit sees it, whose names are fixed; hands everything to the core's.
 @interface AppDelegate : NSObject <NSApplicationDelegate> {
 @private
     NSWindow *_window;

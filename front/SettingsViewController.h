@@ -15,8 +15,9 @@ class OutletWindow;
 @class LinkButton;
 
 /// The controller of the settings window as AppKit sees it: carries the exact selectors that controls, tables
-/// and text fields send, and hands each to the core in one line. Whoever builds the window sets its outlets;
-/// they live as long as the view. A missing one makes the step that needs it do nothing.
+/// and text fields send, whose names are fixed, and hands each to the core in one line. Whoever builds the
+/// window sets its outlets; they live as long as the view. A missing one makes the step that needs it do
+/// nothing.
 @interface SettingsViewController : NSViewController {
 @private
     std::unique_ptr<tarnwick::OutletWindow> _window;
