@@ -68,9 +68,9 @@ Values valuesWithRow(bool on) {
 
 @end
 
-int main(int argc, char *argv[]) {
+int main() {
     @autoreleasepool {
-        TNPrepareProcess(argc, argv);
+        TNPrepareProcess({.identifier = @"org.halvane.Tarnwick"});
         [NSApplication sharedApplication];
         NSWindow *window = [[NSWindow alloc] initWithContentRect:NSMakeRect(100, 100, 300, 200)
                                                        styleMask:NSWindowStyleMaskTitled

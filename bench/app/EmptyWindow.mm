@@ -44,10 +44,10 @@ void copyFiles(NSString *listFile) {
 
 @end
 
-int main([[maybe_unused]] int argc, [[maybe_unused]] char *argv[]) {
+int main() {
     @autoreleasepool {
 #ifdef TARNWICK_BENCH_WITH_LAYER
-        TNPrepareProcess(argc, argv);
+        TNPrepareProcess({.identifier = @"org.halvane.Tarnwick"});
 #endif
         [NSApplication sharedApplication];
         NSWindow *window = [[NSWindow alloc] initWithContentRect:NSMakeRect(100, 100, 800, 500)

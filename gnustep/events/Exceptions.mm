@@ -6,12 +6,13 @@
 #import <Foundation/Foundation.h>
 
 #include <cstdio>
-#include <cstdlib>
 #include <unistd.h>
 
 namespace {
 
 constexpr int softwareErrorStatus = 70;
+
+TNAfterException afterException = TNAfterException::goesOn;
 
 void reportUncaught(NSException *exception) {
     TNReportException(exception);
@@ -24,11 +25,12 @@ void TNReportException(NSException *exception) {
     std::fprintf(stderr, "Uncaught exception %s: %s\n", [[exception name] UTF8String],
         [[exception reason] UTF8String]);
     std::fflush(stderr);
-    if (std::getenv("TARNWICK_STRICT_EXCEPTIONS")) {
+    if (afterException == TNAfterException::ends) {
         _exit(softwareErrorStatus);
     }
 }
 
-void TNInstallExceptionReporting() {
+void TNInstallExceptionReporting(TNAfterException after) {
+    afterException = after;
     NSSetUncaughtExceptionHandler(reportUncaught);
 }

@@ -2,7 +2,6 @@
 // knows no fonts for Chinese text, and creates a plain application object.
 
 #import "TNStartUp.h"
-#import "gnustep/events/Signals.h"
 
 #import "TNApplication.h"
 #import "gnustep/defaults/DefaultsFiles.h"
@@ -11,19 +10,19 @@
 #import "gnustep/defaults/SuiteDefaults.h"
 #import "gnustep/events/EventPump.h"
 #import "gnustep/events/Exceptions.h"
+#import "gnustep/events/Signals.h"
 #import "gnustep/start/Languages.h"
+#import "gnustep/start/Workspace.h"
 #import "gnustep/theme/ImageReaders.h"
 
 #include <cstdlib>
 
 namespace {
 
-NSString *const processName = @"org.halvane.Tarnwick";
-
-void prepareDefaultsFile() {
+void prepareDefaultsFile(NSString *domain) {
     TNRemoveStaleLocks();
     // Only to have a damaged file out of the way before it would be overwritten.
-    TNReadSettingsFile(TNSettingsFileOf(processName));
+    TNReadSettingsFile(TNSettingsFileOf(domain));
 }
 
 /// `han` is the font of Chinese characters, without its weight.
@@ -63,11 +62,11 @@ void writeDefaultsAtExit() {
 
 } // namespace
 
-void TNPrepareProcess(int, char **) {
+void TNPrepareProcess(const TNProgram &program) {
     @autoreleasepool {
-        [[NSProcessInfo processInfo] setProcessName:processName];
+        [[NSProcessInfo processInfo] setProcessName:program.identifier];
         TNKeepParsedSettings();
-        prepareDefaultsFile();
+        prepareDefaultsFile(program.identifier);
         TNUseLanguagesOfUser();
         NSArray *languages = [[NSUserDefaults standardUserDefaults] stringArrayForKey:@"NSLanguages"];
         NSString *han = TNHanFontForLanguages(languages);
@@ -78,7 +77,9 @@ void TNPrepareProcess(int, char **) {
         [TNApplication sharedApplication];
         TNInstallEventPump();
         TNInstallSignalHandling();
-        TNInstallExceptionReporting();
+        TNInstallExceptionReporting(
+            program.endsAtExceptions ? TNAfterException::ends : TNAfterException::goesOn);
+        TNUseOpener(program.opener);
         // Before any text is drawn: a failed substitution of a Chinese character is remembered for the whole
         // run.
         [NSFont setPreferredFontNames:[NSArray arrayWithObject:[han stringByAppendingString:@"-Regular"]]];

@@ -1,11 +1,11 @@
 // Missing: opening in other applications and news of them. NSWorkspace of GNUstep GUI 0.29 shows a modal
 // panel for a web address, opens nothing else, and never tells of activations.
 
+#import "gnustep/start/Workspace.h"
+
 #import "TNConstants.h"
 
 #import "gnustep/runtime/MethodReplacement.h"
-
-#include <cstdlib>
 
 NSString *const NSWorkspaceDidActivateApplicationNotification =
     @"NSWorkspaceDidActivateApplicationNotification";
@@ -14,19 +14,12 @@ NSString *const NSWorkspaceDidDeactivateApplicationNotification =
 
 namespace {
 
-/// The desktop's opener, or the program that TARNWICK_OPENER names.
-NSString *opener() {
-    const char *configured = std::getenv("TARNWICK_OPENER");
-    if (configured && *configured) {
-        return [NSString stringWithUTF8String:configured];
-    }
-    return @"/usr/bin/xdg-open";
-}
+NSString *opener = @"/usr/bin/xdg-open";
 
 /// Whether the opener could be started; it is not waited for.
 BOOL openInOpener(NSString *argument) {
     @try {
-        [NSTask launchedTaskWithLaunchPath:opener() arguments:[NSArray arrayWithObject:argument]];
+        [NSTask launchedTaskWithLaunchPath:opener arguments:[NSArray arrayWithObject:argument]];
         return YES;
     } @catch (NSException *exception) {
         NSLog(@"%@ could not be opened: %@", argument, [exception reason]);
@@ -43,6 +36,13 @@ BOOL openFile(id, SEL, NSString *path) {
 }
 
 } // namespace
+
+void TNUseOpener(NSString *path) {
+    if (path) {
+        // For the life of the process.
+        opener = [path copy];
+    }
+}
 
 @interface NSWorkspace (TNOpening)
 @end

@@ -1,6 +1,6 @@
 #include "AppearanceProbe.h"
 
-#import "TNStartUp.h"
+#include "Probe.h"
 
 #import <AppKit/AppKit.h>
 
@@ -54,7 +54,7 @@ double ink(NSBitmapImageRep *pixels) {
 
 double inkOfBareTabView() {
     @autoreleasepool {
-        TNPrepareProcess(0, nullptr);
+        startUp();
         NSTabView *tabs = [[[NSTabView alloc] initWithFrame:NSMakeRect(10, 10, 150, 80)] autorelease];
         [tabs setTabViewType:NSNoTabsNoBorder];
         for (NSString *label in [NSArray arrayWithObjects:@"One", @"Two", nil]) {
@@ -68,7 +68,7 @@ double inkOfBareTabView() {
 
 double darknessOfCheckBox(bool enabled) {
     @autoreleasepool {
-        TNPrepareProcess(0, nullptr);
+        startUp();
         NSButton *box = [[[NSButton alloc] initWithFrame:NSMakeRect(10, 10, 18, 18)] autorelease];
         [box setButtonType:NSButtonTypeSwitch];
         [box setTitle:@""];
@@ -85,7 +85,7 @@ double darknessOfCheckBox(bool enabled) {
 
 bool folderPictureSurvivesScaling() {
     @autoreleasepool {
-        TNPrepareProcess(0, nullptr);
+        startUp();
         NSImage *icon = [[NSWorkspace sharedWorkspace] iconForFile:@"/usr"];
         NSImage *small = [[[NSImage alloc] initWithSize:NSMakeSize(side, side)] autorelease];
         [small lockFocus];

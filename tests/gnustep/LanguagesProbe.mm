@@ -3,7 +3,6 @@
 #include "Files.h"
 #include "Probe.h"
 
-#import "TNStartUp.h"
 #import "gnustep/start/Languages.h"
 
 #import <Foundation/Foundation.h>
@@ -26,7 +25,7 @@ std::vector<std::string> strings(NSArray *array) {
 
 std::vector<std::string> languagesAfterStartUp() {
     @autoreleasepool {
-        TNPrepareProcess(0, nullptr);
+        startUp();
         return strings([[NSUserDefaults standardUserDefaults] stringArrayForKey:@"NSLanguages"]);
     }
 }
@@ -49,7 +48,7 @@ std::string greetingFromTables(const std::vector<std::string> &tables) {
             mkdir(table.c_str(), 0700);
             writeContent(table + "/Localizable.strings", "\xEF\xBB\xBF\"Hello\" = \"" + language + "\";\n");
         }
-        TNPrepareProcess(0, nullptr);
+        startUp();
         NSBundle *bundle = [NSBundle bundleWithPath:[NSString stringWithUTF8String:folder.c_str()]];
         return [[bundle localizedStringForKey:@"Hello" value:@"" table:nil] UTF8String];
     }

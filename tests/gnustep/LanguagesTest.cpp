@@ -75,7 +75,7 @@ TEST(Languages, NothingIsWritten) {
     useEnvironment("fr", "");
     EXPECT_EXIT(
         {
-            startUp(0, nullptr);
+            startUp();
             std::exit(0);
         },
         testing::ExitedWithCode(0), "");

@@ -11,11 +11,7 @@ constexpr std::size_t large = 100'000;
 
 class ParsedSettings : public testing::Test {
 protected:
-    void SetUp() override {
-        char name[] = "test";
-        char* arguments[] = {name, nullptr};
-        startUp(1, arguments);
-    }
+    void SetUp() override { startUp(); }
 };
 
 } // namespace

@@ -42,7 +42,7 @@ bool waitForFile(const std::string& path);
 std::vector<std::string> observedChanges();
 
 /// The start-up of a program, in this process, and what the standard domain then holds.
-void startUp(int argc, char** argv);
+void startUp();
 std::string standardString(const std::string& key);
 void setStandardString(const std::string& key, const std::string& value);
 bool synchronizeStandardDomain();

@@ -4,8 +4,11 @@
 
 namespace tarnwick::probe {
 
-void startUp(int argc, char **argv) {
-    TNPrepareProcess(argc, argv);
+void startUp() {
+    @autoreleasepool {
+        TNPrepareProcess(
+            {.identifier = @"org.halvane.Tarnwick", .opener = @"/bin/true", .endsAtExceptions = true});
+    }
 }
 
 std::string standardString(const std::string &key) {

@@ -18,12 +18,6 @@ std::string standardFile() {
     return defaultsFolder() + "/org.halvane.Tarnwick.plist";
 }
 
-void startUp() {
-    char name[] = "test";
-    char* arguments[] = {name, nullptr};
-    tarnwick::probe::startUp(1, arguments);
-}
-
 } // namespace
 
 TEST(StartUp, NamesTheSettingsFileAfterTheApplication) {

@@ -11,7 +11,7 @@ int main(int argc, char *argv[]) {
         return synchronizeSuite(argv[1]) ? 0 : 1;
     }
     if (argc == 5 && std::string(argv[1]) == "--exit") {
-        startUp(argc, argv);
+        startUp();
         setSuiteString(argv[2], argv[3], argv[4]);
         setStandardString(argv[3], argv[4]);
         return 0;

@@ -1,9 +1,9 @@
 #include "TableProbe.h"
 
 #include "LettingGo.h"
+#include "Probe.h"
 #include "TableModel.h"
 
-#import "TNStartUp.h"
 #import "tests/driving/Driving.h"
 
 #import <GNUstepGUI/GSDisplayServer.h>
@@ -79,7 +79,7 @@ void TableWindow::Parts::build(long rows) {
 
 TableWindow::TableWindow(long rows) : parts_(std::make_unique<Parts>()) {
     @autoreleasepool {
-        TNPrepareProcess(0, nullptr);
+        startUp();
         [NSApp finishLaunching];
         parts_->build(rows);
         [parts_->window makeKeyAndOrderFront:nil];

@@ -1,6 +1,7 @@
 #include "WindowProbe.h"
 
-#import "TNStartUp.h"
+#include "Probe.h"
+
 #import "tests/driving/Driving.h"
 
 #import <QuartzCore/QuartzCore.h>
@@ -199,7 +200,7 @@ namespace tarnwick::probe {
 
 WindowResult runWindow(int clicks) {
     @autoreleasepool {
-        TNPrepareProcess(0, nullptr);
+        startUp();
         TNWindowScript *script = [[TNWindowScript alloc] init];
         script->clicksWanted = clicks;
         [script build];
