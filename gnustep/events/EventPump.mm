@@ -1,7 +1,8 @@
-// Missing: prompt events. The run loop of GNUstep Base 1.28 goes to sleep although events have been read into
-// the queue. And GNUstep GUI 0.29, when it is activated, runs a nested loop that waits for a connection and
-// reads events on the way, which can queue a mouse-up before its mouse-down. Here every event that enters the
-// queue writes to a descriptor that the run loop watches, and the nested loop reads no events.
+// Missing: prompt events, as of GNUstep Base 1.28, whose run loop goes to sleep although events have been
+// read into the queue. And GNUstep GUI 0.29, when it is activated, runs a nested loop that waits for a
+// connection and reads events on the way, which can queue a mouse-up before its mouse-down. Here every event
+// that enters the queue writes to a descriptor that the run loop watches, and the nested loop reads no
+// events.
 
 #import "gnustep/events/EventPump.h"
 

@@ -1,5 +1,5 @@
-// Missing: reports of exceptions in event handlers. `-[NSApplication run]` of GNUstep GUI 0.29 drops them
-// unless the default NSExceptionHandlerMask is 1, and shows a modal panel for those outside the loop.
+// Missing: reports of exceptions in event handlers, as of GNUstep GUI 0.29: `-[NSApplication run]` drops them
+// unless the default NSExceptionHandlerMask is 1, and those outside the loop bring up a modal panel.
 
 #import "gnustep/events/Exceptions.h"
 

@@ -1,6 +1,6 @@
-// Missing: patience with events that are no longer there. When a handler runs the run loop, GNUstep Base 1.28
-// may give a listening port the same event twice, and the second time it waits for a connection, for ever: a
-// busy program stands still as soon as another instance of it starts. Here the second one finds none.
+// Wrong: a busy program stands still as soon as another instance of it starts, as of GNUstep Base 1.28. When
+// a handler runs the run loop, a listening port may be given the same event twice, and the second time it
+// waits for a connection, for ever. Here the second one finds none.
 
 #import "gnustep/runtime/MethodReplacement.h"
 

@@ -1,6 +1,6 @@
-// Wrong: what happens at SIGTERM and SIGINT, as of GNUstep Back 0.29. Its handler sends messages, which take
-// locks that the interrupted code may hold: the program then hangs or runs in circles. Here the handler only
-// writes a byte, and the run loop does the rest.
+// Wrong: SIGTERM and SIGINT may hang a program, as of GNUstep Back 0.29. Its handler sends messages, which
+// take locks that the interrupted code may hold: the program then hangs or runs in circles. Here the handler
+// only writes a byte, and the run loop does the rest.
 
 #import "gnustep/events/Signals.h"
 

@@ -1,6 +1,6 @@
-// Missing: working blocks. The block runtime in GNUstep Base 1.28 is a stub, and Debian 12's libBlocksRuntime
-// does not retain captured objects either; with both, a message to a block crashes. This is clang's published
-// block ABI in the program itself, where the GNUstep libraries find it before their own.
+// Missing: working blocks, as of GNUstep Base 1.28, whose block runtime is a stub. Debian 12's
+// libBlocksRuntime does not retain captured objects either; with both, a message to a block crashes. This is
+// clang's published block ABI in the program itself, where the GNUstep libraries find it before their own.
 
 #import <Foundation/Foundation.h>
 

@@ -1,5 +1,5 @@
-// Missing: the list of running applications. `runningApplicationsWithBundleIdentifier:` of GNUstep GUI 0.29
-// gives nil; nothing on this platform knows bundle identifiers of other programs, so the list is empty.
+// Missing: the list of running applications, as of GNUstep GUI 0.29, which gives nil for it. Nothing on this
+// platform knows bundle identifiers of other programs, so the list is empty.
 
 #import <AppKit/AppKit.h>
 

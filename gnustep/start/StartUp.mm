@@ -1,5 +1,5 @@
-// Missing: what a program on macOS finds prepared. GNUstep names the defaults file after the executable,
-// knows no fonts for Chinese text, and creates a plain application object.
+// Missing: what a program on macOS finds prepared, as of GNUstep Base 1.28 and GUI 0.29: they name the
+// defaults file after the executable, know no fonts for Chinese text, and make a plain application object.
 
 #import "TNStartUp.h"
 

@@ -1,5 +1,5 @@
-// Missing: opening in other applications and news of them. NSWorkspace of GNUstep GUI 0.29 shows a modal
-// panel for a web address, opens nothing else, and never tells of activations.
+// Missing: opening in other applications and news of them, as of GNUstep GUI 0.29, whose NSWorkspace shows a
+// modal panel for a web address, opens nothing else, and never tells of activations.
 
 #import "gnustep/start/Workspace.h"
 

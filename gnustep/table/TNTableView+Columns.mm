@@ -1,5 +1,5 @@
-// The widths of columns. GNUstep GUI 0.29 gives what the table gains or loses to the last column, whatever
-// the columns' resizing masks are.
+// Wrong: the widths of columns in a table that grows or shrinks, as of GNUstep GUI 0.29, which gives all that
+// is gained or lost to the last one, whatever the columns' resizing masks are.
 
 #import "TNTableView.h"
 

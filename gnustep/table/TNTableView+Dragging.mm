@@ -1,6 +1,7 @@
-// Dragging rows. GNUstep proposes row -1 below the last row, draws its mark under the cells and leaves it
-// behind; here the mark is a view above them, and drops are proposed as AppKit does: the outer quarters of a
-// row are the gaps, its middle the row itself, everything below the last row the last gap.
+// Wrong: the places and the mark of a drop on a table, as of GNUstep GUI 0.29. It proposes row -1 below the
+// last row, draws its mark under the cells and leaves it behind; here the mark is a view above them, and
+// drops are proposed as AppKit does: the outer quarters of a row are the gaps, its middle the row itself,
+// everything below the last row the last gap.
 
 #import "TNTableView.h"
 

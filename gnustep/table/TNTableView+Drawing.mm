@@ -1,5 +1,5 @@
-// The look of view-based tables. GNUstep GUI 0.29 never draws stripes, selects in a dark colour whether or
-// not the window is the key one, and draws cells.
+// Missing: stripes and a selection that dark text can be read on, as of GNUstep GUI 0.29, which selects in a
+// dark colour, whether or not the window is the key one, and draws cells.
 
 #import "TNTableView.h"
 

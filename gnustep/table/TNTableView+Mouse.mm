@@ -1,5 +1,5 @@
-// Mouse and editing in view-based tables. GNUstep's own handling edits cells, leaves a click in empty space
-// without effect, and sends no action from an empty table.
+// Missing: clicks and editing in view-based tables, as of GNUstep GUI 0.29, which edits cells, leaves a click
+// in empty space without effect, and sends no action from an empty table.
 
 #import "TNTableView.h"
 

@@ -1,5 +1,6 @@
-// Missing: views with layers, as of GNUstep GUI 0.29. A layer here is a background colour with round corners,
-// drawn ahead of a view that leaves `drawRect:` to NSView or NSControl, or calls it.
+// Missing: layers, for the background colours and round corners of views, as of GNUstep GUI 0.29. A layer
+// here is a background colour with round corners, drawn ahead of a view that leaves `drawRect:` to NSView or
+// NSControl, or calls it.
 
 #import <QuartzCore/QuartzCore.h>
 

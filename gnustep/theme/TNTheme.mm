@@ -1,5 +1,5 @@
-// The look of controls. GNUstep's own theme is that of another age; this one is flat and light, with thin
-// lines and round corners. Tables draw their rows themselves, in the same colours.
+// Wrong: the look of controls, which in GNUstep GUI 0.29 is that of another age. This theme is flat and
+// light, with thin lines and round corners. Tables draw their rows themselves, in the same colours.
 
 #import "TNTheme.h"
 

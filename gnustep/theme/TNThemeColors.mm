@@ -1,4 +1,4 @@
-// The colours of the theme, light and dark, and the system's named colours made of them.
+// Missing: colours for light and dark, as of GNUstep GUI 0.29; and the system's named colours made of them.
 
 #import "TNTheme.h"
 

@@ -1,7 +1,7 @@
-// Pictures that GNUstep draws from files in its own look: check boxes, the marks of menu items
-// and the arrow of the default button. They are drawn here in the theme's colours and take over the names.
-// What the theme never shows is blank: reading GNUstep's own file of one picture takes longer than drawing
-// them all.
+// Wrong: the pictures of check boxes, the marks of menu items and the arrow of the default button, which
+// GNUstep GUI 0.29 has in files and in its own look. They are drawn here in the theme's colours and take over
+// the names. What the theme never shows is blank: reading GNUstep's own file of one picture takes longer than
+// drawing them all.
 
 #import "TNTheme.h"
 

@@ -1,5 +1,5 @@
-// Missing: the ellipsis. GNUstep GUI 0.29 takes NSLineBreakByTruncatingTail but cuts a long line off in the
-// middle of a letter.
+// Missing: the ellipsis of a text that is too long, as of GNUstep GUI 0.29, which takes
+// NSLineBreakByTruncatingTail but cuts the line off in the middle of a letter.
 
 #import <AppKit/AppKit.h>
 

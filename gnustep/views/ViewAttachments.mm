@@ -1,4 +1,4 @@
-// Missing: a place for a view's further properties. The gcc runtime has no associated objects, and categories
+// Missing: a place for a view's further properties: the gcc runtime has no associated objects, and categories
 // cannot add instance variables.
 
 #import "gnustep/views/ViewAttachments.h"
