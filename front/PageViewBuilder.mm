@@ -25,6 +25,17 @@ constexpr CGFloat switchRowPitch = 26;
 constexpr CGFloat gap = 12;
 constexpr CGFloat buttonBarHeight = 28;
 
+/// The box as wide as its title needs, at the left of a view that takes the place it is given: what is right
+/// of the title is not to be clicked.
+NSView *makeSwitchPlace(PreferenceSwitch *box) {
+    [box sizeToFit];
+    [box setFrameSize:NSMakeSize(NSWidth([box frame]), switchHeight)];
+    NSView *place = [[[NSView alloc] initWithFrame:[box frame]] autorelease];
+    [box setAutoresizingMask:NSViewMaxXMargin];
+    [place addSubview:box];
+    return place;
+}
+
 /// Two to a row.
 void addSwitches(PageFrame &column, const PageLayout &layout) {
     const CGFloat half = column.width() / 2;
@@ -37,9 +48,9 @@ void addSwitches(PageFrame &column, const PageLayout &layout) {
         PreferenceSwitch *box = [[[PreferenceSwitch alloc] initWithTitle:localizedText(facts.title)
                                                                      key:toNSString(facts.key)] autorelease];
         [box setToolTip:localizedText(facts.toolTip)];
-        [box sizeToFit];
+        NSView *place = makeSwitchPlace(box);
         column.need(2 * (NSWidth([box frame]) + (right ? 0 : gap)));
-        column.place(box,
+        column.place(place,
             NSMakeRect(margin + (right ? half : 0), column.top(), right ? half : half - gap, switchHeight),
             (right ? NSViewMinXMargin : NSViewMaxXMargin) | NSViewWidthSizable | NSViewMinYMargin);
     }
@@ -57,7 +68,7 @@ void addEnableAllSwitch(PageFrame &column, const PageLayout &layout, const RuleA
     [box setFollowUpTarget:controller action:actions.enableAll];
     // In line with the check boxes of the rows below it.
     column.skip(switchHeight);
-    column.place(box, NSMakeRect(margin + 7, column.top(), column.width() - 7, switchHeight),
+    column.place(makeSwitchPlace(box), NSMakeRect(margin + 7, column.top(), column.width() - 7, switchHeight),
         NSViewWidthSizable | NSViewMinYMargin);
     column.skip(6);
 }

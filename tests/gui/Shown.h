@@ -22,6 +22,8 @@ namespace tarnwick::gui {
 [[nodiscard]] bool buttonIsEnabled(const std::string& title);
 /// Whether the visible check box with this title is on.
 [[nodiscard]] bool buttonIsOn(const std::string& title);
+/// How far the visible check box with this title, and the ring around it, reach beyond the title.
+[[nodiscard]] double roomRightOfTitle(const std::string& title);
 /// Whether a text field with just this text can be seen on the page that is shown.
 [[nodiscard]] bool showsText(const std::string& text);
 /// Whether a text field of the window is being edited.

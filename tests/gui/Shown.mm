@@ -62,6 +62,12 @@ bool buttonIsOn(const std::string &title) {
     return [buttonTitled(title) state] == NSControlStateValueOn;
 }
 
+double roomRightOfTitle(const std::string &title) {
+    NSButton *button = buttonTitled(title);
+    const CGFloat drawn = [[button image] size].width + [[[button cell] attributedTitle] size].width;
+    return NSWidth([button bounds]) - drawn;
+}
+
 bool showsText(const std::string &text) {
     NSString *wanted = toNSString(text);
     return firstView(pageView(), [wanted](NSView *view) {

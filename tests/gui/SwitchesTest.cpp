@@ -44,6 +44,13 @@ TEST(Switches, AnOptionSwitchIsMirroredIntoTheSuiteAsABoolean) {
     EXPECT_EQ(shared("d['disableAutoNameOfCreateNewFile']"), "True");
 }
 
+TEST(Switches, NoneIsWiderThanItsTitle) {
+    for (const auto* title : {"Show icons in the menu", "Open a new file right away", "Enable all templates"}) {
+        EXPECT_GE(roomRightOfTitle(title), 0);
+        EXPECT_LT(roomRightOfTitle(title), 8);
+    }
+}
+
 TEST(Switches, ATerminalSwitchStaysWithTheApplication) {
     clickPageButton(Page::others);
     clickButton("Open Terminal in a new window");
