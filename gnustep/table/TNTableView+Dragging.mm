@@ -13,6 +13,8 @@ namespace {
 
 constexpr CGFloat lineHeight = 2;
 constexpr CGFloat scrollMargin = 16;
+/// Of a dragged row: the line in a gap is seen beside it.
+constexpr CGFloat pictureWidth = 260;
 
 } // namespace
 
@@ -48,7 +50,8 @@ constexpr CGFloat scrollMargin = 16;
         ![source tableView:self writeRowsWithIndexes:rows toPasteboard:pasteboard]) {
         return;
     }
-    const NSRect frame = [self rectOfRow:static_cast<NSInteger>([rows firstIndex])];
+    NSRect frame = [self rectOfRow:static_cast<NSInteger>([rows firstIndex])];
+    frame.size.width = std::min(NSWidth(frame), pictureWidth);
     [self dragImage:[self pictureOfRect:NSIntersectionRect(frame, [self visibleRect])]
                  at:NSMakePoint(NSMinX(frame), NSMaxY(frame))
              offset:NSZeroSize
@@ -126,6 +129,8 @@ constexpr CGFloat scrollMargin = 16;
 }
 
 - (void)showDropMark:(BOOL)shown {
+    // Neither a view that moves nor one that goes has what was below it drawn again.
+    [self setNeedsDisplayInRect:[_dropMark frame]];
     if (!shown) {
         [_dropMark removeFromSuperview];
         return;
