@@ -1,25 +1,138 @@
-// Missing: the answer of an open panel that was begun with a block and left with OK, as of GNUstep GUI 0.29.
-// The panel here is modal for the application; as on macOS, beginning returns at once.
+// Wrong: what an open panel takes, as of GNUstep GUI 0.29. The full path of a file cannot be confirmed,
+// `Red.PNG` is no file of the type "png", the name of the folder that is shown stands in the field where
+// somebody begins to type, and extensions that are to be hidden are shown.
 
 #import <AppKit/AppKit.h>
 
-@interface NSOpenPanel (TNBegin)
+#import "gnustep/runtime/MethodReplacement.h"
+
+/// What the panel has of its own, without saying so.
+@interface NSSavePanel (TNPrivateMethods)
+- (void)_updateDefaultDirectory;
+- (BOOL)_shouldShowExtension:(NSString *)extension;
 @end
 
-@implementation NSOpenPanel (TNBegin)
+@interface NSOpenPanel (TNTypedPaths)
+- (void)tnEmptyNameField;
+/// A typed text as the path of something that may be chosen; nil when it is none.
+- (NSString *)tnChoosablePath:(NSString *)typed;
+/// Shows what a typed path leads to; NO when the text is not the path of something that may be chosen.
+- (BOOL)tnShowPath:(NSString *)typed;
+- (void)tnEndWithPath:(NSString *)path;
+@end
 
-- (void)beginWithCompletionHandler:(GSSavePanelCompletionHandler)handler {
-    id block = [[(id)handler copy] autorelease];
-    // In the default mode alone: one that the panel's own loop runs in would begin a second panel inside it.
-    [self performSelector:@selector(tnRunWithHandler:) withObject:block afterDelay:0];
+namespace {
+
+using SetUp = void (*)(id self, SEL command, NSString *path, NSString *name);
+using TextChanged = void (*)(id self, SEL command, NSNotification *notification);
+using Confirm = void (*)(id self, SEL command, id sender);
+using FileNames = NSArray *(*)(id self, SEL command);
+SetUp nativeSetUp = nullptr;
+TextChanged nativeTextChanged = nullptr;
+Confirm nativeConfirm = nullptr;
+FileNames nativeFileNames = nullptr;
+
+/// What was confirmed as a path that had been typed; nil when something was chosen from the list. There is
+/// one open panel.
+NSString *confirmedPath = nil;
+
+void confirmPath(NSString *path) {
+    [confirmedPath autorelease];
+    confirmedPath = [path copy];
 }
 
-- (void)tnRunWithHandler:(id)block {
-    const NSInteger answer = [self runModalForDirectory:[self directory]
-                                                   file:@""
-                                                  types:[self allowedFileTypes]];
-    auto handler = (GSSavePanelCompletionHandler)block;
-    handler(answer == NSModalResponseOK ? NSModalResponseOK : NSModalResponseCancel);
+void setUp(id self, SEL command, NSString *path, NSString *name) {
+    confirmPath(nil);
+    nativeSetUp(self, command, path, name);
+    if ([name length] == 0) {
+        [self tnEmptyNameField];
+    }
+}
+
+void textChanged(id self, SEL command, NSNotification *notification) {
+    NSString *typed = [[[notification userInfo] objectForKey:@"NSFieldEditor"] string];
+    if (![self tnShowPath:typed]) {
+        nativeTextChanged(self, command, notification);
+    }
+}
+
+void confirm(id self, SEL command, id sender) {
+    NSString *path = [self tnChoosablePath:[self nameFieldStringValue]];
+    if (path) {
+        confirmPath(path);
+        [self tnEndWithPath:path];
+    } else {
+        nativeConfirm(self, command, sender);
+    }
+}
+
+NSArray *fileNames(id self, SEL command) {
+    return confirmedPath ? [NSArray arrayWithObject:confirmedPath] : nativeFileNames(self, command);
+}
+
+BOOL showsExtension(id self, SEL, NSString *extension) {
+    if (![self canChooseFiles]) {
+        return NO;
+    }
+    NSArray *types = [self allowedFileTypes];
+    for (NSString *type in types) {
+        if ([type caseInsensitiveCompare:extension] == NSOrderedSame) {
+            return YES;
+        }
+    }
+    return !types;
+}
+
+} // namespace
+
+@implementation NSOpenPanel (TNTypedPaths)
+
++ (void)load {
+    nativeSetUp = TNReplaceMethod(self, @selector(_setupForDirectory:file:), setUp);
+    nativeTextChanged = TNReplaceMethod(self, @selector(controlTextDidChange:), textChanged);
+    nativeConfirm = TNReplaceMethod(self, @selector(ok:), confirm);
+    nativeFileNames = TNReplaceMethod(self, @selector(filenames), fileNames);
+    TNReplaceMethod(self, @selector(_shouldShowExtension:), showsExtension);
+}
+
+- (void)tnEmptyNameField {
+    [_form abortEditing];
+    [[_form cellAtIndex:0] setStringValue:@""];
+    [_form selectTextAtIndex:0];
+}
+
+- (NSString *)tnChoosablePath:(NSString *)typed {
+    if (![typed isAbsolutePath]) {
+        return nil;
+    }
+    NSString *path = [typed stringByExpandingTildeInPath];
+    BOOL isFolder = NO;
+    if (![[NSFileManager defaultManager] fileExistsAtPath:path isDirectory:&isFolder]) {
+        return nil;
+    }
+    const bool isFile = !isFolder || [[NSWorkspace sharedWorkspace] isFilePackageAtPath:path];
+    const bool mayBeChosen =
+        isFile ? [self _shouldShowExtension:[path pathExtension]] : [self canChooseDirectories];
+    return mayBeChosen ? path : nil;
+}
+
+- (BOOL)tnShowPath:(NSString *)typed {
+    NSString *path = [self tnChoosablePath:typed];
+    if (!path) {
+        return NO;
+    }
+    [_browser setPath:path];
+    [_okButton setEnabled:YES];
+    return YES;
+}
+
+- (void)tnEndWithPath:(NSString *)path {
+    [_directory autorelease];
+    _directory = [[path stringByDeletingLastPathComponent] copy];
+    [self _updateDefaultDirectory];
+    [NSApp stopModalWithCode:NSModalResponseOK];
+    [_okButton setEnabled:NO];
+    [self close];
 }
 
 @end

@@ -12,8 +12,10 @@
 #import "gnustep/events/Exceptions.h"
 #import "gnustep/events/Signals.h"
 #import "gnustep/start/Languages.h"
+#import "gnustep/start/Paths.h"
 #import "gnustep/start/Workspace.h"
 #import "gnustep/theme/ImageReaders.h"
+#import "gnustep/windows/FrameOffsets.h"
 
 #include <cstdlib>
 
@@ -65,6 +67,7 @@ void writeDefaultsAtExit() {
 void TNPrepareProcess(const TNProgram &program) {
     @autoreleasepool {
         [[NSProcessInfo processInfo] setProcessName:program.identifier];
+        TNUseUnixPaths();
         TNKeepParsedSettings();
         prepareDefaultsFile(program.identifier);
         TNUseLanguagesOfUser();
@@ -76,6 +79,7 @@ void TNPrepareProcess(const TNProgram &program) {
         TNUseBitmapReadersOnly();
         [TNApplication sharedApplication];
         TNInstallEventPump();
+        TNInstallFrameOffsets();
         TNInstallSignalHandling();
         TNInstallExceptionReporting(
             program.endsAtExceptions ? TNAfterException::ends : TNAfterException::goesOn);

@@ -65,7 +65,7 @@ NSBezierPath *TNThemeHairline(NSRect rect, CGFloat radius) {
     }
     const auto *colors = TNThemeCurrentColors();
     NSBezierPath *path = TNThemeHairline(NSInsetRect(frame, 0, 1), buttonRadius);
-    if (isDefaultButton(cell)) {
+    if (isDefaultButton(cell) && [cell isEnabled]) {
         [(isPressed(state) ? [colors->accent shadowWithLevel:0.15] : colors->accent) set];
         [path fill];
         return;
@@ -272,7 +272,7 @@ NSBezierPath *TNThemeHairline(NSRect rect, CGFloat radius) {
 - (NSColor *)textColor {
     const auto *colors = TNThemeCurrentColors();
     if (![self isEnabled]) {
-        return [colors->secondaryText colorWithAlphaComponent:0.6];
+        return colors->secondaryText;
     }
     return [self isBordered] && isDefaultButton(self) ? colors->accentText : colors->text;
 }

@@ -82,10 +82,10 @@ class Desktop:
 
     # The screen
 
-    def picture(self):
-        return subprocess.run(
-            ["import", "-window", "root", "-depth", "8", "ppm:-"], env=self.environment(), capture_output=True, check=True
-        ).stdout
+    def picture(self, window="root"):
+        """As a portable pixmap."""
+        command = ["import", "-window", window, "-depth", "8", "ppm:-"]
+        return subprocess.run(command, env=self.environment(), capture_output=True, check=True).stdout
 
     def keep_picture(self, path):
         subprocess.run(["import", "-window", "root", "-depth", "8", str(path)], env=self.environment(), check=True)

@@ -1,0 +1,122 @@
+// Wrong: the texts of open and save panels, as of GNUstep GUI 0.29, where the prompt stands before the name
+// field instead of on the default button, and a message is shown nowhere. A panel that is asked for anew has
+// none of the texts that it was given before.
+
+#import <AppKit/AppKit.h>
+
+#import "gnustep/runtime/MethodReplacement.h"
+#import "gnustep/views/ViewAttachments.h"
+
+#include <algorithm>
+#include <cmath>
+
+@interface NSSavePanel (TNTexts)
+- (void)tnResetTexts;
+- (void)tnSetPrompt:(NSString *)prompt;
+- (NSString *)tnPrompt;
+/// Below the title; made when it is first asked for.
+- (NSTextField *)tnMessageField;
+@end
+
+namespace {
+
+NSString *const standardPromptName = @"standardPrompt";
+constexpr CGFloat smallestPromptWidth = 71;
+constexpr CGFloat promptPadding = 24;
+constexpr CGFloat buttonGap = 8;
+
+using Reset = void (*)(id self, SEL command);
+Reset nativeReset = nullptr;
+
+void reset(id self, SEL command) {
+    nativeReset(self, command);
+    [self tnResetTexts];
+}
+
+void setPrompt(id self, SEL, NSString *prompt) {
+    [self tnSetPrompt:prompt];
+}
+
+NSString *prompt(id self, SEL) {
+    return [self tnPrompt];
+}
+
+void setMessage(id self, SEL, NSString *message) {
+    NSTextField *field = [self tnMessageField];
+    [field setStringValue:message ? message : @""];
+    [field setToolTip:message];
+}
+
+NSString *message(id self, SEL) {
+    return [[self tnMessageField] stringValue];
+}
+
+} // namespace
+
+@implementation NSSavePanel (TNTexts)
+
++ (void)load {
+    nativeReset = TNReplaceMethod(self, @selector(_resetDefaults), reset);
+    TNReplaceMethod(self, @selector(setPrompt:), setPrompt);
+    TNReplaceMethod(self, @selector(prompt), prompt);
+    TNReplaceMethod(self, @selector(setMessage:), setMessage);
+    TNReplaceMethod(self, @selector(message), message);
+}
+
+- (void)tnResetTexts {
+    [self setPrompt:nil];
+    [self setMessage:nil];
+    [self setExtensionHidden:NO];
+}
+
+- (NSString *)tnPrompt {
+    return [_okButton title];
+}
+
+/// What stands left of the default button makes room for a long one.
+- (void)tnSetPrompt:(NSString *)prompt {
+    if (!TNAttachment(_okButton, standardPromptName)) {
+        TNSetAttachment(_okButton, standardPromptName, [_okButton title]);
+    }
+    [_okButton setTitle:[prompt length] > 0 ? prompt : TNAttachment(_okButton, standardPromptName)];
+    NSRect frame = [_okButton frame];
+    const CGFloat wanted = [[[_okButton cell] attributedTitle] size].width + promptPadding;
+    const CGFloat width = std::max(smallestPromptWidth, std::ceil(wanted));
+    frame.origin.x = NSMaxX(frame) - width;
+    frame.size.width = width;
+    [_okButton setFrame:frame];
+    CGFloat right = NSMinX(frame) - buttonGap;
+    for (const NSInteger tag : {NSFileHandlingPanelCancelButton, NSFileHandlingPanelDiskEjectButton,
+             NSFileHandlingPanelDiskButton, NSFileHandlingPanelHomeButton}) {
+        NSView *button = [_bottomView viewWithTag:tag];
+        [button setFrameOrigin:NSMakePoint(right - NSWidth([button frame]), NSMinY([button frame]))];
+        right = NSMinX([button frame]) - buttonGap;
+    }
+    [_bottomView setNeedsDisplay:YES];
+}
+
+- (NSTextField *)tnMessageField {
+    NSString *const name = @"messageField";
+    NSTextField *field = TNAttachment(_topView, name);
+    if (!field) {
+        constexpr CGFloat height = 16;
+        constexpr CGFloat margin = 8;
+        const NSRect title = [_titleField frame];
+        const CGFloat width = NSMaxX([_topView bounds]) - NSMinX(title) - margin;
+        field = [[[NSTextField alloc]
+            initWithFrame:NSMakeRect(NSMinX(title), NSMinY(title) - height - 2, width, height)] autorelease];
+        // Nobody finds it in place of the button with the tag 0.
+        [field setTag:-1];
+        [field setSelectable:NO];
+        [field setDrawsBackground:NO];
+        [field setBezeled:NO];
+        [field setFont:[NSFont systemFontOfSize:11]];
+        [[field cell] setLineBreakMode:NSLineBreakByTruncatingTail];
+        [field setAutoresizingMask:NSViewMinYMargin | NSViewWidthSizable];
+        [_topView addSubview:field];
+        TNSetAttachment(_topView, name, field);
+    }
+    return field;
+}
+
+@end

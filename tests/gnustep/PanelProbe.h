@@ -1,0 +1,43 @@
+#pragma once
+
+#include <string>
+
+/// Open and save panels in a program that has started up.
+namespace tarnwick::probe {
+
+struct PanelTexts {
+    std::string button;
+    std::string message;
+    std::string nameLabel;
+    std::string title;
+    /// Whether the message can be seen in the panel.
+    bool showsMessage = false;
+    /// Whether the buttons at the foot stand beside one another.
+    bool buttonsAreApart = false;
+};
+
+/// A save panel's texts after it was given some.
+PanelTexts givenTexts(const std::string& title, const std::string& message, const std::string& prompt);
+/// The same, asked for once more.
+PanelTexts textsOfNextPanel();
+
+struct SaveAnswer {
+    long answer = -1;
+    int answers = 0;
+    std::string path;
+    bool beganAtOnce = false;
+    bool buttonWasEnabled = false;
+};
+/// Begins a save panel with a name in it, in a folder, and presses its default button.
+SaveAnswer saveAs(const std::string& folder, const std::string& name, const std::string& type);
+
+struct HiddenExtension {
+    /// The name field after the folder's only file has been selected.
+    std::string nameField;
+    /// How many pixels of the file's line in the list are not of its background.
+    int ink = 0;
+    std::string chosenPath;
+};
+HiddenExtension chooseOnlyFile(const std::string& folder, bool hidesExtension);
+
+} // namespace tarnwick::probe

@@ -1,0 +1,164 @@
+#include "PanelProbe.h"
+
+#include "Probe.h"
+
+#import "tests/driving/Driving.h"
+
+#include <functional>
+
+namespace tarnwick::probe {
+
+namespace {
+
+NSString *text(const std::string &string) {
+    return [NSString stringWithUTF8String:string.c_str()];
+}
+
+NSView *find(NSView *view, const std::function<bool(NSView *)> &matches) {
+    if (matches(view)) {
+        return view;
+    }
+    for (NSView *inner in [view subviews]) {
+        if (NSView *found = find(inner, matches)) {
+            return found;
+        }
+    }
+    return nil;
+}
+
+NSButton *buttonWithTag(NSWindow *panel, NSInteger tag) {
+    return (NSButton *)[[panel contentView] viewWithTag:tag];
+}
+
+bool standApart(NSWindow *panel) {
+    const NSInteger tags[] = {NSFileHandlingPanelHomeButton, NSFileHandlingPanelDiskButton,
+        NSFileHandlingPanelDiskEjectButton, NSFileHandlingPanelCancelButton, NSFileHandlingPanelOKButton};
+    double right = 0;
+    for (const auto tag : tags) {
+        const NSRect frame = [buttonWithTag(panel, tag) frame];
+        if (NSMinX(frame) < right) {
+            return false;
+        }
+        right = NSMaxX(frame);
+    }
+    return right <= NSWidth([[panel contentView] bounds]);
+}
+
+PanelTexts textsOf(NSSavePanel *panel) {
+    NSView *field = find([panel contentView], [panel](NSView *view) {
+        return [view isKindOfClass:[NSTextField class]] && [[panel message] length] > 0 &&
+               [[(NSTextField *)view stringValue] isEqualToString:[panel message]];
+    });
+    return {[[buttonWithTag(panel, NSFileHandlingPanelOKButton) title] UTF8String],
+        [[panel message] UTF8String],
+        [[panel nameFieldLabel] UTF8String],
+        [[panel title] UTF8String],
+        field && !NSIsEmptyRect([field visibleRect]),
+        standApart(panel)};
+}
+
+/// Runs the delayed start of a panel, whose loop then looks at the condition until it has passed.
+void runPanel(const std::function<void()> &whenUp) {
+    NSTimer *timer = [NSTimer timerWithTimeInterval:0.1
+                                             target:[NSBlockOperation blockOperationWithBlock:^{
+                                                 whenUp();
+                                             }]
+                                           selector:@selector(main)
+                                           userInfo:nil
+                                            repeats:NO];
+    [[NSRunLoop currentRunLoop] addTimer:timer forMode:NSModalPanelRunLoopMode];
+    driving::settle();
+}
+
+int inkOf(NSView *view, NSRect rect) {
+    [view lockFocus];
+    NSBitmapImageRep *pixels = [[[NSBitmapImageRep alloc] initWithFocusedViewRect:rect] autorelease];
+    [view unlockFocus];
+    const auto brightness = [pixels](NSInteger x, NSInteger y) {
+        NSColor *color = [[pixels colorAtX:x y:y] colorUsingColorSpaceName:NSCalibratedWhiteColorSpace];
+        return [color whiteComponent];
+    };
+    // The icon is left of the name.
+    constexpr NSInteger iconWidth = 20;
+    const double background = brightness([pixels pixelsWide] - 30, [pixels pixelsHigh] / 2);
+    int ink = 0;
+    for (NSInteger y = 1; y < [pixels pixelsHigh] - 1; ++y) {
+        for (NSInteger x = iconWidth; x < [pixels pixelsWide] - 30; ++x) {
+            ink += background - brightness(x, y) > 0.3 ? 1 : 0;
+        }
+    }
+    return ink;
+}
+
+} // namespace
+
+PanelTexts givenTexts(const std::string &title, const std::string &message, const std::string &prompt) {
+    @autoreleasepool {
+        startUp();
+        NSSavePanel *panel = [NSSavePanel savePanel];
+        [panel setTitle:text(title)];
+        [panel setMessage:text(message)];
+        [panel setPrompt:text(prompt)];
+        return textsOf(panel);
+    }
+}
+
+PanelTexts textsOfNextPanel() {
+    @autoreleasepool {
+        return textsOf([NSSavePanel savePanel]);
+    }
+}
+
+SaveAnswer saveAs(const std::string &folder, const std::string &name, const std::string &type) {
+    @autoreleasepool {
+        startUp();
+        __block SaveAnswer result;
+        NSSavePanel *panel = [NSSavePanel savePanel];
+        [panel setAllowedFileTypes:[NSArray arrayWithObject:text(type)]];
+        [panel setDirectoryURL:[NSURL fileURLWithPath:text(folder) isDirectory:YES]];
+        [panel setNameFieldStringValue:text(name)];
+        [panel beginWithCompletionHandler:^(NSInteger answer) {
+            result.answer = answer;
+            ++result.answers;
+            result.path = [[[panel URL] path] UTF8String];
+        }];
+        result.beganAtOnce = result.answers == 0 && ![panel isVisible];
+        SaveAnswer *const given = &result;
+        runPanel([panel, given] {
+            NSButton *button = buttonWithTag(panel, NSFileHandlingPanelOKButton);
+            given->buttonWasEnabled = [button isEnabled];
+            [button performClick:nil];
+            if ([panel isVisible]) {
+                [panel cancel:nil];
+            }
+        });
+        return result;
+    }
+}
+
+HiddenExtension chooseOnlyFile(const std::string &folder, bool hidesExtension) {
+    @autoreleasepool {
+        startUp();
+        HiddenExtension result;
+        NSOpenPanel *panel = [NSOpenPanel openPanel];
+        [panel setExtensionHidden:hidesExtension];
+        [panel setDirectoryURL:[NSURL fileURLWithPath:text(folder) isDirectory:YES]];
+        [panel beginWithCompletionHandler:^(NSInteger){
+        }];
+        runPanel([panel, &result] {
+            NSBrowser *browser = (NSBrowser *)[[panel contentView] viewWithTag:NSFileHandlingPanelBrowser];
+            const NSInteger column = [browser lastColumn];
+            NSMatrix *files = [browser matrixInColumn:column];
+            [panel display];
+            result.ink = inkOf(files, [files cellFrameAtRow:0 column:0]);
+            [browser selectRow:0 inColumn:column];
+            [browser sendAction];
+            result.nameField = [[panel nameFieldStringValue] UTF8String];
+            [panel ok:nil];
+        });
+        result.chosenPath = [[[[panel URLs] objectAtIndex:0] path] UTF8String];
+        return result;
+    }
+}
+
+} // namespace tarnwick::probe

@@ -1,0 +1,61 @@
+#include "Files.h"
+#include "PanelProbe.h"
+#include "Probe.h"
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+
+using namespace tarnwick::probe;
+
+namespace {
+
+std::string newFolder(const std::string& name) {
+    auto folder = libraryFolder() + "/" + name;
+    EXPECT_EQ(mkdir(folder.c_str(), 0700), 0);
+    return folder;
+}
+
+} // namespace
+
+TEST(Panel, ShowsItsTitleItsMessageAndItsPromptOnTheDefaultButton) {
+    const auto texts = givenTexts("Export", "Where to?", "Export These Settings");
+    EXPECT_EQ(texts.title, "Export");
+    EXPECT_EQ(texts.message, "Where to?");
+    EXPECT_TRUE(texts.showsMessage);
+    EXPECT_EQ(texts.button, "Export These Settings");
+    EXPECT_EQ(texts.nameLabel, "Name:");
+    EXPECT_TRUE(texts.buttonsAreApart);
+}
+
+TEST(Panel, HasNoneOfTheTextsOfTheOneBefore) {
+    static_cast<void>(givenTexts("Export", "Where to?", "Export These Settings"));
+    const auto texts = textsOfNextPanel();
+    EXPECT_EQ(texts.title, "Save");
+    EXPECT_EQ(texts.message, "");
+    EXPECT_EQ(texts.button, "OK");
+    EXPECT_TRUE(texts.buttonsAreApart);
+}
+
+TEST(Panel, GivesTheBlockTheNameToSaveAsWithItsExtension) {
+    const auto folder = newFolder("saved");
+    const auto result = saveAs(folder, "Backup \u00E9", "plist");
+    EXPECT_TRUE(result.beganAtOnce);
+    EXPECT_TRUE(result.buttonWasEnabled);
+    EXPECT_EQ(result.answers, 1);
+    EXPECT_EQ(result.answer, 1);
+    EXPECT_EQ(result.path, folder + "/Backup \u00E9.plist");
+}
+
+TEST(Panel, HidesExtensionsWhereItIsToldTo) {
+    const auto folder = newFolder("chosen");
+    writeContent(folder + "/Letter.document", "x");
+    const auto shown = chooseOnlyFile(folder, false);
+    const auto hidden = chooseOnlyFile(folder, true);
+    EXPECT_EQ(shown.nameField, "Letter.document");
+    EXPECT_EQ(hidden.nameField, "Letter");
+    EXPECT_LT(hidden.ink, 0.7 * shown.ink);
+    EXPECT_GT(hidden.ink, 0.2 * shown.ink);
+    EXPECT_EQ(shown.chosenPath, folder + "/Letter.document");
+    EXPECT_EQ(hidden.chosenPath, folder + "/Letter.document");
+}
