@@ -66,7 +66,8 @@ class Display:
     def __enter__(self):
         read_end, write_end = os.pipe()
         self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1280x900x24", "-nolisten", "tcp"],
+            # A server that resets itself when its only client goes ends those that are just coming.
+            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1280x900x24", "-nolisten", "tcp", "-noreset"],
             pass_fds=[write_end],
             stdout=subprocess.DEVNULL,
             stderr=subprocess.DEVNULL,

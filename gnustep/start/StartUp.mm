@@ -10,6 +10,7 @@
 #import "gnustep/defaults/SuiteDefaults.h"
 #import "gnustep/events/EventPump.h"
 #import "gnustep/events/Exceptions.h"
+#import "gnustep/events/ForeignDrags.h"
 #import "gnustep/events/Signals.h"
 #import "gnustep/start/Languages.h"
 #import "gnustep/start/Paths.h"
@@ -80,6 +81,7 @@ void TNPrepareProcess(const TNProgram &program) {
         [TNApplication sharedApplication];
         TNInstallEventPump();
         TNInstallFrameOffsets();
+        TNInstallForeignDrags();
         TNInstallSignalHandling();
         TNInstallExceptionReporting(
             program.endsAtExceptions ? TNAfterException::ends : TNAfterException::goesOn);

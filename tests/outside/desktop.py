@@ -41,6 +41,7 @@ class Desktop:
         self.stack.callback(self.user.remove)
         self.display = self.stack.enter_context(Display())
         self.start("openbox")
+        wait_until(self.has_window_manager, "the window manager")
 
     def __enter__(self):
         self.application = self.start(self.program)
@@ -65,6 +66,11 @@ class Desktop:
     def end(process):
         process.kill()
         process.wait(PATIENCE_SECONDS)
+
+    def has_window_manager(self):
+        command = ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"]
+        answer = subprocess.run(command, env=self.environment(), capture_output=True, text=True, check=False)
+        return "window id" in answer.stdout
 
     def xdotool(self, *arguments):
         answer = subprocess.run(
