@@ -16,6 +16,7 @@
 #import "gnustep/start/Paths.h"
 #import "gnustep/start/Workspace.h"
 #import "gnustep/theme/ImageReaders.h"
+#import "gnustep/theme/WideCharacters.h"
 #import "gnustep/windows/FrameOffsets.h"
 
 #include <cstdlib>
@@ -86,9 +87,12 @@ void TNPrepareProcess(const TNProgram &program) {
         TNInstallExceptionReporting(
             program.endsAtExceptions ? TNAfterException::ends : TNAfterException::goesOn);
         TNUseOpener(program.opener);
-        // Before any text is drawn: a failed substitution of a Chinese character is remembered for the whole
-        // run.
-        [NSFont setPreferredFontNames:[NSArray arrayWithObject:[han stringByAppendingString:@"-Regular"]]];
+        // Before any text is drawn: a failed substitution of a character is remembered for the whole run.
+        NSString *const everythingElse = @"DejaVuSans";
+        NSString *hanRegular = [han stringByAppendingString:@"-Regular"];
+        [NSFont setPreferredFontNames:[NSArray arrayWithObjects:hanRegular, everythingElse, nil]];
+        TNUseFontsForWideCharacters(
+            [NSArray arrayWithObjects:@"NotoColorEmoji", hanRegular, everythingElse, nil]);
         TNInstallTheme();
     }
 }
