@@ -3,7 +3,8 @@
 #import <CoreServices/CoreServices.h>
 #import <Foundation/Foundation.h>
 
-/// The bundle as one of the applications that start with the user's session. Failures are ignored.
+/// The bundle as one of the applications that start with the user's session; the names are fixed, also of
+/// what nothing here calls. Failures are ignored.
 @interface NSBundle (LoginItem)
 
 - (BOOL)isLoginItem;

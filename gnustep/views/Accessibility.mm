@@ -16,6 +16,7 @@ NSString *const labelName = @"accessibilityLabel";
     TNSetAttachment(self, labelName, [[label copy] autorelease]);
 }
 
+/// Ahead of its first caller: no assistive technology asks.
 - (NSString *)accessibilityLabel {
     return TNAttachment(self, labelName);
 }

@@ -90,6 +90,8 @@ class Source:
             return self._behind_angles(tokens, start + 1)
         if token in ("public", "private", "protected") and following == ":":
             return start + 2
+        if token in ("@synthesize", "@dynamic"):
+            return self._find(tokens, start, {";"})[1] + 1
         if token in ("@class", "@protocol") and self._find(tokens, start, {";", "-", "+", "@end"})[0] == ";":
             return self._find(tokens, start, {";"})[1] + 1
         if token in ("@interface", "@protocol"):
