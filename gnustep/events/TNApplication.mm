@@ -1,5 +1,5 @@
-// Missing: Return and Escape for a field that is being edited, reports of failing event handlers, and the
-// prompt end of a modal session, as of GNUstep GUI 0.29.
+// Missing: Return and Escape for a field that is being edited, context menus by the Control key, reports of
+// failing event handlers, and the prompt end of a modal session, as of GNUstep GUI 0.29.
 
 #import "TNApplication.h"
 
@@ -39,6 +39,22 @@
     return [responder isKindOfClass:[NSTextView class]] && [responder isFieldEditor] ? responder : nil;
 }
 
+/// Shows the menu of what was pressed together with the Control key, as the right button does. NO without
+/// one.
+- (BOOL)showMenuFor:(NSEvent *)event {
+    if ([event type] != NSLeftMouseDown || ([event modifierFlags] & NSControlKeyMask) == 0) {
+        return NO;
+    }
+    NSView *root = [[[event window] contentView] superview];
+    for (NSView *view = [root hitTest:[event locationInWindow]]; view; view = [view superview]) {
+        if (NSMenu *menu = [view menuForEvent:event]) {
+            [NSMenu popUpContextMenu:menu withEvent:event forView:view];
+            return YES;
+        }
+    }
+    return NO;
+}
+
 /// A default button would take Return away from the field that is being edited, and Escape asks GNUstep to
 /// complete the text.
 - (void)sendEvent:(NSEvent *)event {
@@ -50,7 +66,7 @@
         [editor keyDown:event];
     } else if (key == escape) {
         [editor doCommandBySelector:@selector(cancelOperation:)];
-    } else {
+    } else if (![self showMenuFor:event]) {
         [super sendEvent:event];
     }
 }

@@ -44,3 +44,10 @@
 /// Nil without a name. All handles of a name share their state.
 - (instancetype)initWithSuiteName:(NSString *)name;
 @end
+
+// PopUpMenus.mm
+@interface NSMenu (TNPopUp)
+/// Returns when the menu is closed again: YES after the action of the item that was chosen. The place is that
+/// of the item's upper left corner, the menu's without one; it is the screen's without a view.
+- (BOOL)popUpMenuPositioningItem:(NSMenuItem *)item atLocation:(NSPoint)location inView:(NSView *)view;
+@end

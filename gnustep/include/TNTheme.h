@@ -32,7 +32,7 @@ void TNThemeUseAppearance(TNThemeAppearance appearance);
 @interface TNTheme : GSTheme
 @end
 
-/// Draws the pictures of check boxes and of the marks of menu items in the current colours, under the
+/// Draws the pictures of check boxes in the current colours, under the
 /// names by which GNUstep asks for them.
 void TNThemeInstallImages();
 /// Those of the open panel and of pop-up buttons; part of the above.

@@ -1,4 +1,4 @@
-// Wrong: the pictures of check boxes, the marks of menu items and the arrow of the default button, which
+// Wrong: the pictures of check boxes, which
 // GNUstep GUI 0.29 has in files and in its own look. They are drawn here in the theme's colours and take over
 // the names. What the theme never shows is blank: reading GNUstep's own file of one picture takes longer than
 // drawing them all.
@@ -65,23 +65,6 @@ void installCheckBox(NSString *name, bool on) {
     });
 }
 
-void installMenuMarks() {
-    constexpr CGFloat size = 10;
-    TNThemeInstallImage(@"GSMenuSelected", NSMakeSize(size, size), ^(NSRect) {
-        NSBezierPath *tick = [NSBezierPath bezierPath];
-        [tick moveToPoint:NSMakePoint(1.5, 5)];
-        [tick lineToPoint:NSMakePoint(4, 2)];
-        [tick lineToPoint:NSMakePoint(8.5, 8.5)];
-        [tick setLineWidth:1.6];
-        [TNThemeCurrentColors()->text set];
-        [tick stroke];
-    });
-    TNThemeInstallImage(@"GSMenuMixed", NSMakeSize(size, size), ^(NSRect) {
-        [TNThemeCurrentColors()->text set];
-        NSRectFill(NSMakeRect(1.5, 4, 7, 1.6));
-    });
-}
-
 /// Nothing but a name.
 void installBlank(NSString *name) {
     NSBitmapImageRep *pixel = [[[NSBitmapImageRep alloc] initWithBitmapDataPlanes:nullptr
@@ -115,12 +98,12 @@ void TNThemeInstallImage(NSString *name, NSSize size, void (^drawing)(NSRect bou
 void TNThemeInstallImages() {
     installCheckBox(@"GSSwitch", false);
     installCheckBox(@"GSSwitchSelected", true);
-    installMenuMarks();
-    // The arrow of the default button, and the parts of a scroller.
+    // The arrow of the default button, the marks of menu items, and the parts of a scroller.
     for (NSString *name in
-        [NSArray arrayWithObjects:@"common_ret", @"common_retH", @"common_ArrowUp", @"common_ArrowUpH",
-                 @"common_ArrowDown", @"common_ArrowDownH", @"common_ArrowLeft", @"common_ArrowLeftH",
-                 @"common_ArrowRight", @"common_ArrowRightH", @"common_Dimple", @"common_DimpleHoriz", nil]) {
+        [NSArray arrayWithObjects:@"common_ret", @"common_retH", @"GSMenuSelected", @"GSMenuMixed",
+                 @"common_ArrowUp", @"common_ArrowUpH", @"common_ArrowDown", @"common_ArrowDownH",
+                 @"common_ArrowLeft", @"common_ArrowLeftH", @"common_ArrowRight", @"common_ArrowRightH",
+                 @"common_Dimple", @"common_DimpleHoriz", nil]) {
         installBlank(name);
     }
     TNThemeInstallPanelImages();

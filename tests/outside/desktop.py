@@ -33,6 +33,8 @@ def wait_until(condition, what):
 class Desktop:
     """One application in one user folder. Places are points of its window, counted from the upper left."""
 
+    title = "^Tarnwick$"
+
     def __init__(self, program, settings=None):
         self.program = pathlib.Path(program).resolve()
         self.user = Sandbox()
@@ -45,10 +47,13 @@ class Desktop:
 
     def __enter__(self):
         self.application = self.start(self.program)
-        self.window = wait_until(lambda: self.find("^Tarnwick$"), "the window")
-        wait_until(lambda: self.user.store(SHARED).exists(), "the published lists")
+        self.window = wait_until(lambda: self.find(self.title), "the window")
+        self.wait_until_ready()
         self.settle()
         return self
+
+    def wait_until_ready(self):
+        wait_until(lambda: self.user.store(SHARED).exists(), "the published lists")
 
     def __exit__(self, *_):
         self.stack.close()

@@ -1,0 +1,140 @@
+#include "MenuProbe.h"
+
+#include "Probe.h"
+
+#import "TNAdditions.h"
+#import "gnustep/menus/KeyLabels.h"
+#import "tests/driving/Driving.h"
+
+@interface TNMenuWitness : NSObject {
+@public
+    std::vector<std::string> events;
+}
+- (void)choose:(NSMenuItem *)item;
+@end
+
+@implementation TNMenuWitness
+
+- (void)choose:(NSMenuItem *)item {
+    events.push_back("chosen " + std::string([[item title] UTF8String]));
+}
+
+- (void)menuWillOpen:(NSMenu *)menu {
+    events.emplace_back("will open");
+}
+
+- (void)menuDidClose:(NSMenu *)menu {
+    events.emplace_back("did close");
+}
+
+- (BOOL)validateMenuItem:(NSMenuItem *)item {
+    return ![[item title] isEqualToString:@"One"];
+}
+
+@end
+
+namespace tarnwick::probe {
+
+namespace {
+
+NSUInteger maskOf(const Keys &keys) {
+    return NSCommandKeyMask | (keys.shift ? NSShiftKeyMask : 0U) | (keys.option ? NSAlternateKeyMask : 0U) |
+           (keys.control ? NSControlKeyMask : 0U);
+}
+
+NSMenuItem *makeItem(NSString *title, id target, NSString *key = @"") {
+    NSMenuItem *item = [[[NSMenuItem alloc] initWithTitle:title action:@selector(choose:)
+                                            keyEquivalent:key] autorelease];
+    [item setTarget:target];
+    return item;
+}
+
+NSMenuItem *itemWith(const Keys &keys, id target) {
+    NSMenuItem *item = makeItem(@"Item", target, [NSString stringWithUTF8String:keys.character.c_str()]);
+    [item setKeyEquivalentModifierMask:maskOf(keys)];
+    return item;
+}
+
+NSMenu *makeMenu(TNMenuWitness *witness) {
+    NSMenu *menu = [[[NSMenu alloc] initWithTitle:@"Menu"] autorelease];
+    [menu addItem:makeItem(@"One", witness)];
+    [menu addItem:[NSMenuItem separatorItem]];
+    [menu addItem:makeItem(@"Two", witness)];
+    NSMenu *submenu = [[[NSMenu alloc] initWithTitle:@"Three"] autorelease];
+    [submenu addItem:makeItem(@"Four", witness)];
+    [submenu addItem:makeItem(@"Five", witness)];
+    NSMenuItem *three = makeItem(@"Three", witness);
+    [three setSubmenu:submenu];
+    [menu addItem:three];
+    [menu setDelegate:(id)witness];
+    return menu;
+}
+
+} // namespace
+
+std::string keyLabel(const Keys &keys) {
+    @autoreleasepool {
+        return [TNKeyLabel(itemWith(keys, nil)) UTF8String];
+    }
+}
+
+std::string labelOfArrowUp() {
+    @autoreleasepool {
+        const unichar key = NSUpArrowFunctionKey;
+        NSMenuItem *item = makeItem(@"Item", nil, [NSString stringWithCharacters:&key length:1]);
+        return [TNKeyLabel(item) UTF8String];
+    }
+}
+
+bool isChosenBy(const Keys &item, const Keys &pressed) {
+    @autoreleasepool {
+        startUp();
+        TNMenuWitness *witness = [[[TNMenuWitness alloc] init] autorelease];
+        NSMenu *inner = [[[NSMenu alloc] initWithTitle:@"Inner"] autorelease];
+        [inner addItem:itemWith(item, witness)];
+        NSMenu *menu = [[[NSMenu alloc] initWithTitle:@"Outer"] autorelease];
+        NSMenuItem *holder = makeItem(@"Inner", witness);
+        [holder setSubmenu:inner];
+        [menu addItem:holder];
+        NSString *characters = [NSString stringWithUTF8String:pressed.character.c_str()];
+        NSEvent *event = [NSEvent keyEventWithType:NSKeyDown
+                                          location:NSZeroPoint
+                                     modifierFlags:maskOf(pressed)
+                                         timestamp:0
+                                      windowNumber:0
+                                           context:nil
+                                        characters:characters
+                       charactersIgnoringModifiers:characters
+                                         isARepeat:NO
+                                           keyCode:0];
+        [menu performKeyEquivalent:event];
+        return witness->events.size() == 1;
+    }
+}
+
+std::vector<std::string> popUpAndType(const std::u16string &characters) {
+    @autoreleasepool {
+        startUp();
+        [NSApp finishLaunching];
+        NSWindow *window = [[[NSWindow alloc] initWithContentRect:NSMakeRect(100, 300, 200, 100)
+                                                        styleMask:NSWindowStyleMaskTitled
+                                                          backing:NSBackingStoreBuffered
+                                                            defer:NO] autorelease];
+        [window setReleasedWhenClosed:NO];
+        [window makeKeyAndOrderFront:nil];
+        [NSApp activateIgnoringOtherApps:YES];
+        driving::waitUntil([window] { return [window isKeyWindow] && [NSApp isActive]; });
+        for (const char16_t character : characters) {
+            const auto unit = static_cast<unichar>(character);
+            driving::postKey(window, [NSString stringWithCharacters:&unit length:1]);
+        }
+        TNMenuWitness *witness = [[[TNMenuWitness alloc] init] autorelease];
+        const BOOL answer = [makeMenu(witness) popUpMenuPositioningItem:nil
+                                                             atLocation:NSMakePoint(0, 0)
+                                                                 inView:[window contentView]];
+        witness->events.emplace_back(answer ? "answer yes" : "answer no");
+        return witness->events;
+    }
+}
+
+} // namespace tarnwick::probe
