@@ -4,8 +4,6 @@
 
 #import "gnustep/defaults/DefaultsFiles.h"
 
-#import "gnustep/defaults/PropertyListValues.h"
-
 #import <Foundation/Foundation.h>
 
 #include <cerrno>
@@ -65,6 +63,14 @@ void removeStaleLock(NSString *lock) {
     }
 }
 
+NSDictionary *dictionaryIn(NSString *path) {
+    id list = [NSPropertyListSerialization propertyListWithData:[NSData dataWithContentsOfFile:path]
+                                                        options:NSPropertyListImmutable
+                                                         format:nullptr
+                                                          error:nullptr];
+    return [list isKindOfClass:[NSDictionary class]] ? list : nil;
+}
+
 } // namespace
 
 NSString *TNDefaultsFolder() {
@@ -99,7 +105,7 @@ NSDictionary *TNReadSettingsFile(NSString *path) {
         reportClosed(path);
         return nil;
     }
-    NSDictionary *content = TNDictionaryInFile(path);
+    NSDictionary *content = dictionaryIn(path);
     if (!content) {
         moveAside(path);
     }

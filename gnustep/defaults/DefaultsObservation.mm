@@ -15,23 +15,19 @@ using RemoveObject = void (*)(id self, SEL command, NSString *key);
 SetObject nativeSetObject = nullptr;
 RemoveObject nativeRemoveObject = nullptr;
 
-bool changes(id defaults, id value, NSString *key) {
-    id before = [defaults objectForKey:key];
-    return before != value && ![before isEqual:value];
-}
-
-void setObject(id self, SEL command, id given, NSString *key) {
-    id value = TNStorable(given);
-    if (!changes(self, value, key)) {
-        if (!TNIsSamePropertyList([self objectForKey:key], value)) {
-            nativeRemoveObject(self, @selector(removeObjectForKey:), key);
-        }
+void setObject(id self, SEL command, id value, NSString *key) {
+    id before = [self objectForKey:key];
+    if (TNIsSamePropertyList(before, value)) {
+        // It may stand in another domain than this program's own.
+        nativeSetObject(self, command, before, key);
+    } else if ([before isEqual:value]) {
+        nativeRemoveObject(self, @selector(removeObjectForKey:), key);
         nativeSetObject(self, command, value, key);
-        return;
+    } else {
+        [self willChangeValueForKey:key];
+        nativeSetObject(self, command, value, key);
+        [self didChangeValueForKey:key];
     }
-    [self willChangeValueForKey:key];
-    nativeSetObject(self, command, value, key);
-    [self didChangeValueForKey:key];
 }
 
 void removeObject(id self, SEL command, NSString *key) {

@@ -1,76 +1,99 @@
-// Missing: equality that tells a boolean from a number, as of GNUstep Base 1.28, where the two are equal; and
-// a cheap deep copy: parsing what was serialised, the other way to copy, takes seconds for a long list.
+// Missing: equality that tells a boolean from a number, and a letter with an accent from a letter and an
+// accent, as of GNUstep Base 1.28, where they are equal; and a cheap deep copy.
 
 #import "gnustep/defaults/PropertyListValues.h"
 
-#include "gnustep/defaults/NestingDepth.h"
+#import "gnustep/defaults/PropertyListKinds.h"
 
 #import <Foundation/Foundation.h>
 
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <vector>
+
 namespace {
 
-/// Far deeper than any settings are, and far from the end of the stack.
-constexpr std::size_t deepestNesting = 200;
-
-enum class Kind { boolean, integer, real, string, data, date, array, dictionary, none };
-
-Kind kindOfNumber(NSNumber *number) {
-    if ([number isKindOfClass:[[NSNumber numberWithBool:YES] class]]) {
-        return Kind::boolean;
-    }
-    const char type = *[number objCType];
-    return type == *@encode(float) || type == *@encode(double) ? Kind::real : Kind::integer;
-}
-
-Kind kindOf(id value) {
-    if ([value isKindOfClass:[NSNumber class]]) {
-        return kindOfNumber(value);
-    }
-    if ([value isKindOfClass:[NSString class]]) {
-        return Kind::string;
-    }
-    if ([value isKindOfClass:[NSData class]]) {
-        return Kind::data;
-    }
-    if ([value isKindOfClass:[NSDate class]]) {
-        return Kind::date;
-    }
-    if ([value isKindOfClass:[NSArray class]]) {
-        return Kind::array;
-    }
-    return [value isKindOfClass:[NSDictionary class]] ? Kind::dictionary : Kind::none;
-}
-
-NSArray *frozenArray(NSArray *array) {
-    NSMutableArray *copy = [NSMutableArray arrayWithCapacity:[array count]];
+/// Those whose parts are all as they were stay as they are.
+NSArray *frozenArray(NSArray *array, bool isMutable) {
+    std::vector<id> elements;
+    elements.reserve([array count]);
+    bool differs = isMutable;
     for (id element in array) {
         id frozen = TNFrozenCopy(element);
         if (!frozen) {
             return nil;
         }
-        [copy addObject:frozen];
+        differs = differs || frozen != element;
+        elements.push_back(frozen);
     }
-    return copy;
+    return differs ? [NSArray arrayWithObjects:elements.data() count:elements.size()] : array;
 }
 
-NSDictionary *frozenDictionary(NSDictionary *dictionary) {
-    NSMutableDictionary *copy = [NSMutableDictionary dictionaryWithCapacity:[dictionary count]];
+NSDictionary *frozenDictionary(NSDictionary *dictionary, bool isMutable) {
+    std::vector<id> keys;
+    std::vector<id> values;
+    bool differs = isMutable;
     for (id key in dictionary) {
-        id frozen = TNFrozenCopy([dictionary objectForKey:key]);
-        if (!frozen || kindOf(key) != Kind::string) {
+        id value = [dictionary objectForKey:key];
+        id frozen = TNFrozenCopy(value);
+        if (!frozen || TNListTypeOf(key).kind != TNListKind::string) {
             return nil;
         }
-        [copy setObject:frozen forKey:key];
+        differs = differs || frozen != value;
+        keys.push_back(key);
+        values.push_back(frozen);
     }
-    return copy;
+    return differs ? [NSDictionary dictionaryWithObjects:values.data() forKeys:keys.data() count:keys.size()]
+                   : dictionary;
+}
+
+bool isSameText(NSString *one, NSString *other) {
+    const NSUInteger length = [one length];
+    if (length != [other length]) {
+        return false;
+    }
+    constexpr NSUInteger portion = 256;
+    std::array<unichar, portion> mine;
+    std::array<unichar, portion> theirs;
+    for (NSUInteger place = 0; place < length; place += portion) {
+        const NSRange range = NSMakeRange(place, std::min(portion, length - place));
+        [one getCharacters:mine.data() range:range];
+        [other getCharacters:theirs.data() range:range];
+        if (!std::equal(mine.begin(), mine.begin() + range.length, theirs.begin())) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// A number that is none is the same as itself, and there are two zeros.
+bool isSameNumber(double one, double other) {
+    return std::isnan(one) ? bool(std::isnan(other))
+                           : one == other && std::signbit(one) == std::signbit(other);
+}
+
+bool isUnsigned(TNListKind kind) {
+    return kind == TNListKind::unsignedInteger;
+}
+
+bool isInteger(TNListKind kind) {
+    return kind == TNListKind::integer || isUnsigned(kind);
+}
+
+bool isSameInteger(NSNumber *one, bool oneIsUnsigned, NSNumber *other, bool otherIsUnsigned) {
+    // The same bits mean another number only where one is negative and the other beyond all signed ones.
+    const long long bits = [one longLongValue];
+    return bits == [other longLongValue] && (oneIsUnsigned == otherIsUnsigned || bits >= 0);
 }
 
 bool isSameArray(NSArray *one, NSArray *other) {
     if ([one count] != [other count]) {
         return false;
     }
-    for (NSUInteger index = 0; index < [one count]; ++index) {
-        if (!TNIsSamePropertyList([one objectAtIndex:index], [other objectAtIndex:index])) {
+    NSUInteger index = 0;
+    for (id element in one) {
+        if (!TNIsSamePropertyList(element, [other objectAtIndex:index++])) {
             return false;
         }
     }
@@ -89,91 +112,19 @@ bool isSameDictionary(NSDictionary *one, NSDictionary *other) {
     return true;
 }
 
-/// What XML, in which settings files are written, cannot hold: a file with one of these could not be read
-/// again.
-NSCharacterSet *unstorableCharacters() {
-    static NSCharacterSet *characters = nil;
-    if (!characters) {
-        NSMutableCharacterSet *set = [[NSMutableCharacterSet alloc] init];
-        [set addCharactersInRange:NSMakeRange(0, ' ')];
-        [set removeCharactersInString:@"\t\n\r"];
-        [set addCharactersInRange:NSMakeRange(0xFFFE, 2)];
-        characters = set;
-    }
-    return characters;
-}
-
-bool isStorable(id value) {
-    switch (kindOf(value)) {
-    case Kind::string:
-        return [value rangeOfCharacterFromSet:unstorableCharacters()].location == NSNotFound;
-    case Kind::array:
-        for (id element in value) {
-            if (!isStorable(element)) {
-                return false;
-            }
-        }
-        return true;
-    case Kind::dictionary:
-        for (id key in value) {
-            if (!isStorable(key) || !isStorable([value objectForKey:key])) {
-                return false;
-            }
-        }
-        return true;
-    default:
-        return true;
-    }
-}
-
-NSString *storableText(NSString *text) {
-    NSMutableString *result = [[text mutableCopy] autorelease];
-    NSRange found;
-    while ((found = [result rangeOfCharacterFromSet:unstorableCharacters()]).location != NSNotFound) {
-        [result replaceCharactersInRange:found withString:@"\uFFFD"];
-    }
-    return result;
-}
-
-id storableCopy(id value) {
-    switch (kindOf(value)) {
-    case Kind::string:
-        return storableText(value);
-    case Kind::array: {
-        NSMutableArray *copy = [NSMutableArray array];
-        for (id element in value) {
-            [copy addObject:storableCopy(element)];
-        }
-        return copy;
-    }
-    case Kind::dictionary: {
-        NSMutableDictionary *copy = [NSMutableDictionary dictionary];
-        for (id key in value) {
-            [copy setObject:storableCopy([value objectForKey:key]) forKey:storableCopy(key)];
-        }
-        return copy;
-    }
-    default:
-        return value;
-    }
-}
-
 } // namespace
 
-id TNStorable(id value) {
-    return isStorable(value) ? value : storableCopy(value);
-}
-
 id TNFrozenCopy(id value) {
-    switch (kindOf(value)) {
-    case Kind::array:
-        return frozenArray(value);
-    case Kind::dictionary:
-        return frozenDictionary(value);
-    case Kind::none:
+    const auto type = TNListTypeOf(value);
+    switch (type.kind) {
+    case TNListKind::array:
+        return frozenArray(value, type.isMutable);
+    case TNListKind::dictionary:
+        return frozenDictionary(value, type.isMutable);
+    case TNListKind::none:
         return nil;
     default:
-        return [[value copy] autorelease];
+        return type.isMutable ? [[value copy] autorelease] : value;
     }
 }
 
@@ -181,35 +132,29 @@ bool TNIsSamePropertyList(id one, id other) {
     if (one == other) {
         return true;
     }
-    const auto kind = kindOf(one);
-    if (!one || !other || kind != kindOf(other)) {
+    if (!one || !other) {
+        return false;
+    }
+    const auto kind = TNListTypeOf(one).kind;
+    const auto otherKind = TNListTypeOf(other).kind;
+    if (isInteger(kind) && isInteger(otherKind)) {
+        return isSameInteger(one, isUnsigned(kind), other, isUnsigned(otherKind));
+    }
+    if (kind != otherKind) {
         return false;
     }
     switch (kind) {
-    case Kind::array:
+    case TNListKind::string:
+        return isSameText(one, other);
+    case TNListKind::real:
+        return isSameNumber([one doubleValue], [other doubleValue]);
+    case TNListKind::date:
+        return isSameNumber([one timeIntervalSinceReferenceDate], [other timeIntervalSinceReferenceDate]);
+    case TNListKind::array:
         return isSameArray(one, other);
-    case Kind::dictionary:
+    case TNListKind::dictionary:
         return isSameDictionary(one, other);
     default:
         return [one isEqual:other];
     }
-}
-
-NSDictionary *TNDictionaryInFile(NSString *path) {
-    NSData *content = [NSData dataWithContentsOfFile:path];
-    if ([content length] == 0 || !tarnwick::nestsAtMost(deepestNesting,
-                                     static_cast<const std::uint8_t *>([content bytes]), [content length])) {
-        return nil;
-    }
-    id propertyList = nil;
-    @try {
-        propertyList = [NSPropertyListSerialization propertyListWithData:content
-                                                                 options:NSPropertyListImmutable
-                                                                  format:nullptr
-                                                                   error:nullptr];
-    } @catch (NSException *) {
-        // The parser raises for some of the contents that it refuses.
-        propertyList = nil;
-    }
-    return [propertyList isKindOfClass:[NSDictionary class]] ? propertyList : nil;
 }

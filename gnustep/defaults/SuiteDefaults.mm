@@ -30,7 +30,7 @@ void TNWriteAllSuites() {
 - (void)setObject:(id)value forKey:(NSString *)key {
     id copy = nil;
     if (value) {
-        copy = TNFrozenCopy(TNStorable(value));
+        copy = TNFrozenCopy(value);
         if (!copy) {
             [NSException raise:NSInvalidArgumentException format:@"The value of %@ is no property list", key];
         }

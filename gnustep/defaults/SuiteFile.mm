@@ -1,10 +1,10 @@
 #import "gnustep/defaults/SuiteFile.h"
 
 #import "gnustep/defaults/DefaultsFiles.h"
+#import "gnustep/defaults/FileReplacement.h"
 #import "gnustep/defaults/PropertyListValues.h"
 
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -33,43 +33,6 @@ public:
 private:
     int descriptor_;
 };
-
-bool writeAll(int descriptor, NSData *content) {
-    const auto *bytes = static_cast<const char *>([content bytes]);
-    std::size_t left = [content length];
-    while (left > 0) {
-        const auto written = write(descriptor, bytes, left);
-        if (written < 0 && errno == EINTR) {
-            continue;
-        }
-        if (written < 0) {
-            return false;
-        }
-        bytes += written;
-        left -= static_cast<std::size_t>(written);
-    }
-    return true;
-}
-
-/// Puts a file in place that is either the old one or wholly the new one, also after a power failure.
-bool replaceFile(NSString *path, NSData *content) {
-    NSString *temporary = [path stringByAppendingString:@".tmp"];
-    const char *temporaryPath = [temporary fileSystemRepresentation];
-    const int descriptor = open(temporaryPath, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, S_IRUSR | S_IWUSR);
-    if (descriptor < 0) {
-        return false;
-    }
-    const bool written = writeAll(descriptor, content) && fsync(descriptor) == 0;
-    const int writeError = errno;
-    close(descriptor);
-    if (written && std::rename(temporaryPath, [path fileSystemRepresentation]) == 0) {
-        return true;
-    }
-    const int error = written ? errno : writeError;
-    unlink(temporaryPath);
-    errno = error;
-    return false;
-}
 
 NSData *serialised(NSDictionary *content) {
     return [NSPropertyListSerialization dataWithPropertyList:content
@@ -175,7 +138,7 @@ void makeFolder(NSString *path) {
     }
     NSData *file = serialised(merged);
     const bool isClosed = TNSettingsFileIsClosed(_path);
-    if (!file || isClosed || !replaceFile(_path, file)) {
+    if (!file || isClosed || !TNReplaceFile(_path, file)) {
         if (!_isUnwritable) {
             NSLog(@"Settings file %@ cannot be written: %s", _path, std::strerror(errno));
         }

@@ -6,7 +6,6 @@
 #import "TNApplication.h"
 #import "gnustep/defaults/DefaultsFiles.h"
 #import "gnustep/defaults/DefaultsSchedule.h"
-#import "gnustep/defaults/ParsedSettings.h"
 #import "gnustep/defaults/SuiteDefaults.h"
 #import "gnustep/events/EventPump.h"
 #import "gnustep/events/Exceptions.h"
@@ -70,7 +69,6 @@ void TNPrepareProcess(const TNProgram &program) {
     @autoreleasepool {
         [[NSProcessInfo processInfo] setProcessName:program.identifier];
         TNUseUnixPaths();
-        TNKeepParsedSettings();
         prepareDefaultsFile(program.identifier);
         TNUseLanguagesOfUser();
         NSArray *languages = [[NSUserDefaults standardUserDefaults] stringArrayForKey:@"NSLanguages"];
