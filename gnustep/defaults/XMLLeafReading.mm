@@ -126,9 +126,16 @@ NSString *TNNewText(std::string_view text, bool isMutable) {
     if (isASCII(text)) {
         return [[type alloc] initWithBytes:text.data() length:text.size() encoding:NSASCIIStringEncoding];
     }
-    // The toolkit's own conversion would leave out a byte order mark.
-    const auto units = unitsOf(text);
-    return [[type alloc] initWithCharacters:units.data() length:units.size()];
+    auto units = unitsOf(text);
+    constexpr unichar byteOrderMark = 0xFEFF;
+    if (units.front() != byteOrderMark) {
+        return [[type alloc] initWithCharacters:units.data() length:units.size()];
+    }
+    // The toolkit takes it for no part of a text that begins with it.
+    units.insert(units.begin(), ' ');
+    NSMutableString *whole = [NSMutableString stringWithCharacters:units.data() length:units.size()];
+    [whole deleteCharactersInRange:NSMakeRange(0, 1)];
+    return isMutable ? [whole retain] : [whole copy];
 }
 
 NSNumber *TNNewInteger(std::string_view text) {

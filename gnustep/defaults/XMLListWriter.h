@@ -10,8 +10,9 @@
 /// Writes a property list as XML, from the objects to the bytes in one pass. For one list.
 class TNXMLListWriter {
 public:
-    /// Whether the value can be written: it is nothing but what a property list holds, all keys are texts,
-    /// all dates are of the years 1 to 9999, and nothing nests deeper than `TNDeepestNesting`.
+    /// Whether the value can be written: it is nothing but what a property list holds, all keys are texts
+    /// that XML can hold, all dates are of the years 1 to 9999, and nothing nests deeper than
+    /// `TNDeepestNesting`.
     bool write(id value);
     /// The whole file, once it has been written.
     std::string& bytes() { return bytes_; }
@@ -41,7 +42,7 @@ private:
     bool writeValue(id value, unsigned depth);
     bool writeArray(id array, unsigned depth);
     bool writeDictionary(id dictionary, unsigned depth);
-    /// The shape of a dictionary at a depth; null when a key is no text.
+    /// The shape of a dictionary at a depth; null when a key cannot be written.
     const Shape* shapeOf(id dictionary, unsigned depth);
 
     std::string bytes_;

@@ -86,7 +86,7 @@ bool TNXMLListWriter::writeDictionary(id dictionary, unsigned depth) {
     }
     const auto *shape = shapeOf(dictionary, depth);
     if (!shape) {
-        return refuse("a key is no text");
+        return refuse("a key is no text that XML can hold");
     }
     append("<dict>\n");
     for (const auto place : shape->order) {
@@ -119,12 +119,12 @@ const TNXMLListWriter::Shape *TNXMLListWriter::shapeOf(id dictionary, unsigned d
     }
     shape = {};
     for (id key in dictionary) {
-        if (TNListTypeOf(key).kind != TNListKind::string) {
-            return nullptr;
-        }
         auto &line = shape.lines.emplace_back(depth + 1, '\t');
         line.append("<key>");
-        isExact_ = TNAppendText(line, key) && isExact_;
+        // Two keys might become one.
+        if (TNListTypeOf(key).kind != TNListKind::string || !TNAppendText(line, key)) {
+            return nullptr;
+        }
         line.append("</key>\n");
         shape.keys.push_back(key);
     }
