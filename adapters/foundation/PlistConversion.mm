@@ -2,8 +2,10 @@
 
 #import "adapters/foundation/StringConversion.h"
 
-#include <cstring>
+#include <array>
+#include <functional>
 #include <memory>
+#include <vector>
 
 /// Bytes that belong to a core value, as the platform's data.
 @interface TNSharedData : NSData {
@@ -45,21 +47,29 @@
 namespace tarnwick {
 namespace {
 
-bool isBoolean(NSNumber *number) {
-    // Booleans are of a class of their own on both platforms.
-    return [number isKindOfClass:[[NSNumber numberWithBool:YES] class]];
-}
+/// Looked up once: asking for a class by its name takes longer than the question.
+struct Classes {
+    Class string = [NSString class];
+    Class number = [NSNumber class];
+    /// Booleans are of a class of their own on both platforms.
+    Class boolean = [[NSNumber numberWithBool:YES] class];
+    Class data = [NSData class];
+    Class date = [NSDate class];
+    Class array = [NSArray class];
+    Class dictionary = [NSDictionary class];
+};
 
-bool isReal(NSNumber *number) {
-    const char *type = [number objCType];
-    return std::strcmp(type, @encode(float)) == 0 || std::strcmp(type, @encode(double)) == 0;
+const Classes &classes() {
+    static const Classes known;
+    return known;
 }
 
 PlistValue toPlistNumber(NSNumber *number) {
-    if (isBoolean(number)) {
+    if ([number isKindOfClass:classes().boolean]) {
         return PlistValue(static_cast<bool>([number boolValue]));
     }
-    if (isReal(number)) {
+    const char type = *[number objCType];
+    if (type == *@encode(float) || type == *@encode(double)) {
         return PlistValue([number doubleValue]);
     }
     return PlistValue(static_cast<std::int64_t>([number longLongValue]));
@@ -80,76 +90,128 @@ PlistValue toPlistDictionary(NSDictionary *dictionary) {
     PlistDictionary values;
     for (id key in dictionary) {
         auto value = toPlistValue([dictionary objectForKey:key]);
-        if (value && [key isKindOfClass:[NSString class]]) {
+        if (value && [key isKindOfClass:classes().string]) {
             values.insert_or_assign(toString(key), *std::move(value));
         }
     }
     return PlistValue(std::move(values));
 }
 
-NSArray *toNSArray(const PlistArray &array) {
-    NSMutableArray *result = [NSMutableArray arrayWithCapacity:array.size()];
-    for (const auto &value : array) {
-        [result addObject:toObject(value)];
+/// Makes the objects of one value. The keys of records are the same again and again, and are made once.
+class ObjectMaker {
+public:
+    ObjectMaker() = default;
+    ~ObjectMaker() {
+        for (const auto &known : knownKeys_) {
+            [known.object release];
+        }
     }
-    return result;
-}
+    ObjectMaker(const ObjectMaker &) = delete;
+    ObjectMaker &operator=(const ObjectMaker &) = delete;
 
-NSDictionary *toNSDictionary(const PlistDictionary &dictionary) {
-    NSMutableDictionary *result = [NSMutableDictionary dictionaryWithCapacity:dictionary.size()];
-    for (const auto &[key, value] : dictionary) {
-        [result setObject:toObject(value) forKey:toNSString(key)];
+    /// A reference to be released.
+    id newObject(const PlistValue &value) {
+        if (const auto *text = value.string()) {
+            return [toNSString(*text) retain];
+        }
+        if (const auto *number = value.integer()) {
+            return [[NSNumber alloc] initWithLongLong:*number];
+        }
+        if (const auto *number = value.real()) {
+            return [[NSNumber alloc] initWithDouble:*number];
+        }
+        if (const auto *flag = value.boolean()) {
+            return [[NSNumber numberWithBool:*flag] retain];
+        }
+        if (const auto *data = value.data()) {
+            return [toNSData(*data) retain];
+        }
+        if (const auto *date = value.date()) {
+            return [[NSDate alloc] initWithTimeIntervalSinceReferenceDate:date->secondsSinceReferenceDate];
+        }
+        if (const auto *array = value.array()) {
+            return newArray(*array);
+        }
+        return newDictionary(*value.dictionary());
     }
-    return result;
-}
+
+private:
+    struct KnownKey {
+        std::string text;
+        NSString *object = nil;
+    };
+
+    NSArray *newArray(const PlistArray &array) {
+        std::vector<id> elements;
+        elements.reserve(array.size());
+        for (const auto &value : array) {
+            elements.push_back(newObject(value));
+        }
+        NSArray *result = [[NSArray alloc] initWithObjects:elements.data() count:elements.size()];
+        for (id element : elements) {
+            [element release];
+        }
+        return result;
+    }
+
+    NSDictionary *newDictionary(const PlistDictionary &dictionary) {
+        std::vector<id> values;
+        std::vector<id> keys;
+        values.reserve(dictionary.size());
+        keys.reserve(dictionary.size());
+        for (const auto &[key, value] : dictionary) {
+            values.push_back(newObject(value));
+            keys.push_back([keyOf(key) retain]);
+        }
+        NSDictionary *result = [[NSDictionary alloc] initWithObjects:values.data()
+                                                             forKeys:keys.data()
+                                                               count:keys.size()];
+        for (std::size_t index = 0; index < keys.size(); ++index) {
+            [values[index] release];
+            [keys[index] release];
+        }
+        return result;
+    }
+
+    NSString *keyOf(const std::string &text) {
+        auto &known = knownKeys_[std::hash<std::string>()(text) % knownKeys_.size()];
+        if (!known.object || known.text != text) {
+            [known.object release];
+            known = {text, [toNSString(text) retain]};
+        }
+        return known.object;
+    }
+
+    std::array<KnownKey, 64> knownKeys_;
+};
 
 } // namespace
 
 std::optional<PlistValue> toPlistValue(id object) {
-    if ([object isKindOfClass:[NSString class]]) {
+    const auto &known = classes();
+    if ([object isKindOfClass:known.string]) {
         return PlistValue(toString(object));
     }
-    if ([object isKindOfClass:[NSNumber class]]) {
+    if ([object isKindOfClass:known.number]) {
         return toPlistNumber(object);
     }
-    if ([object isKindOfClass:[NSData class]]) {
+    if ([object isKindOfClass:known.dictionary]) {
+        return toPlistDictionary(object);
+    }
+    if ([object isKindOfClass:known.data]) {
         return PlistValue(toPlistData(object));
     }
-    if ([object isKindOfClass:[NSDate class]]) {
-        return PlistValue(PlistDate{[object timeIntervalSinceReferenceDate]});
-    }
-    if ([object isKindOfClass:[NSArray class]]) {
+    if ([object isKindOfClass:known.array]) {
         return toPlistArray(object);
     }
-    if ([object isKindOfClass:[NSDictionary class]]) {
-        return toPlistDictionary(object);
+    if ([object isKindOfClass:known.date]) {
+        return PlistValue(PlistDate{[object timeIntervalSinceReferenceDate]});
     }
     return std::nullopt;
 }
 
 id toObject(const PlistValue &value) {
-    if (const auto *text = value.string()) {
-        return toNSString(*text);
-    }
-    if (const auto *number = value.integer()) {
-        return [NSNumber numberWithLongLong:*number];
-    }
-    if (const auto *number = value.real()) {
-        return [NSNumber numberWithDouble:*number];
-    }
-    if (const auto *flag = value.boolean()) {
-        return [NSNumber numberWithBool:*flag];
-    }
-    if (const auto *data = value.data()) {
-        return toNSData(*data);
-    }
-    if (const auto *date = value.date()) {
-        return [NSDate dateWithTimeIntervalSinceReferenceDate:date->secondsSinceReferenceDate];
-    }
-    if (const auto *array = value.array()) {
-        return toNSArray(*array);
-    }
-    return toNSDictionary(*value.dictionary());
+    return [ObjectMaker().newObject(value) autorelease];
 }
 
 PlistData toPlistData(NSData *data) {

@@ -14,6 +14,8 @@ namespace tarnwick::testing {
 std::string textThroughPlatform(std::string_view text);
 /// The UTF-16 units of the platform string made of the text.
 std::vector<unsigned> unitsOf(std::string_view text);
+/// The text of the two halves of a character beyond the basic plane, in turn, with "-" between them.
+std::string textOfHalves();
 std::string textOfNil();
 
 /// The value as a platform object and back.

@@ -20,6 +20,13 @@ std::vector<unsigned> unitsOf(std::string_view text) {
     return units;
 }
 
+std::string textOfHalves() {
+    NSMutableString *text = [NSMutableString stringWithString:toNSString("\U0001F5C2-\U0001F5C2")];
+    [text deleteCharactersInRange:NSMakeRange(3, 1)];
+    [text deleteCharactersInRange:NSMakeRange(1, 1)];
+    return toString(text);
+}
+
 std::string textOfNil() {
     return toString(nil);
 }
