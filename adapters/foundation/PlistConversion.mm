@@ -115,19 +115,20 @@ public:
             return [toNSString(*text) retain];
         }
         if (const auto *number = value.integer()) {
-            return [[NSNumber alloc] initWithLongLong:*number];
+            return [[classes().number numberWithLongLong:*number] retain];
         }
         if (const auto *number = value.real()) {
-            return [[NSNumber alloc] initWithDouble:*number];
+            return [[classes().number numberWithDouble:*number] retain];
         }
         if (const auto *flag = value.boolean()) {
-            return [[NSNumber numberWithBool:*flag] retain];
+            return [[classes().number numberWithBool:*flag] retain];
         }
         if (const auto *data = value.data()) {
             return [toNSData(*data) retain];
         }
         if (const auto *date = value.date()) {
-            return [[NSDate alloc] initWithTimeIntervalSinceReferenceDate:date->secondsSinceReferenceDate];
+            return [[classes().date alloc]
+                initWithTimeIntervalSinceReferenceDate:date->secondsSinceReferenceDate];
         }
         if (const auto *array = value.array()) {
             return newArray(*array);
@@ -147,7 +148,7 @@ private:
         for (const auto &value : array) {
             elements.push_back(newObject(value));
         }
-        NSArray *result = [[NSArray alloc] initWithObjects:elements.data() count:elements.size()];
+        NSArray *result = [[classes().array alloc] initWithObjects:elements.data() count:elements.size()];
         for (id element : elements) {
             [element release];
         }
@@ -163,9 +164,9 @@ private:
             values.push_back(newObject(value));
             keys.push_back([keyOf(key) retain]);
         }
-        NSDictionary *result = [[NSDictionary alloc] initWithObjects:values.data()
-                                                             forKeys:keys.data()
-                                                               count:keys.size()];
+        NSDictionary *result = [[classes().dictionary alloc] initWithObjects:values.data()
+                                                                     forKeys:keys.data()
+                                                                       count:keys.size()];
         for (std::size_t index = 0; index < keys.size(); ++index) {
             [values[index] release];
             [keys[index] release];

@@ -45,8 +45,16 @@ struct Known {
     TNListType listType;
 };
 
+constexpr unsigned tableBits = 8;
+
 /// A place for many more classes than a property list has; a class that finds its place taken takes it over.
-thread_local std::array<Known, 64> knownTypes;
+thread_local std::array<Known, 1U << tableBits> knownTypes;
+
+/// Spreads addresses of equal distances over the table.
+std::size_t placeOf(Class type) {
+    constexpr std::uint64_t factor = 0x9E3779B97F4A7C15;
+    return reinterpret_cast<std::uintptr_t>(type) * factor >> (64 - tableBits);
+}
 
 } // namespace
 
@@ -55,8 +63,7 @@ TNListType TNListTypeOf(id value) {
     if (!type) {
         return {};
     }
-    // Classes are a few hundred bytes long.
-    auto &known = knownTypes[(reinterpret_cast<std::uintptr_t>(type) >> 6) % knownTypes.size()];
+    auto &known = knownTypes[placeOf(type)];
     if (known.type != type) {
         known = {type, lookedUp(value)};
     }

@@ -122,7 +122,10 @@ std::optional<std::size_t> decode(std::string_view text, std::uint8_t *target) {
 } // namespace
 
 NSString *TNNewText(std::string_view text, bool isMutable) {
-    Class type = isMutable ? [NSMutableString class] : [NSString class];
+    // Looked up once: asking for a class by its name takes a while.
+    static Class const fixedType = [NSString class];
+    static Class const mutableType = [NSMutableString class];
+    Class type = isMutable ? mutableType : fixedType;
     if (isASCII(text)) {
         return [[type alloc] initWithBytes:text.data() length:text.size() encoding:NSASCIIStringEncoding];
     }
@@ -148,9 +151,10 @@ NSNumber *TNNewInteger(std::string_view text) {
         return nil;
     }
     if (!isNegative && *size > largest) {
-        return [[NSNumber alloc] initWithUnsignedLongLong:*size];
+        return [[NSNumber numberWithUnsignedLongLong:*size] retain];
     }
-    return [[NSNumber alloc] initWithLongLong:static_cast<std::int64_t>(isNegative ? 0 - *size : *size)];
+    static Class const type = [NSNumber class];
+    return [[type numberWithLongLong:static_cast<std::int64_t>(isNegative ? 0 - *size : *size)] retain];
 }
 
 NSNumber *TNNewReal(std::string_view text) {
@@ -163,7 +167,7 @@ NSNumber *TNNewReal(std::string_view text) {
     if (error != std::errc() || last != end || isSignedTwice || text.back() == ')') {
         return nil;
     }
-    return [[NSNumber alloc] initWithDouble:isNegative ? -size : size];
+    return [[NSNumber numberWithDouble:isNegative ? -size : size] retain];
 }
 
 NSDate *TNNewDate(std::string_view text) {
