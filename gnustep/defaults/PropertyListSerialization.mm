@@ -162,12 +162,13 @@ id readOtherForm(id self, SEL command, NSData *data, NSPropertyListReadOptions o
     id value = nil;
     @try {
         value = nativeRead(self, command, data, options, format, error);
-    } @catch (NSException *exception) {
-        // It raises for some of the contents that it refuses.
-        describe(error, corruptError, [[exception reason] UTF8String]);
+    } @catch (NSException *) {
+        // It raises for some of the contents that it refuses, and is silent about others.
     }
     TNXMLListWriter writer;
-    if (value && !writer.write(value)) {
+    if (!value) {
+        describe(error, corruptError, "it is damaged");
+    } else if (!writer.write(value)) {
         describe(error, corruptError, writer.problem());
         return nil;
     }

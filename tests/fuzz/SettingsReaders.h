@@ -9,8 +9,8 @@
 /// The readers and the writer of settings files, seen from outside.
 namespace tarnwick::fuzz {
 
-/// What a reader makes of bytes, described; nothing when it refuses them. Equal descriptions are equal values
-/// of equal kinds.
+/// What a reader makes of bytes, in the words of tests/gnustep/ListDescription.h; nothing when it refuses
+/// them.
 using Description = std::optional<std::string>;
 
 /// As the program reads settings, in any form.

@@ -1,5 +1,5 @@
 """Answers each property list in XML on standard input with a description of what plistlib makes of it, in the words of
-SettingsReaders.h, or with nothing when it refuses it. Requests and answers begin with their length."""
+tests/gnustep/ListDescription.h, or with nothing when it refuses it. Requests and answers begin with their length."""
 
 import datetime
 import math
@@ -11,31 +11,33 @@ REFERENCE = datetime.datetime(2001, 1, 1)
 
 
 def text(value):
-    return value.encode("utf-16-be", "surrogatepass").hex()
+    units = struct.iter_unpack(">H", value.encode("utf-16-be", "surrogatepass"))
+    return '"' + "".join(
+        chr(unit) if 0x20 <= unit < 0x7F and chr(unit) not in '"\\' else f"\\u{unit:04x}" for unit, in units) + '"'
 
 
-def real(value):
-    return "rnan;" if math.isnan(value) else f"r{struct.unpack('<Q', struct.pack('<d', value))[0]};"
+def number(value):
+    return "nan" if math.isnan(value) else f"{value:.17g}"
 
 
 def describe(value):
     if isinstance(value, bool):
-        return "T" if value else "F"
+        return "true" if value else "false"
     if isinstance(value, int):
-        return f"i{value};"
+        return str(value)
     if isinstance(value, float):
-        return real(value)
+        return "real " + number(value)
     if isinstance(value, str):
-        return f"s{text(value)};"
+        return text(value)
     if isinstance(value, bytes):
-        return f"d{value.hex()};"
+        return f"<{value.hex()}>"
     if isinstance(value, datetime.datetime):
-        return "t" + real((value - REFERENCE).total_seconds())
+        return "date " + number((value - REFERENCE).total_seconds())
     if isinstance(value, dict):
-        return "{" + "".join(sorted(f"k{text(key)};{describe(value[key])}" for key in value)) + "}"
+        return "{" + ", ".join(sorted(f"{text(key)}: {describe(value[key])}" for key in value)) + "}"
     if isinstance(value, list):
-        return "(" + "".join(map(describe, value)) + ")"
-    return "?"
+        return "(" + ", ".join(map(describe, value)) + ")"
+    return "no property list"
 
 
 def answer(request):

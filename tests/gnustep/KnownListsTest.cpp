@@ -1,5 +1,4 @@
-#include "ParsedSettingsProbe.h"
-#include "Probe.h"
+#include "PropertyListProbe.h"
 
 #include <gtest/gtest.h>
 
@@ -9,14 +8,9 @@ namespace {
 
 constexpr std::size_t large = 100'000;
 
-class ParsedSettings : public testing::Test {
-protected:
-    void SetUp() override { startUp(); }
-};
-
 } // namespace
 
-TEST_F(ParsedSettings, LargeBytesParsedTwiceInARowGiveTheSameValues) {
+TEST(KnownLists, LargeBytesParsedTwiceInARowGiveTheSameValues) {
     const auto bytes = serialised('a', large);
     const auto* first = parsed(bytes);
     ASSERT_NE(first, nullptr);
@@ -24,13 +18,13 @@ TEST_F(ParsedSettings, LargeBytesParsedTwiceInARowGiveTheSameValues) {
     EXPECT_EQ(parsedText(bytes), std::string(large, 'a'));
 }
 
-TEST_F(ParsedSettings, OtherBytesOfTheSameLengthAreParsed) {
+TEST(KnownLists, OtherBytesOfTheSameLengthAreParsed) {
     EXPECT_EQ(parsedText(serialised('a', large)), std::string(large, 'a'));
     EXPECT_EQ(parsedText(serialised('b', large)), std::string(large, 'b'));
     EXPECT_EQ(parsedText(serialised('a', large)), std::string(large, 'a'));
 }
 
-TEST_F(ParsedSettings, DamagedBytesAreRefusedEachTimeAndForgetNothing) {
+TEST(KnownLists, DamagedBytesAreRefusedEachTimeAndForgetNothing) {
     const auto bytes = serialised('a', large);
     const auto* first = parsed(bytes);
     const auto damaged = bytes.substr(0, bytes.size() - 30);
@@ -39,12 +33,12 @@ TEST_F(ParsedSettings, DamagedBytesAreRefusedEachTimeAndForgetNothing) {
     EXPECT_EQ(parsed(bytes), first);
 }
 
-TEST_F(ParsedSettings, SmallBytesAreParsedEachTime) {
+TEST(KnownLists, SmallBytesAreParsedEachTime) {
     const auto bytes = serialised('a', 10);
     EXPECT_NE(parsed(bytes), parsed(bytes));
 }
 
-TEST_F(ParsedSettings, ValuesThatMayBeChangedAreMadeAnewEachTime) {
+TEST(KnownLists, ValuesThatMayBeChangedAreMadeAnewEachTime) {
     const auto bytes = serialised('a', large);
     const auto* fixed = parsed(bytes);
     const auto* changeable = parsed(bytes, Containers::changeable);
@@ -52,6 +46,26 @@ TEST_F(ParsedSettings, ValuesThatMayBeChangedAreMadeAnewEachTime) {
     EXPECT_NE(parsed(bytes, Containers::changeable), changeable);
 }
 
-TEST_F(ParsedSettings, WhatWasWrittenIsKnownWithoutParsing) {
+TEST(KnownLists, AreTwoOfWhichTheOlderIsForgotten) {
+    const auto one = serialised('1', large);
+    const auto other = serialised('2', large);
+    const auto* first = parsed(one);
+    const auto* second = parsed(other);
+    EXPECT_EQ(parsed(one), first);
+    EXPECT_EQ(parsed(other), second);
+    parsedText(serialised('3', large));
+    EXPECT_EQ(parsed(other), second);
+    EXPECT_NE(parsed(one), first);
+}
+
+TEST(KnownLists, WhatWasWrittenIsKnownWithoutParsing) {
     EXPECT_TRUE(readsBackTheWrittenObjects());
+}
+
+TEST(KnownLists, WhatWasWrittenIsReadAsItWasThen) {
+    EXPECT_TRUE(readsBackWhatWasWrittenAndNotWhatChanged());
+}
+
+TEST(KnownLists, WhatXMLCannotHoldIsReadAsTheFileHasIt) {
+    EXPECT_TRUE(readsAnewWhatXMLCannotHold());
 }
