@@ -1,6 +1,6 @@
 # The macOS application as it is delivered: Tarnwick.app with everything in it, signed, and a disk image.
 set(TARNWICK_SIGNING_IDENTITY "-" CACHE STRING
-    "The identity that codesign signs with; \"-\" signs for this machine only, empty does not sign")
+    "The name of the identity that codesign signs with; \"-\" signs for this machine only, empty does not sign")
 set(TARNWICK_PLUGINS "" CACHE STRING "Built plug-ins to carry (the Finder extension, the service), absolute paths")
 
 # tarnwick_mac_bundle(TARGET): assembles and signs ${PROJECT_BINARY_DIR}/TARGET.app after each build of the target.
@@ -22,8 +22,13 @@ function(tarnwick_mac_bundle target)
     set(entitlements ${PROJECT_SOURCE_DIR}/resources/macos/Tarnwick.entitlements)
     set(sign)
     if(TARNWICK_SIGNING_IDENTITY)
-        # The hardened runtime is what notarisation asks for. Plug-ins come signed by their own build.
-        set(sign COMMAND codesign --force --options runtime --entitlements ${entitlements}
+        # What notarisation asks for; elsewhere the hardened runtime would do no more than refuse the user script's
+        # events to the Finder. Plug-ins come signed by their own build.
+        set(notarised)
+        if(TARNWICK_SIGNING_IDENTITY MATCHES "^Developer ID ")
+            set(notarised --options runtime --timestamp)
+        endif()
+        set(sign COMMAND codesign --force ${notarised} --entitlements ${entitlements}
             --sign ${TARNWICK_SIGNING_IDENTITY} ${bundle})
     endif()
     set(stamp ${PROJECT_BINARY_DIR}/${target}-bundle.stamp)
