@@ -1,17 +1,22 @@
-# Shared by the scripts beside it: where things are, and how a preset is built.
-root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-cd "$root"
+#!/bin/sh
+# Shared by the project's scripts: where things are, and how a preset is built. POSIX sh, since a Mac runs it as well.
+root=$(cd "$(dirname "$0")" && pwd)
+until [ -f "$root/CMakePresets.json" ]; do
+    root=${root%/*}
+done
+cd "$root" || exit
 mkdir -p build
 
 # build PRESET [TARGET ...]: configures the first time, then builds; prints nothing but trouble.
-build() {
-    local preset=$1
+build() (
+    preset=$1
     shift
-    local log=build/$preset.log
-    local targets=()
-    (($# > 0)) && targets=(--target "$@")
-    if [[ ! -f build/$preset/build.ninja ]]; then
-        cmake --preset "$preset" >"$log" 2>&1 || { cat "$log" >&2; return 1; }
+    log=build/$preset.log
+    if [ $# -gt 0 ]; then
+        set -- --target "$@"
     fi
-    cmake --build "build/$preset" "${targets[@]}" >"$log" 2>&1 || { cat "$log" >&2; return 1; }
-}
+    if [ ! -f "build/$preset/build.ninja" ]; then
+        cmake --preset "$preset" >"$log" 2>&1 || { cat "$log" >&2; exit 1; }
+    fi
+    cmake --build "build/$preset" "$@" >"$log" 2>&1 || { cat "$log" >&2; exit 1; }
+)
