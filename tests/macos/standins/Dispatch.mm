@@ -10,7 +10,6 @@ struct dispatch_queue_s {
 
 namespace {
 
-dispatch_queue_s mainQueue{"main"};
 dispatch_queue_s globalQueue{"global"};
 
 std::vector<dispatch_block_t> &waiting() {
@@ -20,9 +19,7 @@ std::vector<dispatch_block_t> &waiting() {
 
 } // namespace
 
-dispatch_queue_t dispatch_get_main_queue() {
-    return &mainQueue;
-}
+dispatch_queue_s _dispatch_main_q{"main"};
 
 dispatch_queue_t dispatch_get_global_queue(long identifier, unsigned long flags) {
     record(@"dispatch_get_global_queue(%ld, %lu)", identifier, flags);

@@ -54,6 +54,7 @@ extern "C" NSString *const NSKeyValueChangeNewKey;
             context:(nullable void *)context;
 @end
 
+__attribute__((objc_exception))
 @interface NSException : NSObject <NSCopying>
 @property (readonly, copy) NSString *name;
 @end
