@@ -1,0 +1,2 @@
+// GoogleTest includes it; what it defines is not needed.
+#pragma once

@@ -1,0 +1,6 @@
+// GoogleTest includes it.
+#pragma once
+extern "C" {
+int* _NSGetArgc(void);
+char*** _NSGetArgv(void);
+}
