@@ -38,7 +38,7 @@ std::string RuleRows::label(RuleCategory category, std::string_view column, long
 }
 
 std::string RuleRows::spokenName(RuleCategory category, std::size_t row) const {
-    const auto name = cells_.shownName(lists_[category], row);
+    auto name = cells_.shownName(lists_[category], row);
     if (!name.empty() && !repeatedNames_.has(category, row)) {
         return name;
     }
