@@ -38,7 +38,7 @@ struct InMemory final : Files {
 
 struct OnDisk final : Files {
     std::unique_ptr<FileManager> files = makeFileManager();
-    std::string root = std::string(std::getenv("TARNWICK_TEST_FOLDER")) + "/contract-XXXXXX";
+    std::string root = std::string(std::getenv("TARNWICK_USER_FOLDER")) + "/contract-XXXXXX";
 
     OnDisk() { EXPECT_NE(mkdtemp(root.data()), nullptr); }
     ~OnDisk() override { files->remove(root); }

@@ -17,7 +17,7 @@ class SystemAdaptersTest : public ::testing::Test {
 protected:
     /// A file with this content in the test's own folder.
     static std::string file(const std::string& name, const std::string& content) {
-        const auto path = std::string(std::getenv("TARNWICK_TEST_FOLDER")) + "/" + name;
+        const auto path = std::string(std::getenv("TARNWICK_USER_FOLDER")) + "/" + name;
         std::ofstream(path) << content;
         return path;
     }

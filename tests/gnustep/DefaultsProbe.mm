@@ -22,11 +22,11 @@ std::string pathOf(NSURL *url) {
 } // namespace
 
 std::string defaultsFolder() {
-    return std::string(std::getenv("TARNWICK_TEST_FOLDER")) + "/defaults";
+    return std::string(std::getenv("TARNWICK_USER_FOLDER")) + "/defaults";
 }
 
 std::string libraryFolder() {
-    return std::string(std::getenv("TARNWICK_TEST_FOLDER")) + "/library";
+    return std::string(std::getenv("TARNWICK_USER_FOLDER")) + "/library";
 }
 
 bool writeEveryKind(const std::string &name) {

@@ -43,7 +43,7 @@ std::string evaluate(const std::string& domain, const std::string& expression) {
 } // namespace
 
 std::string sandboxFolder() {
-    const auto* folder = std::getenv("TARNWICK_SANDBOX");
+    const auto* folder = std::getenv("TARNWICK_USER_FOLDER");
     return folder ? folder : "";
 }
 

@@ -9,7 +9,7 @@
 
 int main(int argc, char* argv[]) {
     using namespace tarnwick::soak;
-    const auto edits = std::make_shared<RandomEdits>(setting("TARNWICK_SANDBOX", ""),
+    const auto edits = std::make_shared<RandomEdits>(setting("TARNWICK_USER_FOLDER", ""),
         static_cast<unsigned>(std::atoi(setting("TARNWICK_SOAK_SEED", "1").c_str())));
     return runApplication(argc, argv, [edits] { return edits->edit(); });
 }
