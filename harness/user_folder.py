@@ -14,7 +14,8 @@ import signal
 import sys
 import time
 
-SERVER_OPTIONS = ["-screen", "0", "1280x900x24", "-nolisten", "tcp", "-extension", "GLX"]
+# A server that resets itself when its only client goes ends those that are just coming.
+SERVER_OPTIONS = ["-screen", "0", "1280x900x24", "-nolisten", "tcp", "-noreset", "-extension", "GLX"]
 # How long programs are asked to end before they are made to, and before the folder is removed under them.
 ASK_SECONDS = 2
 GIVE_UP_SECONDS = 4

@@ -7,8 +7,10 @@ import subprocess
 import sys
 import time
 
-from sandbox import LIST_KEY, LOCAL, SHARED, ClickedProgram, Sandbox, folder_records
-from table import print_table
+from bench.app.programs import ClickedProgram
+from bench.table import print_table
+from harness.stores import COPY_TARGETS, LOCAL, SHARED, USED, Stores, folder_records
+from harness.user_folder import UserFolder
 
 PLISTLIB_EDIT = """
 import os, plistlib, sys
@@ -39,15 +41,15 @@ class PlistlibScript:
 
     name = "plistlib"
 
-    def __init__(self, sandbox):
-        self.sandbox = sandbox
+    def __init__(self, user):
+        self.stores = Stores(user)
         self.on = False
 
     def edit(self):
-        files = [str(self.sandbox.store(domain)) for domain in (LOCAL, SHARED)]
-        arguments = [sys.executable, "-c", PLISTLIB_EDIT, *files, LIST_KEY, str(int(self.on))]
+        files = [str(self.stores.file(domain)) for domain in (LOCAL, SHARED)]
+        arguments = [sys.executable, "-c", PLISTLIB_EDIT, *files, COPY_TARGETS, str(int(self.on))]
         elapsed = timed(lambda: subprocess.run(arguments, check=True))
-        assert self.sandbox.read(LOCAL)[LIST_KEY][1]["enable"] == int(self.on)
+        assert self.stores.local(COPY_TARGETS)[1]["enable"] == int(self.on)
         self.on = not self.on
         return elapsed
 
@@ -58,9 +60,9 @@ class DefaultsScript:
 
     name = "defaults"
 
-    def __init__(self, sandbox):
-        self.sandbox = sandbox
-        self.environment = sandbox.environment()
+    def __init__(self, user):
+        self.stores = Stores(user)
+        self.environment = user.environment()
         self.on = False
 
     def run(self, *arguments):
@@ -70,39 +72,39 @@ class DefaultsScript:
 
     def edit(self):
         def work():
-            text = self.run("read", LOCAL, LIST_KEY)
-            records = text[text.index("(") + 1 : text.rindex(")")].split("},")
+            text = self.run("read", LOCAL, COPY_TARGETS)
+            records = text[text.index("(") + 1:text.rindex(")")].split("},")
             records = [record.strip().rstrip("}") + "}" for record in records]
             records[1] = re.sub('enable = "?[01]"?;', f"enable = {int(self.on)};", records[1])
-            self.run("write", LOCAL, LIST_KEY, "(" + ",".join(records) + ")")
+            self.run("write", LOCAL, COPY_TARGETS, "(" + ",".join(records) + ")")
             enabled = [record for record in records if "enable = 0;" not in record]
-            self.run("write", SHARED, LIST_KEY, "(" + ",".join(enabled) + ")")
+            self.run("write", SHARED, COPY_TARGETS, "(" + ",".join(enabled) + ")")
 
         elapsed = timed(work)
-        assert self.sandbox.read(LOCAL)[LIST_KEY][1]["enable"] == str(int(self.on))
+        assert self.stores.local(COPY_TARGETS)[1]["enable"] == str(int(self.on))
         self.on = not self.on
         return elapsed
 
 
 def prepare(application, records, display):
-    """A sandbox with that many copy targets, as the application leaves it after a launch."""
-    sandbox = Sandbox()
-    sandbox.write(LOCAL, {"ShownEnableExtensionAlert": True, LIST_KEY: folder_records(records)})
-    program = ClickedProgram(application, sandbox, display)
+    """A user folder with that many copy targets, as the application leaves it after a launch."""
+    user = UserFolder()
+    Stores(user).write({**USED, COPY_TARGETS: folder_records(records)})
+    program = ClickedProgram(application, user, display)
     program.close()
-    return sandbox
+    return user
 
 
-def copy_of(sandbox):
-    copy = Sandbox()
+def copy_of(user):
+    copy = UserFolder()
     for domain in (LOCAL, SHARED):
-        shutil.copy(sandbox.store(domain), copy.store(domain))
+        shutil.copy(Stores(user).file(domain), Stores(copy).file(domain))
     return copy
 
 
 def check_same(one, other):
     for domain in (LOCAL, SHARED):
-        if one.read(domain)[LIST_KEY] != other.read(domain)[LIST_KEY]:
+        if Stores(one).read(domain)[COPY_TARGETS] != Stores(other).read(domain)[COPY_TARGETS]:
             raise SystemExit(f"the application and its floor left different lists in {domain}")
 
 
@@ -110,10 +112,10 @@ def measure_list(build, records, rounds, displays):
     """Medians in milliseconds: of the application and its floor, until written and until drawn; of the scripts."""
     application = build / "edit_application.app" / "edit_application"
     for_application = prepare(application, records, displays[0])
-    sandboxes = [for_application, *(copy_of(for_application) for _ in range(3))]
+    users = [for_application, *(copy_of(for_application) for _ in range(3))]
     programs = [
         ClickedProgram(application, for_application, displays[0]),
-        ClickedProgram(build / "bench" / "edit_floor", sandboxes[1], displays[1]),
+        ClickedProgram(build / "bench" / "edit_floor", users[1], displays[1]),
     ]
     clicks = [[], []]
     for turn in range(rounds):
@@ -123,16 +125,16 @@ def measure_list(build, records, rounds, displays):
                 clicks[index].append(elapsed)
     for program in programs:
         program.close()
-    check_same(*sandboxes[:2])
+    check_same(*users[:2])
     scripts = {}
-    for script in (PlistlibScript(sandboxes[2]), DefaultsScript(sandboxes[3])):
+    for script in (PlistlibScript(users[2]), DefaultsScript(users[3])):
         try:
             scripts[script.name] = statistics.median(script.edit() for _ in range(max(4, rounds // 10)))
         except OSError:
             # The list does not fit on a command line.
             scripts[script.name] = None
-    for sandbox in sandboxes:
-        sandbox.remove()
+    for user in users:
+        user.remove()
     written = [statistics.median(first for first, _ in of_program) for of_program in clicks]
     drawn = [statistics.median(second for _, second in of_program) for of_program in clicks]
     return written, drawn, scripts
@@ -148,5 +150,6 @@ def measure(build, one, other, quick):
         rows.append([f"{records:,}", f"{application:.2f}", f"{floor:.2f}", f"{application / floor:.2f}",
                      f"{drawn:.2f}", *ratios])
     print_table(
-        "An edit, from the click to both files on disk (ms), and what others take for it, as a ratio to the application",
+        "An edit, from the click to both files on disk (ms), and what others take for it, as a ratio to the "
+        "application",
         ["records", "application", "floor", "ratio", "until drawn", "plistlib", "defaults"], rows)

@@ -1,14 +1,17 @@
 """A launch, until the lists are published, and the memory it takes, beside an empty window."""
 
+import pathlib
 import shutil
 import statistics
 import time
 
-from sandbox import LIST_KEY, LOCAL, SHARED, LaunchedProgram, Sandbox, folder_records
-from table import print_table
+from bench.app.programs import LaunchedProgram
+from bench.table import print_table
+from harness.stores import COPY_TARGETS, LISTS, SHARED, USED, Stores, folder_records
+from harness.user_folder import UserFolder
 
 # Published last at a launch.
-LAST_KEY = "arrOfOthers"
+LAST_KEY = LISTS[-1]
 SETTLE_SECONDS = 1.0
 
 
@@ -22,15 +25,15 @@ class Application:
         self.settings = settings
         self.library = library
 
-    def prepare(self, sandbox):
-        sandbox.write(LOCAL, self.settings)
+    def prepare(self, user):
+        Stores(user).write(self.settings)
         if self.library:
-            shutil.copytree(self.library, sandbox.library, dirs_exist_ok=True)
+            shutil.copytree(self.library, user.library, dirs_exist_ok=True)
         return {}
 
     @staticmethod
-    def is_up(sandbox):
-        store = sandbox.store(SHARED)
+    def is_up(user):
+        store = Stores(user).file(SHARED)
         seen = None
 
         def check():
@@ -55,35 +58,36 @@ class EmptyWindow:
         self.program = build / "bench" / name
         self.copies = copies
 
-    def prepare(self, sandbox):
-        pairs = sandbox.folder / "copies"
-        pairs.write_text("".join(f"{source}\t{sandbox.library / target}\n" for source, target in self.copies))
-        return {"TARNWICK_BENCH_COPIES": str(pairs), "TARNWICK_BENCH_UP": str(sandbox.folder / "up")}
+    def prepare(self, user):
+        pairs = pathlib.Path(user.name, "copies")
+        pairs.write_text("".join(f"{source}\t{user.library}/{target}\n" for source, target in self.copies))
+        return {"TARNWICK_BENCH_COPIES": str(pairs), "TARNWICK_BENCH_UP": f"{user.name}/up"}
 
     @staticmethod
-    def is_up(sandbox):
-        return (sandbox.folder / "up").exists
+    def is_up(user):
+        return pathlib.Path(user.name, "up").exists
 
 
 def launch(program, display, neighbour=None):
     """Milliseconds until the program is up, on the clock and on the processor; its megabytes a second later, resident
-    and of its own; and the sandbox it ran in."""
-    sandbox = Sandbox(neighbour)
-    environment = program.prepare(sandbox)
-    launched = LaunchedProgram(program.program, sandbox, display, environment)
-    elapsed = launched.milliseconds_until(program.is_up(sandbox))
+    and of its own; and the user folder it ran in."""
+    user = UserFolder(neighbour)
+    environment = program.prepare(user)
+    launched = LaunchedProgram(program.program, user, display, environment)
+    elapsed = launched.milliseconds_until(program.is_up(user))
     busy = launched.processor_milliseconds()
     time.sleep(SETTLE_SECONDS)
     memory = launched.memory()
     launched.stop()
-    return (elapsed, busy, *memory), sandbox
+    return (elapsed, busy, *memory), user
 
 
-def first_run_copies(application, sandbox):
+def first_run_copies(application, user):
     """What the first launch copied: pairs of a resource and a place in the user's Library folder."""
     resources = application.program.parent / "Resources"
-    copied = [file for file in sandbox.library.rglob("*") if file.is_file() and (resources / file.name).exists()]
-    pairs = [(resources / file.name, file.relative_to(sandbox.library)) for file in copied]
+    library = pathlib.Path(user.library)
+    copied = [file for file in library.rglob("*") if file.is_file() and (resources / file.name).exists()]
+    pairs = [(resources / file.name, file.relative_to(library)) for file in copied]
     if not pairs:
         raise SystemExit("a first launch copied nothing")
     return pairs
@@ -94,8 +98,8 @@ def take_turns(programs, display, rounds, neighbour):
     figures = {program.name: [] for program in programs}
     for turn in range(rounds + 1):
         for program in programs:
-            measured, sandbox = launch(program, display, neighbour)
-            sandbox.remove()
+            measured, user = launch(program, display, neighbour)
+            user.remove()
             if turn > 0:
                 figures[program.name].append(measured)
     return {name: [statistics.median(column) for column in zip(*rows)] for name, rows in figures.items()}
@@ -114,18 +118,18 @@ def rows_beside(title, figures):
 
 def measure(build, display, quick):
     rounds = 4 if quick else 15
-    first = Application(build, {"ShownEnableExtensionAlert": True})
+    first = Application(build, USED)
     _, neighbour = launch(first, display)
     copies = first_run_copies(first, neighbour)
-    settings = neighbour.read(LOCAL)
+    settings = Stores(neighbour).read()
     # Its notification centre stays up as long as somebody uses it, as in a user's session.
     holder = LaunchedProgram(build / "bench" / "empty_window", neighbour, display,
-                             {"TARNWICK_BENCH_UP": str(neighbour.folder / "up")})
+                             {"TARNWICK_BENCH_UP": f"{neighbour.name}/up"})
     rows = []
     for title, application, copied in (
         ("first", first, copies),
         ("later", Application(build, settings, neighbour.library), ()),
-        ("1,000 targets", Application(build, {**settings, LIST_KEY: folder_records(1_000)}, neighbour.library), ()),
+        ("1,000 targets", Application(build, {**settings, COPY_TARGETS: folder_records(1_000)}, neighbour.library), ()),
     ):
         floors = [EmptyWindow(build, name, copied) for name in ("empty_window", "empty_window_with_layer")]
         rows += rows_beside(

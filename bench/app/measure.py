@@ -1,14 +1,11 @@
-#!/usr/bin/env python3
-"""measure.py FOLDER [--quick]: measures the application of a build folder beside its floor programs, taking turns,
-and prints tables of medians and ratios."""
+"""python3 -m bench.app.measure FOLDER [--quick]: measures the application of a build folder beside its floor programs,
+taking turns, and prints tables of medians and ratios."""
 
 import pathlib
 import sys
 
-sys.path.insert(0, str(pathlib.Path(__file__).parent))
-import edits
-import launches
-from sandbox import Display
+from bench.app import edits, launches
+from harness.user_folder import Display
 
 if __name__ == "__main__":
     build = pathlib.Path(sys.argv[1]).resolve()

@@ -1,13 +1,10 @@
-#!/usr/bin/env python3
-"""Reads Google Benchmark's JSON and prints the microseconds of each operation, a row an operation, a column a length of
-the list, without and with images."""
+"""python3 -m bench.core.summary: reads Google Benchmark's JSON and prints the microseconds of each operation, a row an
+operation, a column a length of the list, without and with images."""
 
 import json
-import pathlib
 import sys
 
-sys.path.insert(0, str(pathlib.Path(__file__).parents[1] / "app"))
-from table import print_table
+from bench.table import print_table
 
 times = {}
 for benchmark in json.load(sys.stdin)["benchmarks"]:
@@ -17,8 +14,8 @@ for benchmark in json.load(sys.stdin)["benchmarks"]:
 
 lengths = sorted(next(iter(times.values())))
 rows = [
-    [name, "1 MiB" if image else "none", *(f"{row[length]:,.3g}" if row[length] < 100 else f"{row[length]:,.0f}"
-                                          for length in lengths)]
+    [name, "1 MiB" if image else "none",
+     *(f"{row[length]:,.3g}" if row[length] < 100 else f"{row[length]:,.0f}" for length in lengths)]
     for (name, image), row in times.items()
 ]
 print_table(

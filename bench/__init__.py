@@ -1,0 +1,1 @@
+"""What the core and the application take; see docs/performance.md."""

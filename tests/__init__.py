@@ -1,0 +1,1 @@
+"""The Python parts of the tests: modules, found from the project's root."""
