@@ -1,9 +1,8 @@
-"""The two stores as the checks read them."""
+"""Lists as the application's journal names them: by the checksum of a canonical text."""
 
 import zlib
 
-LISTS = ["arrOfCreateNewFile", "arrOfCopyFilesTo", "arrOfCommonPath", "arrOfCustomIcon", "arrOfOthers"]
-LOCAL, SHARED = "org.halvane.Tarnwick", "H7Q2ZK5RX9.org.halvane.Tarnwick"
+from harness.stores import is_on
 
 
 def canonical(value):
@@ -14,10 +13,6 @@ def canonical(value):
     if isinstance(value, bytes):
         return f"d{len(value)}:{zlib.crc32(value)}"
     return f"s{value}" if isinstance(value, str) else "?"
-
-
-def is_on(record):
-    return record.get("enable") in (1, True, "1")
 
 
 def checksum(records, enabled_only=False):
