@@ -29,15 +29,9 @@ std::string outputOf(const std::string& command) {
     return output;
 }
 
-std::string evaluate(const std::string& domain, const std::string& expression) {
-    const auto file = sandboxFolder() + "/defaults/" + domain + ".plist";
-    return outputOf("python3 -c " +
-                    quoted("import os, plistlib, sys\n"
-                           "path, expression = sys.argv[1:]\n"
-                           "found = os.path.exists(path)\n"
-                           "d = plistlib.load(open(path, 'rb')) if found else {}\n"
-                           "print(repr(eval(expression)) if found else '(no file)')") +
-                    " " + quoted(file) + " " + quoted(expression) + " 2>&1");
+/// What the reader answers.
+std::string found(const std::string& what, const std::string& where) {
+    return outputOf(TARNWICK_STORES " " + quoted(what) + " " + quoted(where) + " 2>&1");
 }
 
 } // namespace
@@ -48,18 +42,15 @@ std::string sandboxFolder() {
 }
 
 std::string local(const std::string& expression) {
-    return evaluate("org.halvane.Tarnwick", expression);
+    return found("org.halvane.Tarnwick", expression);
 }
 
 std::string shared(const std::string& expression) {
-    return evaluate("H7Q2ZK5RX9.org.halvane.Tarnwick", expression);
+    return found("H7Q2ZK5RX9.org.halvane.Tarnwick", expression);
 }
 
 std::string containerFolder(const std::string& relativePath) {
-    const auto folder =
-        sandboxFolder() + "/library/Group Containers/H7Q2ZK5RX9.org.halvane.Tarnwick/" + relativePath;
-    return outputOf("python3 -c " + quoted("import os, sys; print(sorted(os.listdir(sys.argv[1])))") + " " +
-                    quoted(folder) + " 2>&1");
+    return found("--container", relativePath);
 }
 
 } // namespace tarnwick::gui

@@ -5,8 +5,8 @@
 /// What others find on disk: read by Python's property-list reader, which is not this project's.
 namespace tarnwick::gui {
 
-/// Evaluates a Python expression over a domain's file, in which `d` is its dictionary, and gives the result
-/// as Python writes it: 1, True and '1' stay apart. "(no file)" while there is none.
+/// Evaluates a Python expression over a domain's file, in which `d` is its dictionary and `size` its bytes,
+/// and gives the result as Python writes it: 1, True and '1' stay apart. "(no file)" while there is none.
 [[nodiscard]] std::string local(const std::string& expression);
 [[nodiscard]] std::string shared(const std::string& expression);
 /// The names in a folder of the group container, sorted, as Python writes the list.

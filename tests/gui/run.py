@@ -1,0 +1,25 @@
+"""python3 -m tests.gui.run [--first-launch | --folders N | --dark] PROGRAM [ARGUMENT ...]: runs a program of the window
+tests in a throwaway user folder, on a virtual display."""
+
+import argparse
+import sys
+
+from tests.gui.user import new_user, used_user
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("--first-launch", action="store_true")
+    parser.add_argument("--folders", type=int, default=0)
+    parser.add_argument("--dark", action="store_true")
+    parser.add_argument("command", nargs=argparse.REMAINDER)
+    options = parser.parse_args()
+    if options.first_launch:
+        with new_user() as user:
+            return user.run(*options.command, TARNWICK_FIRST_LAUNCH="1")
+    with used_user(options.folders, options.dark) as user:
+        return user.run(*options.command)
+
+
+if __name__ == "__main__":
+    sys.exit(main())

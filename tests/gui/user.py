@@ -1,0 +1,43 @@
+"""The user for whom the window tests run: a throwaway user folder, on a virtual display."""
+
+import contextlib
+import pathlib
+import subprocess
+
+from harness.stores import COMMON_FOLDERS, GLOBAL, USED, Stores, folder_records
+from harness.user_folder import Display, UserFolder
+
+MOST_SECONDS = 120
+
+
+class User:
+    """Addresses that are opened go into the file "opened" of the folder."""
+
+    def __init__(self, user, display):
+        self.folder = pathlib.Path(user.name)
+        self.stores = Stores(user)
+        opener = self.folder / "opener"
+        opener.write_text(f'#!/bin/sh\necho "$@" >>"{self.folder}/opened"\n')
+        opener.chmod(0o755)
+        self.environment = user.environment(DISPLAY=display.name, TARNWICK_OPENER=str(opener))
+
+    def run(self, *command, **more):
+        """The status of the program, which is made to end when it takes too long."""
+        return subprocess.run(command, env={**self.environment, **more}, timeout=MOST_SECONDS, check=False).returncode
+
+
+@contextlib.contextmanager
+def new_user():
+    """Whose next launch is the first."""
+    with UserFolder() as folder, Display() as display:
+        yield User(folder, display)
+
+
+@contextlib.contextmanager
+def used_user(folders=0, is_dark=False):
+    """For whom the prompt to enable the extension counts as shown, with that many common folders."""
+    with new_user() as user:
+        user.stores.write({**USED, **({COMMON_FOLDERS: folder_records(folders)} if folders else {})})
+        if is_dark:
+            user.stores.write({"AppleInterfaceStyle": "Dark"}, GLOBAL)
+        yield user
