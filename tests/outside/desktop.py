@@ -1,154 +1,125 @@
-"""The application as a person meets it: a virtual display with a window manager, a real pointer and keyboard, and
-a throwaway user folder whose files are read by Python's own property-list reader."""
+"""The application as a person meets it: a window on a screen, with pointer and keyboard, in a throwaway user folder.
 
+To try it by hand, from the project's root:
+
+    python3 -i -m tests.outside.desktop build/debug/Tarnwick.app/Tarnwick
+    >>> desktop.show(PAGES[1])
+    >>> desktop.select(2)
+    >>> desktop.click("remove")
+    >>> desktop.window.keep_picture("/tmp/seen.png")
+    >>> [record["displayName"] for record in desktop.stores.local(desktop.page.key)]
+"""
+
+import atexit
 import contextlib
-import os
 import pathlib
 import subprocess
 import sys
-import time
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "bench/app"))
-from sandbox import LOCAL, SHARED, Display, Sandbox
+from harness.stores import GLOBAL, SHARED, USED, Stores
+from harness.user_folder import Display, UserFolder
+from harness.waiting import wait_until
+from tests.outside.places import PAGE_OF, PAGES, Places
+from tests.outside.screen import Screen, command
 
-PATIENCE_SECONDS = 20
-LOOK_AGAIN_SECONDS = 0.02
-# A hand is no faster, and programs tell a drag from a click by it.
-STEP_SECONDS = 0.04
-
-
-class NotSeen(Exception):
-    """Something that was waited for did not come."""
-
-
-def wait_until(condition, what):
-    end = time.monotonic() + PATIENCE_SECONDS
-    while not (seen := condition()):
-        if time.monotonic() > end:
-            raise NotSeen(what)
-        time.sleep(LOOK_AGAIN_SECONDS)
-    return seen
+END_SECONDS = 20
 
 
 class Desktop:
-    """One application in one user folder. Places are points of its window, counted from the upper left."""
+    """One application in one user folder. `settings` are in its store before it starts; without any, not even an empty
+    dictionary, it is a first launch, whose prompt stands open. The language is that of a table of texts; the places of
+    buttons are those of English."""
 
-    title = "^Tarnwick$"
-
-    def __init__(self, program, settings=None):
-        self.program = pathlib.Path(program).resolve()
-        self.user = Sandbox()
-        self.user.write(LOCAL, {"ShownEnableExtensionAlert": True, **(settings or {})})
-        self.stack = contextlib.ExitStack()
-        self.stack.callback(self.user.remove)
-        self.display = self.stack.enter_context(Display())
-        self.start("openbox")
-        wait_until(self.has_window_manager, "the window manager")
+    def __init__(self, program, settings=None, is_dark=False, language="en"):
+        self.program, self.page = pathlib.Path(program).resolve(), PAGES[0]
+        with contextlib.ExitStack() as stack:
+            self.user = stack.enter_context(UserFolder())
+            self.stores = Stores(self.user)
+            if settings is not None:
+                self.stores.write({**USED, **settings})
+            if is_dark:
+                self.stores.write({"AppleInterfaceStyle": "Dark"}, GLOBAL)
+            display = stack.enter_context(Display())
+            self.screen = Screen(self.user.environment(DISPLAY=display.name, LANGUAGE=language))
+            stack.callback(self.run("openbox").kill)
+            self.start()
+            self.stack = stack.pop_all()
 
     def __enter__(self):
-        self.application = self.start(self.program)
-        self.window = wait_until(lambda: self.find(self.title), "the window")
-        self.wait_until_ready()
-        self.settle()
         return self
 
-    def wait_until_ready(self):
-        wait_until(lambda: self.user.store(SHARED).exists(), "the published lists")
-
     def __exit__(self, *_):
+        self.close()
+
+    def close(self):
+        self.application.kill()
+        self.application.wait(END_SECONDS)
         self.stack.close()
 
-    def environment(self):
-        return self.user.environment(DISPLAY=self.display.name, LANGUAGE="en")
+    # The application
 
-    def start(self, *command):
-        output = self.stack.enter_context(open(self.user.folder / f"{pathlib.Path(command[0]).name}.log", "ab"))
-        process = subprocess.Popen(command, env=self.environment(), stdout=output, stderr=output)
-        self.stack.callback(self.end, process)
-        return process
+    def start(self):
+        """Until its window is in sight, with the first page, and its lists are published."""
+        self.application = self.run(self.program)
+        self.window = self.screen.window("^Tarnwick$", process=self.application)
+        wait_until(self.stores.file(SHARED).exists, "the published lists", process=self.application)
+        self.screen.settle()
+        self.page = PAGES[0]
 
-    @staticmethod
-    def end(process):
-        process.kill()
-        process.wait(PATIENCE_SECONDS)
+    def run(self, program):
+        with open(self.log(program), "ab") as output:
+            return subprocess.Popen([program], env=self.screen.environment, stdout=output, stderr=output)
 
-    def has_window_manager(self):
-        command = ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"]
-        answer = subprocess.run(command, env=self.environment(), capture_output=True, text=True, check=False)
-        return "window id" in answer.stdout
+    def log(self, program):
+        return pathlib.Path(self.user.name, f"{pathlib.Path(program).name}.log")
 
-    def xdotool(self, *arguments):
-        answer = subprocess.run(
-            ["xdotool", *map(str, arguments)], env=self.environment(), capture_output=True, text=True, check=False
-        )
-        return answer.stdout.split()
-
-    def find(self, title):
-        """The number of the window with this title; None when there is none."""
-        found = self.xdotool("search", "--onlyvisible", "--name", title)
-        return found[-1] if found else None
+    def said(self):
+        """What the application wrote to its standard streams."""
+        return self.log(self.program).read_text(errors="replace")
 
     def has_ended(self):
         return self.application.poll() is not None
 
-    # The screen
+    def wait_for_end(self):
+        """The status that the application ends with."""
+        wait_until(self.has_ended, "the end of the application")
+        return self.application.returncode
 
-    def picture(self, window="root"):
-        """As a portable pixmap."""
-        command = ["import", "-window", window, "-depth", "8", "ppm:-"]
-        return subprocess.run(command, env=self.environment(), capture_output=True, check=True).stdout
+    # What a person does
 
-    def keep_picture(self, path):
-        subprocess.run(["import", "-window", "root", "-depth", "8", str(path)], env=self.environment(), check=True)
+    @property
+    def places(self):
+        return Places(*self.window.size())
 
-    def settle(self):
-        """Until two pictures in a row are the same."""
-        last = [None]
+    def show(self, page):
+        """Until it can be seen that another page than before is shown."""
+        before, is_other = self.window.picture(), page != self.page
+        self.page = page
+        self.click("page_button")
+        wait_until(lambda: not is_other or self.window.picture() != before, f"the page {page.title}")
+        self.screen.settle()
 
-        def is_same():
-            now = self.picture()
-            same, last[0] = now == last[0], now
-            return same
+    def show_list(self, key):
+        self.show(PAGE_OF[key])
 
-        wait_until(is_same, "a quiet screen")
+    def click(self, name, *arguments, times=1, delay=60):
+        """A control of the page, by its name among the places: "remove", "reset", "row_switch", 3."""
+        self.window.click(getattr(self.places, name)(self.page, *arguments), times, delay=delay)
 
-    # The pointer and the keyboard
+    def select(self, row):
+        """A second click on it, after a while, would begin to edit it."""
+        self.click("cell", row)
+        self.screen.settle()
 
-    def move(self, x, y):
-        self.xdotool("mousemove", "--window", self.window, x, y)
+    def start_typing(self, row, text="", column=None):
+        """A name, or what is in another column, as it stands or with a text in its place."""
+        self.click("cell", row, column, times=2)
+        self.screen.settle()
+        if text:
+            self.screen.key(command("a"))
+            self.screen.type(text)
 
-    def click(self, x, y, times=1, button=1):
-        self.move(x, y)
-        self.xdotool("click", "--repeat", times, "--delay", 60, button)
 
-    def drag(self, start, end, steps=12, release=True):
-        self.move(*start)
-        self.xdotool("mousedown", 1)
-        for step in range(1, steps + 1):
-            part = step / steps
-            self.move(*(round(a + (b - a) * part) for a, b in zip(start, end)))
-            time.sleep(STEP_SECONDS)
-        if release:
-            self.xdotool("mouseup", 1)
-
-    def key(self, *names):
-        self.xdotool("key", *names)
-
-    def type(self, text):
-        self.xdotool("type", "--delay", 15, text)
-
-    # The stores
-
-    def local(self, key=None):
-        return self._read(LOCAL, key)
-
-    def shared(self, key=None):
-        return self._read(SHARED, key)
-
-    def _read(self, domain, key):
-        values = self.user.read(domain)
-        return values if key is None else values.get(key)
-
-    def templates(self):
-        folder = self.user.library / "Group Containers" / SHARED / "Templates/CreateNewFile"
-        return sorted(path.name for path in folder.iterdir())
+if __name__ == "__main__":
+    desktop = Desktop(sys.argv[1], {})
+    atexit.register(desktop.close)

@@ -1,15 +1,6 @@
-#!/usr/bin/env python3
-"""Says what the Finder extension would find: published.py DEFAULTS_FOLDER.
+"""Says what the Finder extension would find in a user folder, read with Python's own property-list reader."""
 
-Reads both preference domains with Python's own property-list reader."""
-
-import pathlib
-import plistlib
-import sys
-
-LOCAL = "org.halvane.Tarnwick"
-SHARED = "H7Q2ZK5RX9.org.halvane.Tarnwick"
-LISTS = ["arrOfCreateNewFile", "arrOfCopyFilesTo", "arrOfCommonPath", "arrOfCustomIcon", "arrOfOthers"]
+from harness.stores import LISTS, LOCAL, SHARED
 
 
 def first_names(records):
@@ -17,25 +8,21 @@ def first_names(records):
     return ", ".join(names) + (", ..." if len(records) > 4 else "")
 
 
-def describe(title, domain):
+def describe(title, values):
     print(title)
     for key in LISTS:
-        if key not in domain:
+        if key not in values:
             print(f"  {key}: not there")
             continue
-        records = domain[key]
+        records = values[key]
         names = f": {first_names(records)}" if records else ""
         print(f"  {key}: {len(records)} records{names}")
 
 
-def main():
-    folder = pathlib.Path(sys.argv[1])
-    shared, local = (plistlib.loads((folder / f"{name}.plist").read_bytes()) for name in (SHARED, LOCAL))
+def describe_stores(stores):
+    shared = stores.read(SHARED)
     describe(f"Published to the extension ({SHARED}):", shared)
     print(f"  arrOfEnableOther: {len(shared.get('arrOfEnableOther', []))} names")
     switches = sorted(key for key, value in shared.items() if isinstance(value, bool))
     print(f"  {len(switches)} switches, {sum(shared[key] for key in switches)} of them on")
-    describe(f"Kept by the application ({LOCAL}):", local)
-
-
-main()
+    describe(f"Kept by the application ({LOCAL}):", stores.read())

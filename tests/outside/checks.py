@@ -1,0 +1,49 @@
+"""Checks from outside: each gets a way to start the application, prints its name as a sentence, and ends the program
+with status 1 when it is wrong."""
+
+import contextlib
+import os
+import sys
+import traceback
+
+from tests.outside.desktop import Desktop
+from tests.outside.model import Model
+
+
+def require(holds, what):
+    if not holds:
+        raise AssertionError(what)
+
+
+def starter(program, name):
+    @contextlib.contextmanager
+    def start(**settings):
+        """The application over these settings, and the model of what is stored."""
+        with Desktop(program, settings) as desktop:
+            model = Model(desktop.stores)
+            model.expect("what a start stores")
+            try:
+                yield desktop, model
+                complaints = [line for line in desktop.said().splitlines() if "exception" in line.lower()]
+                require(not complaints, f"said: {complaints[:3]}")
+            except BaseException:
+                if folder := os.environ.get("TARNWICK_PICTURES"):
+                    desktop.screen.keep_picture(f"{folder}/{name}.png")
+                raise
+    return start
+
+
+def run_checks(*checks):
+    """All of them, or those that are named after the program, as prefixes."""
+    program, wanted = sys.argv[1], sys.argv[2:]
+    failed = 0
+    for check in checks:
+        if wanted and not any(check.__name__.startswith(name) for name in wanted):
+            continue
+        try:
+            check(starter(program, check.__name__))
+            print(check.__name__.replace("_", " "), flush=True)
+        except Exception:
+            failed += 1
+            print(f"WRONG: {check.__name__.replace('_', ' ')}\n{traceback.format_exc()}", flush=True)
+    sys.exit(failed > 0)

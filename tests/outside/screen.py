@@ -1,0 +1,138 @@
+"""A screen with a window manager, a pointer and a keyboard."""
+
+import subprocess
+import time
+
+from harness.waiting import wait_until, wait_until_steady
+
+# A hand is no faster, and programs tell a drag from a click by it.
+STEP_SECONDS = 0.04
+BUTTON, WHEEL_UP, WHEEL_DOWN = 1, 4, 5
+
+# The keys by what they are for: the program calls the left Alt key Command and the right one Option.
+COMMAND, OPTION, SHIFT = "Alt_L", "Alt_R", "Shift_L"
+
+
+def command(key):
+    return f"{COMMAND}+{key}"
+
+
+def option_command(key):
+    return f"{COMMAND}+{OPTION}+{key}"
+
+
+class Screen:
+    """`environment` names the display."""
+
+    def __init__(self, environment):
+        self.environment = environment
+
+    def xdotool(self, *arguments):
+        return subprocess.run(["xdotool", *(str(argument) for argument in arguments)], env=self.environment,
+                              capture_output=True, text=True, check=False).stdout.split()
+
+    def windows(self, title):
+        """The windows in sight whose titles match the expression."""
+        return [Window(self, number) for number in self.xdotool("search", "--onlyvisible", "--name", title)]
+
+    def window(self, title, seconds=20, process=None):
+        """The latest such window, once there is one."""
+        return wait_until(lambda: self.windows(title), f"a window {title}", seconds, process)[-1]
+
+    def picture(self, window="root"):
+        return subprocess.run(["import", "-window", window, "-depth", "8", "ppm:-"], env=self.environment,
+                              capture_output=True, check=True).stdout
+
+    def keep_picture(self, path, window="root"):
+        subprocess.run(["import", "-window", window, "-depth", "8", str(path)], env=self.environment, check=True)
+
+    def settle(self, still=0.0):
+        """Until two pictures in a row are the same, and all those in between."""
+        wait_until_steady(self.picture, "a quiet screen", still)
+
+    # The pointer
+
+    def press(self, button=BUTTON):
+        self.xdotool("mousedown", button)
+
+    def release(self, button=BUTTON):
+        self.xdotool("mouseup", button)
+
+    def wheel(self, steps):
+        """Down; up when negative."""
+        self.xdotool("click", "--repeat", abs(steps), "--delay", 20, WHEEL_DOWN if steps > 0 else WHEEL_UP)
+
+    # The keyboard
+
+    def key(self, *names):
+        self.xdotool("key", *names)
+
+    def hold(self, name):
+        self.xdotool("keydown", name)
+
+    def let_go(self, name):
+        self.xdotool("keyup", name)
+
+    def type(self, text):
+        self.xdotool("type", "--delay", 15, text)
+
+    def copy(self, text):
+        """As another program does: the text is in the clipboard from now on."""
+        subprocess.run(["xclip", "-selection", "clipboard"], input=text.encode(), env=self.environment, check=True,
+                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+
+
+class Window:
+    """Places are points from its upper left."""
+
+    def __init__(self, screen, number):
+        self.screen, self.number = screen, number
+
+    def size(self):
+        answer = self.screen.xdotool("getwindowgeometry", "--shell", self.number)
+        values = dict(line.split("=") for line in answer)
+        return int(values["WIDTH"]), int(values["HEIGHT"])
+
+    def resize(self, width, height):
+        """As far as it lets itself be; gives the size then."""
+        before = self.size()
+        self.screen.xdotool("windowsize", self.number, width, height)
+        if before != (width, height):
+            wait_until(lambda: self.size() != before, "another size of the window")
+        self.screen.settle(0.2)
+        return self.size()
+
+    def has_focus(self):
+        return self.screen.xdotool("getwindowfocus") == [self.number]
+
+    def focus(self):
+        self.screen.xdotool("windowfocus", "--sync", self.number)
+
+    def keep_picture(self, path):
+        self.screen.keep_picture(path, self.number)
+
+    def picture(self):
+        return self.screen.picture(self.number)
+
+    def move(self, place):
+        x, y = (round(part) for part in place)
+        self.screen.xdotool("mousemove", "--window", self.number, x, y)
+
+    def click(self, place, times=1, button=BUTTON, delay=60):
+        self.move(place)
+        self.screen.xdotool("click", "--repeat", times, "--delay", delay, button)
+
+    def drag_to(self, start, end, steps=12):
+        """Holds the button down, also afterwards."""
+        self.move(start)
+        self.screen.press()
+        self.drag_on(start, end, steps)
+
+    def drag_on(self, start, end, steps=12):
+        for step in range(1, steps + 1):
+            self.move(a + (b - a) * step / steps for a, b in zip(start, end))
+            time.sleep(STEP_SECONDS)
+
+    def drag(self, start, end, steps=12):
+        self.drag_to(start, end, steps)
+        self.screen.release()
