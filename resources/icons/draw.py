@@ -6,10 +6,14 @@ scales the glyph and sets the stroke, so that strokes are equally heavy everywhe
 """
 
 import os
-import sys
 
-sys.dont_write_bytecode = True
-from glyphs import *  # noqa: E402,F403
+from glyphs import (
+    angleBrackets, apps, bars, bezier, bin_, bird, box, braces, bubbles, calendar, camera, caretLines, chain,
+    circle, clipboard, cloud, dollarPrompt, envelope, eyeClosed, eyeOpen, finInFrame, folderArrow, folderStar,
+    fruit, globe, globeCard, globeLens, hash_, lambdaParens, landscape, landscapeToIcon, laptop, layers,
+    letterA, letterW, loopedSquare, matrixCode, notes, openBook, palette, path, pencil, pie, pilcrow, prompt,
+    scissors, sheetCopy, sheetLines, sheetPlus, sigma, slidePlay, slides, sun, table, textLines, translateCards,
+    window)
 
 HERE = os.path.dirname(os.path.abspath(__file__))
 
@@ -159,7 +163,6 @@ def application():
     return svg('\n'.join((defs, backdrop, rim, menu, pointer)), 128)
 
 
-
 def applicationSmall():
     """The same picture for 16 and 32 pixels: fewer and heavier parts."""
     return svg('<defs><linearGradient id="sky" x1="0" y1="0" x2="0" y2="1">'
@@ -173,7 +176,6 @@ def applicationSmall():
                '<path d="M9 22H15M9 25H13" stroke="#5f7287" stroke-width="2"/>\n'
                '<path d="M18 16V29L21.5 26L27 26Z" fill="#26323e" stroke="#fff" stroke-width="2.4" '
                'stroke-linejoin="round" paint-order="stroke"/>', 32)
-
 
 
 GROUPS = {

@@ -2,6 +2,9 @@
 import re
 
 FRAMEWORKS = ["Runtime", "Foundation", "AppKit", "CoreFoundation", "CoreServices", "QuartzCore", "FinderSync"]
+# The type, the one it extends, those it implements.
+TYPE_HEAD = re.compile(r"^declare (?:class|interface) (\w+)(?:<.*?>)?(?: extends (\w+)(?:<.*?>)?)?"
+                       r"(?: implements (.*))? \{")
 
 
 class Published:
@@ -21,7 +24,7 @@ class Published:
     def read(self, lines):
         current = enum = None
         for line in lines:
-            if match := re.match(r"^declare (?:class|interface) (\w+)(?:<.*?>)?(?: extends (\w+)(?:<.*?>)?)?(?: implements (.*))? \{", line):
+            if match := TYPE_HEAD.match(line):
                 current = self.types.setdefault(match[1], {"parents": [], "members": {}})
                 parents = [match[2]] + re.split(r", ", match[3] or "")
                 current["parents"] += [parent for parent in parents if parent]

@@ -15,7 +15,8 @@ CORNERS = {AT_CORNER: (10, 250), OVER_ITEM: (140, 250), LONG: (270, 250)}
 SCREEN = (1280, 900)
 # In the menu: its rows are as high as this, a separator lower.
 PADDING, ROW, SEPARATOR = 5, 24, 9
-TOPS = {"First": 0, "Disabled": ROW, "Second": 2 * ROW + SEPARATOR, "More": 3 * ROW + SEPARATOR, "Last": 4 * ROW + SEPARATOR}
+TOPS = {"First": 0, "Disabled": ROW, "Second": 2 * ROW + SEPARATOR, "More": 3 * ROW + SEPARATOR,
+        "Last": 4 * ROW + SEPARATOR}
 
 
 class MenuDesktop(Desktop):
@@ -32,7 +33,8 @@ class MenuDesktop(Desktop):
         """Where the open menus are on the screen, the latest last: left, top, width, height."""
         found = []
         for window in self.xdotool("search", "--onlyvisible", "--class", "."):
-            geometry = dict(line.split("=") for line in self.xdotool("getwindowgeometry", "--shell", window) if "=" in line)
+            geometry = dict(line.split("=") for line in self.xdotool("getwindowgeometry", "--shell", window)
+                            if "=" in line)
             if window != self.window and not self.xdotool("getwindowname", window)[:1] == ["Menus"]:
                 found.append(tuple(int(geometry[key]) for key in ("X", "Y", "WIDTH", "HEIGHT")))
         return found

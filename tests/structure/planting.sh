@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # Shared by the scripts beside it: copies of the rooms to plant mistakes in. Sets `work`, whose copy is removed at the end,
 # and counts in `planted`.
 work=$(mktemp -d /tmp/tarnwick-planted.XXXXXX)

@@ -1,4 +1,4 @@
-"""Reads what the linker wrote: the slices of a universal Mach-O file, their libraries, symbols, classes and signature."""
+"""Reads what the linker wrote: the slices of a universal Mach-O file, their libraries, symbols, classes, signature."""
 import hashlib
 import re
 import struct
@@ -93,7 +93,7 @@ class Slice:
         return [self.pointer(address) for address in range(start, start + size, 8)]
 
     def classes(self):
-        """The classes that the run time finds: of each, its data's address lies after four others, the name within it."""
+        """The classes that the run time finds: of each, its data's address is after four others, the name within it."""
         return {text_at(self.data, self.offset(self.pointer((self.pointer(address + 32) & ~7) + 24)))
                 for address in self.listed("__objc_classlist")}
 
