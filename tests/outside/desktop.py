@@ -16,7 +16,7 @@ import pathlib
 import subprocess
 import sys
 
-from harness.stores import GLOBAL, SHARED, USED, Stores
+from harness.stores import GLOBAL, SHARED, TEMPLATES, USED, Stores
 from harness.user_folder import Display, UserFolder
 from harness.waiting import wait_until
 from tests.outside.places import PAGE_OF, PAGES, Places
@@ -62,9 +62,13 @@ class Desktop:
         """Until its window is in sight, with the first page, and its lists are published."""
         self.application = self.run(self.program)
         self.window = self.screen.window("^Tarnwick$", process=self.application)
-        wait_until(self.stores.file(SHARED).exists, "the published lists", process=self.application)
+        wait_until(self.has_published, "the published lists", process=self.application)
         self.screen.settle()
         self.page = PAGES[0]
+
+    def has_published(self):
+        """What each start publishes; the templates come last."""
+        return self.stores.file(SHARED).exists() and self.stores.shared(TEMPLATES) is not None
 
     def run(self, program):
         with open(self.log(program), "ab") as output:

@@ -52,6 +52,8 @@ class Model:
 
     def toggle(self, key, row, field="enable"):
         record = self.lists[key][row]
+        if record.get("Action") in FIXED_ACTIONS:
+            return
         on = not is_on(record, field) and record.get("realPath") != "Undefined"
         self.replace(key, row, {field: int(on)})
 

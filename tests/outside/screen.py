@@ -7,6 +7,7 @@ from harness.waiting import wait_until, wait_until_steady
 
 # A hand is no faster, and programs tell a drag from a click by it.
 STEP_SECONDS = 0.04
+PROGRAM_SECONDS = 30
 BUTTON, WHEEL_UP, WHEEL_DOWN = 1, 4, 5
 
 # The keys by what they are for: the program calls the left Alt key Command and the right one Option.
@@ -27,9 +28,17 @@ class Screen:
     def __init__(self, environment):
         self.environment = environment
 
+    def run(self, *command, **more):
+        """Of a window that has gone, some programs wait for the next."""
+        return subprocess.run([str(word) for word in command], env=self.environment, capture_output=True,
+                              timeout=PROGRAM_SECONDS, check=True, **more).stdout
+
     def xdotool(self, *arguments):
-        return subprocess.run(["xdotool", *(str(argument) for argument in arguments)], env=self.environment,
-                              capture_output=True, text=True, check=False).stdout.split()
+        """What it answers, in words; none when it finds nothing."""
+        try:
+            return self.run("xdotool", *arguments).decode().split()
+        except subprocess.CalledProcessError:
+            return []
 
     def windows(self, title):
         """The windows in sight whose titles match the expression."""
@@ -40,11 +49,10 @@ class Screen:
         return wait_until(lambda: self.windows(title), f"a window {title}", seconds, process)[-1]
 
     def picture(self, window="root"):
-        return subprocess.run(["import", "-window", window, "-depth", "8", "ppm:-"], env=self.environment,
-                              capture_output=True, check=True).stdout
+        return self.run("import", "-window", window, "-depth", "8", "ppm:-")
 
     def keep_picture(self, path, window="root"):
-        subprocess.run(["import", "-window", window, "-depth", "8", str(path)], env=self.environment, check=True)
+        self.run("import", "-window", window, "-depth", "8", path)
 
     def settle(self, still=0.0):
         """Until two pictures in a row are the same, and all those in between."""
@@ -60,6 +68,8 @@ class Screen:
 
     def wheel(self, steps):
         """Down; up when negative."""
+        if steps == 0:
+            return
         self.xdotool("click", "--repeat", abs(steps), "--delay", 20, WHEEL_DOWN if steps > 0 else WHEEL_UP)
 
     # The keyboard

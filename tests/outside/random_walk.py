@@ -1,0 +1,172 @@
+"""python3 -m tests.outside.random_walk PROGRAM STEPS SEED: a person who does one thing after another, without waiting
+for what comes of it. Both stores and the template files are looked at after every fifth."""
+
+import random
+import sys
+import time
+
+from harness.stores import COMMON_FOLDERS, COPY_TARGETS, LISTS, folder_records
+from tests.outside.checks import starter
+from tests.outside.model import FIXED_ACTIONS
+from tests.outside.places import PAGE_OF
+from tests.outside.screen import command, option_command
+
+SETTINGS = {COPY_TARGETS: folder_records(9), COMMON_FOLDERS: folder_records(9)}
+# These cannot be removed, and of these the fixed ones neither moved nor renamed.
+PROTECTED_ACTIONS = [*FIXED_ACTIONS, "Screenshots by Snapfin", "Pin\u3001Annotation by Snapfin"]
+SIZES = ((940, 646), (920, 526), (1100, 800))
+FEWEST_ROWS = 4
+# Two clicks at one place within a shorter time are a double click, and so are one and a turn of the wheel.
+PAUSE_SECONDS = 0.35
+
+
+class Walk:
+    """Each step may find that there is nothing for it to do."""
+
+    def __init__(self, desktop, model, seed):
+        self.desktop, self.model, self.random = desktop, model, random.Random(seed)
+        self.selected = dict.fromkeys(LISTS)
+        self.is_editing = False
+        self.texts = 0
+
+    @property
+    def key(self):
+        return self.desktop.page.key
+
+    @property
+    def records(self):
+        return self.model.lists[self.key]
+
+    def any_row(self, unlike=()):
+        """One that is in sight, whose action is none of those."""
+        rows = range(min(len(self.records), self.desktop.places.rows_in_sight(self.desktop.page)))
+        return self.random.choice([row for row in rows if self.records[row].get("Action") not in unlike])
+
+    def select(self, row):
+        """A click on the row that is selected would begin to edit it."""
+        if self.selected[self.key] != row:
+            self.desktop.click("cell", row)
+        else:
+            self.desktop.click("cell", row + 1 if row == 0 else row - 1)
+            self.desktop.click("cell", row)
+        self.selected[self.key] = row
+        self.is_editing = False
+
+    # The steps
+
+    def show_another_page(self):
+        page = PAGE_OF[self.random.choice(LISTS)]
+        if self.random.random() < 0.5:
+            self.desktop.window.click(self.desktop.places.page_button(page))
+        else:
+            self.desktop.screen.key(command(str(LISTS.index(page.key) + 1)))
+        self.desktop.page = page
+        self.is_editing = False
+
+    def remove(self):
+        if len(self.records) > FEWEST_ROWS:
+            row = self.any_row(PROTECTED_ACTIONS)
+            self.select(row)
+            if self.random.random() < 0.5:
+                self.desktop.click("remove")
+            else:
+                self.desktop.screen.key("Delete")
+            self.selected[self.key] = self.model.remove(self.key, row)
+
+    def switch(self):
+        if self.desktop.page.switch_column:
+            row = self.any_row()
+            self.desktop.click("row_switch", row)
+            self.is_editing = False
+            self.model.toggle(self.key, row)
+
+    def switch_by_key(self):
+        if self.desktop.page.switch_column:
+            row = self.any_row()
+            self.select(row)
+            self.desktop.screen.settle(0.1)
+            self.desktop.screen.key("space")
+            self.model.toggle(self.key, row)
+
+    def switch_all(self):
+        if self.desktop.page.has_enable_all:
+            self.desktop.click("enable_all")
+            self.is_editing = False
+            self.model.enable_all(self.key, not self.model.is_all_on(self.key))
+
+    def rename(self):
+        row = self.any_row(FIXED_ACTIONS)
+        self.texts += 1
+        text = f"Name {self.texts}"
+        self.desktop.click("cell", row, times=2)
+        self.desktop.screen.key(command("a"))
+        self.desktop.screen.type(text)
+        ending = self.random.choice(["Return", "Tab", "Escape", None])
+        if ending:
+            self.desktop.screen.key(ending)
+        self.selected[self.key], self.is_editing = row, ending is None
+        if ending != "Escape":
+            self.model.edit(self.key, row, self.desktop.page.name_column, text)
+
+    def drag(self):
+        row = self.any_row(FIXED_ACTIONS)
+        gap = self.any_row()
+        if abs(gap - row) > 1:
+            places, page = self.desktop.places, self.desktop.page
+            self.desktop.window.drag(places.cell(page, row), places.cell(page, gap, height=0.05), steps=6)
+            self.model.drop(self.key, row, gap)
+            self.selected[self.key], self.is_editing = None, False
+
+    def move_by_key(self):
+        row = self.any_row(FIXED_ACTIONS)
+        self.select(row)
+        step = self.random.choice([-1, 1])
+        self.desktop.screen.key(option_command("Up" if step < 0 else "Down"))
+        if 0 <= row + step < len(self.records):
+            self.model.drop(self.key, row, row + step)
+            self.selected[self.key] = row + step
+
+    def reset(self):
+        """Of a list that has a factory's; which row is selected then is of no importance."""
+        if self.desktop.page.has_reset and self.key != COPY_TARGETS:
+            self.desktop.click("reset")
+            self.model.reset(self.key)
+            self.is_editing = False
+            time.sleep(PAUSE_SECONDS)
+            self.select(1)
+            self.select(0)
+
+    def turn_the_wheel(self):
+        self.desktop.window.move(self.desktop.places.cell(self.desktop.page, 0))
+        self.desktop.screen.wheel(6)
+        self.desktop.screen.wheel(-12)
+
+    def resize(self):
+        self.desktop.window.resize(*self.random.choice(SIZES))
+
+    STEPS = (show_another_page, remove, switch, switch_by_key, switch_all, rename, rename, drag, drag, move_by_key,
+             reset, turn_the_wheel, resize)
+
+    def go(self, steps):
+        done = []
+        for number in range(1, steps + 1):
+            step = self.random.choice(self.STEPS)
+            step(self)
+            done.append(f"{step.__name__} in {self.key}")
+            time.sleep(PAUSE_SECONDS)
+            if number % 5 == 0 or number == steps:
+                if self.is_editing:
+                    self.desktop.screen.key("Return")
+                    self.is_editing = False
+                self.model.expect(f"{number} steps, the last of them {', '.join(done[-8:])}")
+
+
+def main():
+    program, steps, seed = sys.argv[1], int(sys.argv[2]), int(sys.argv[3])
+    with starter(program, f"random-walk-{seed}")(**SETTINGS) as (desktop, model):
+        Walk(desktop, model, seed).go(steps)
+    print(f"random walk: {steps} steps from seed {seed}, both stores and the template files as expected")
+
+
+if __name__ == "__main__":
+    main()

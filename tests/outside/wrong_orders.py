@@ -1,0 +1,94 @@
+"""python3 -m tests.outside.wrong_orders PROGRAM: what a person does too fast, or in the middle of something else. Both
+stores and the template files are looked at after each step."""
+
+import signal
+
+from harness.stores import ACTIONS, COMMON_FOLDERS, ICONS, TEMPLATES, folder_records
+from tests.outside.checks import require, run_checks
+from tests.outside.places import PAGE_OF
+from tests.outside.screen import command
+
+GAP = 0.05
+FAST = 10
+
+
+def clicks_in_a_row_count_each(start):
+    with start() as (desktop, model):
+        desktop.select(4)
+        desktop.click("remove", times=2, delay=FAST)
+        model.remove(TEMPLATES, model.remove(TEMPLATES, 4))
+        model.expect("two rows less")
+        for key, row in ((TEMPLATES, 1), (ICONS, 2), (ACTIONS, 0)):
+            desktop.show_list(key)
+            for times in (2, 3):
+                desktop.click("row_switch", row, times=times, delay=FAST)
+                for _ in range(times):
+                    model.toggle(key, row)
+                model.expect(f"{times} clicks on a row switch of {key}")
+                desktop.click("enable_all", times=times, delay=FAST)
+                for _ in range(times):
+                    model.enable_all(key, not model.is_all_on(key))
+                model.expect(f"{times} clicks on the switch of all rows of {key}")
+
+
+def deleting_goes_on_until_the_list_is_empty(start):
+    with start(**{COMMON_FOLDERS: folder_records(6)}) as (desktop, model):
+        desktop.show_list(COMMON_FOLDERS)
+        desktop.select(3)
+        row = 3
+        for _ in range(6):
+            row = model.remove(COMMON_FOLDERS, row)
+        desktop.screen.key(*["Delete"] * 9)
+        model.expect("an empty list")
+        desktop.click("remove", times=2, delay=FAST)
+        model.expect("still an empty list")
+
+
+def a_row_is_dragged_while_the_wheel_turns(start):
+    with start() as (desktop, model):
+        places, page = desktop.places, PAGE_OF[TEMPLATES]
+        first, middle, last = places.cell(page, 1), places.cell(page, 5), places.cell(page, 7, height=GAP)
+        desktop.window.drag_to(first, middle)
+        desktop.screen.wheel(4)
+        desktop.window.drag_on(middle, last)
+        desktop.screen.release()
+        model.drop(TEMPLATES, 1, 7)
+        model.expect("the row where it was let go")
+        desktop.window.drag_to(places.cell(page, 2), middle)
+        desktop.screen.key(command("2"), "Delete", "space", "Return")
+        desktop.window.drag_on(middle, (20, 400))
+        desktop.screen.release()
+        desktop.screen.settle(0.5)
+        model.expect("no change by a drag that ends elsewhere")
+        require(not desktop.has_ended(), "the application has ended")
+
+
+def quitting_in_the_middle_of_a_drag_keeps_the_list(start):
+    with start() as (desktop, model):
+        page = desktop.page
+        desktop.window.drag_to(desktop.places.cell(page, 1), desktop.places.cell(page, 5, height=GAP))
+        desktop.screen.key(command("q"))
+        desktop.screen.release()
+        status = desktop.wait_for_end()
+        model.drop(TEMPLATES, 1, 5)
+        model.expect("the row where it was let go")
+        require(status == 0, f"the application ended with status {status}")
+
+
+def a_request_to_end_in_the_middle_of_a_drag_keeps_the_list(start):
+    with start() as (desktop, model):
+        page = desktop.page
+        desktop.window.drag_to(desktop.places.cell(page, 1), desktop.places.cell(page, 5, height=GAP))
+        desktop.application.send_signal(signal.SIGTERM)
+        status = desktop.wait_for_end()
+        model.expect("the list as it was")
+        require(status == 0, f"the application ended with status {status}")
+        desktop.screen.release()
+        desktop.start()
+        model.expect("the list as it was, after another start")
+
+
+if __name__ == "__main__":
+    run_checks(clicks_in_a_row_count_each, deleting_goes_on_until_the_list_is_empty,
+               a_row_is_dragged_while_the_wheel_turns, quitting_in_the_middle_of_a_drag_keeps_the_list,
+               a_request_to_end_in_the_middle_of_a_drag_keeps_the_list)
