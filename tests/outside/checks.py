@@ -1,5 +1,5 @@
-"""Checks from outside: each gets a way to start the application, prints its name as a sentence, and ends the program
-with status 1 when it is wrong."""
+"""Checks from outside: each gets a way to start its program, prints its name as a sentence, and ends this one with
+status 1 when it is wrong."""
 
 import contextlib
 import os
@@ -15,25 +15,31 @@ def require(holds, what):
         raise AssertionError(what)
 
 
-def starter(program, name):
+@contextlib.contextmanager
+def watched(session, name):
+    """That nothing goes wrong unseen; a picture is kept where TARNWICK_PICTURES says."""
+    try:
+        yield
+        complaints = [line for line in session.said().splitlines() if "exception" in line.lower()]
+        require(not complaints, f"said: {complaints[:3]}")
+    except BaseException:
+        if folder := os.environ.get("TARNWICK_PICTURES"):
+            session.screen.keep_picture(f"{folder}/{name}.png")
+        raise
+
+
+def application(program, name):
     @contextlib.contextmanager
-    def start(**settings):
+    def start(settings=None, **options):
         """The application over these settings, and the model of what is stored."""
-        with Desktop(program, settings) as desktop:
+        with Desktop(program, settings or {}, **options) as desktop, watched(desktop, name):
             model = Model(desktop.stores)
             model.expect("what a start stores")
-            try:
-                yield desktop, model
-                complaints = [line for line in desktop.said().splitlines() if "exception" in line.lower()]
-                require(not complaints, f"said: {complaints[:3]}")
-            except BaseException:
-                if folder := os.environ.get("TARNWICK_PICTURES"):
-                    desktop.screen.keep_picture(f"{folder}/{name}.png")
-                raise
+            yield desktop, model
     return start
 
 
-def run_checks(*checks):
+def run_checks(*checks, starter=application):
     """All of them, or those that are named after the program, as prefixes."""
     program, wanted = sys.argv[1], sys.argv[2:]
     failed = 0

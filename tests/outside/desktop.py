@@ -11,83 +11,42 @@ To try it by hand, from the project's root:
 """
 
 import atexit
-import contextlib
-import pathlib
-import subprocess
 import sys
 
-from harness.stores import GLOBAL, SHARED, TEMPLATES, USED, Stores
-from harness.user_folder import Display, UserFolder
+from harness.stores import COMMON_FOLDERS, GLOBAL, LISTS, SHARED, USED, Stores
 from harness.waiting import wait_until
 from tests.outside.places import PAGE_OF, PAGES, Places
-from tests.outside.screen import Screen, command
+from tests.outside.screen import command
+from tests.outside.session import Session
 
-END_SECONDS = 20
+PUBLISHED_AT_START = set(LISTS) - {COMMON_FOLDERS}
 
 
-class Desktop:
+class Desktop(Session):
     """One application in one user folder. `settings` are in its store before it starts; without any, not even an empty
     dictionary, it is a first launch, whose prompt stands open. The language is that of a table of texts; the places of
     buttons are those of English."""
 
-    def __init__(self, program, settings=None, is_dark=False, language="en"):
-        self.program, self.page = pathlib.Path(program).resolve(), PAGES[0]
-        with contextlib.ExitStack() as stack:
-            self.user = stack.enter_context(UserFolder())
-            self.stores = Stores(self.user)
-            if settings is not None:
-                self.stores.write({**USED, **settings})
-            if is_dark:
-                self.stores.write({"AppleInterfaceStyle": "Dark"}, GLOBAL)
-            display = stack.enter_context(Display())
-            self.screen = Screen(self.user.environment(DISPLAY=display.name, LANGUAGE=language))
-            stack.callback(self.run("openbox").kill)
-            self.start()
-            self.stack = stack.pop_all()
+    title = "^Tarnwick$"
 
-    def __enter__(self):
-        return self
+    def __init__(self, program, settings=None, is_dark=False, language="en", has_window_manager=True):
+        self.settings, self.is_dark = settings, is_dark
+        super().__init__(program, has_window_manager, LANGUAGE=language)
 
-    def __exit__(self, *_):
-        self.close()
-
-    def close(self):
-        self.application.kill()
-        self.application.wait(END_SECONDS)
-        self.stack.close()
-
-    # The application
+    def prepare(self):
+        self.stores = Stores(self.user)
+        if self.settings is not None:
+            self.stores.write({**USED, **self.settings})
+        if self.is_dark:
+            self.stores.write({"AppleInterfaceStyle": "Dark"}, GLOBAL)
 
     def start(self):
-        """Until its window is in sight, with the first page, and its lists are published."""
-        self.application = self.run(self.program)
-        self.window = self.screen.window("^Tarnwick$", process=self.application)
-        wait_until(self.has_published, "the published lists", process=self.application)
-        self.screen.settle()
+        super().start()
         self.page = PAGES[0]
 
-    def has_published(self):
-        """What each start publishes; the templates come last."""
-        return self.stores.file(SHARED).exists() and self.stores.shared(TEMPLATES) is not None
-
-    def run(self, program):
-        with open(self.log(program), "ab") as output:
-            return subprocess.Popen([program], env=self.screen.environment, stdout=output, stderr=output)
-
-    def log(self, program):
-        return pathlib.Path(self.user.name, f"{pathlib.Path(program).name}.log")
-
-    def said(self):
-        """What the application wrote to its standard streams."""
-        return self.log(self.program).read_text(errors="replace")
-
-    def has_ended(self):
-        return self.application.poll() is not None
-
-    def wait_for_end(self):
-        """The status that the application ends with."""
-        wait_until(self.has_ended, "the end of the application")
-        return self.application.returncode
+    def is_ready(self):
+        """Each start publishes its lists."""
+        return self.stores.file(SHARED).exists() and PUBLISHED_AT_START <= self.stores.read(SHARED).keys()
 
     # What a person does
 
@@ -106,9 +65,12 @@ class Desktop:
     def show_list(self, key):
         self.show(PAGE_OF[key])
 
+    def place(self, name, *arguments):
+        """Of a control of the page, by its name among the places: "remove", "reset", "row_switch", 3."""
+        return getattr(self.places, name)(self.page, *arguments)
+
     def click(self, name, *arguments, times=1, delay=60):
-        """A control of the page, by its name among the places: "remove", "reset", "row_switch", 3."""
-        self.window.click(getattr(self.places, name)(self.page, *arguments), times, delay=delay)
+        self.window.click(self.place(name, *arguments), times, delay=delay)
 
     def select(self, row):
         """A second click on it, after a while, would begin to edit it."""

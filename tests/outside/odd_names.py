@@ -30,7 +30,7 @@ def rename(desktop, model, key, row, name, column=None):
 
 
 def name_every_row(start, *keys):
-    with start(**SETTINGS) as (desktop, model):
+    with start(SETTINGS) as (desktop, model):
         for key in keys:
             desktop.show_list(key)
             for row, name in enumerate(NAMES):

@@ -1,13 +1,23 @@
-"""python3 -m tests.outside.open_panel PROGRAM: a panel asks for a folder, and something else is done. Both stores and
-the template files are looked at after each step."""
+"""python3 -m tests.outside.open_panel PROGRAM: what is added is chosen in a panel, which is typed into, looked at, and
+left for something else. Both stores and the template files are looked at after each step."""
 
+import base64
 import pathlib
 
-from harness.stores import COPY_TARGETS
+from harness.stores import COPY_TARGETS, ICONS, TEMPLATES
+from harness.waiting import wait_until
 from tests.outside.checks import require, run_checks
 from tests.outside.panels import OpenPanel
+from tests.outside.picture import Picture, contrast
 from tests.outside.places import PAGES
 from tests.outside.screen import command
+
+# Of the panel, from its upper left: left, top, right, bottom.
+INSIDE_OK_BUTTON = (314, 399, 366, 414)
+# The pixels of the line that blinks in a text field.
+CARET = 40
+PIXEL = base64.b64decode(
+    "iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAYAAAAfFcSJAAAADUlEQVR4nGP4z8DwHwAFAAH/iZk9HQAAAABJRU5ErkJggg==")
 
 
 def folders_of(desktop, *names):
@@ -17,17 +27,67 @@ def folders_of(desktop, *names):
     return [str(path) for path in paths]
 
 
+def folder_of(desktop, *names, content=b"x"):
+    folder = pathlib.Path(desktop.user.name, "chosen")
+    folder.mkdir()
+    for name in names:
+        (folder / name).write_bytes(content)
+    return folder
+
+
+def ask(desktop):
+    desktop.click("add")
+    return OpenPanel(desktop.screen)
+
+
+def expect_last(desktop, key, name):
+    wait_until(lambda: desktop.stores.local(key)[-1]["displayName"] == name, f"{name} at the end of {key}")
+
+
+def a_panel_can_be_read_and_looks_the_same_the_second_time(start):
+    with start() as (desktop, model):
+        panel = ask(desktop)
+        first = panel.window.picture()
+        seen = contrast(Picture(first).colours(*INSIDE_OK_BUTTON))
+        require(seen >= 4.5, f"the contrast of the disabled default button's title is {seen:.1f}")
+        panel.cancel()
+        panel = ask(desktop)
+        second = panel.window.picture()
+        different = sum(one != other for one, other in zip(first, second))
+        require(len(second) == len(first) and different <= 3 * CARET,
+                f"the second time the panel looks another way, in {different} values")
+        panel.cancel()
+        model.expect("no change by cancelled panels")
+
+
+def files_are_chosen_by_their_paths_and_by_any_names(start):
+    with start() as (desktop, _):
+        names = ("a:b", "C:x", "c\\d")
+        folder = folder_of(desktop, "Letter.rtf", *(f"{name}.txt" for name in names))
+        ask(desktop).choose(folder / "Letter.rtf")
+        expect_last(desktop, TEMPLATES, "Letter")
+        for name in names:
+            ask(desktop).choose_in(folder, f"{name}.txt")
+            expect_last(desktop, TEMPLATES, name)
+
+
+def a_type_is_one_in_capitals_too(start):
+    with start() as (desktop, _):
+        folder = folder_of(desktop, "Red.PNG", content=PIXEL)
+        desktop.show_list(ICONS)
+        ask(desktop).choose_in(folder, "Red.PNG")
+        expect_last(desktop, ICONS, "Red.PNG")
+
+
 def buttons_behind_a_panel_do_nothing(start):
     with start() as (desktop, model):
         one, two = folders_of(desktop, "One", "Two")
         desktop.show_list(COPY_TARGETS)
-        desktop.click("add")
-        OpenPanel(desktop.screen).choose(one)
+        ask(desktop).choose(one)
         model.add_folders(COPY_TARGETS, one)
         model.expect("the folder that was chosen")
         desktop.select(0)
-        desktop.click("add")
-        panel = OpenPanel(desktop.screen)
+        panel = ask(desktop)
         places, page = desktop.places, desktop.page
         for place in (places.remove(page), places.reset(), places.row_switch(page, 0), places.cell(page, 0),
                       places.switch(1), places.page_button(PAGES[0]), places.add()):
@@ -41,8 +101,7 @@ def buttons_behind_a_panel_do_nothing(start):
         desktop.click("row_switch", 0)
         model.toggle(COPY_TARGETS, 0)
         model.expect("a switch that works after it")
-        desktop.click("add")
-        OpenPanel(desktop.screen).choose(two)
+        ask(desktop).choose(two)
         model.add_folders(COPY_TARGETS, two)
         model.expect("the other folder")
 
@@ -51,8 +110,7 @@ def opening_a_panel_ends_an_edit_into_its_row(start):
     with start() as (desktop, model):
         one, two = folders_of(desktop, "One", "Two")
         desktop.show_list(COPY_TARGETS)
-        desktop.click("add")
-        OpenPanel(desktop.screen).choose(one)
+        ask(desktop).choose(one)
         model.add_folders(COPY_TARGETS, one)
         desktop.start_typing(0, "Typed")
         desktop.screen.key(command("n"))
@@ -71,8 +129,7 @@ def opening_a_panel_ends_an_edit_into_its_row(start):
 def ending_with_an_open_panel_keeps_the_lists(start):
     with start() as (desktop, model):
         desktop.show_list(COPY_TARGETS)
-        desktop.click("add")
-        OpenPanel(desktop.screen)
+        ask(desktop)
         desktop.application.terminate()
         status = desktop.wait_for_end()
         model.expect("the lists as they were")
@@ -80,5 +137,6 @@ def ending_with_an_open_panel_keeps_the_lists(start):
 
 
 if __name__ == "__main__":
-    run_checks(buttons_behind_a_panel_do_nothing, opening_a_panel_ends_an_edit_into_its_row,
-               ending_with_an_open_panel_keeps_the_lists)
+    run_checks(a_panel_can_be_read_and_looks_the_same_the_second_time, files_are_chosen_by_their_paths_and_by_any_names,
+               a_type_is_one_in_capitals_too, buttons_behind_a_panel_do_nothing,
+               opening_a_panel_ends_an_edit_into_its_row, ending_with_an_open_panel_keeps_the_lists)

@@ -17,22 +17,24 @@ class OpenPanel:
         return bool(self.screen.windows(TITLE))
 
     def enter(self, text):
-        """In place of the name that stands there."""
+        """In place of what stands there."""
         self.screen.key("End", "Shift_L+Home")
         self.screen.type(text)
         self.screen.settle(0.1)
 
+    def confirm(self):
+        self.screen.key("Return")
+        wait_until(lambda: not self.is_open(), "the end of the confirmed panel")
+
     def choose(self, path):
-        """Its folder first, then its name: the panel takes no whole path. Return confirms a file; a folder is gone into
-        by the first Return, and chosen by the second."""
-        folder, _, name = str(path).rpartition("/")
-        self.enter(folder)
+        self.enter(str(path))
+        self.confirm()
+
+    def choose_in(self, folder, name):
+        """Goes into the folder first, then takes what is there."""
+        self.enter(f"{folder}/")
         self.enter(name)
-        for _ in range(2):
-            if self.is_open():
-                self.screen.key("Return")
-                self.screen.settle(0.3)
-        wait_until(lambda: not self.is_open(), f"the end of the panel for {path}")
+        self.confirm()
 
     def cancel(self):
         self.window.focus()

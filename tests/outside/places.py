@@ -94,6 +94,10 @@ class Places:
 
     # A page, from the top
 
+    def heading(self, _=None):
+        """Right of its title, where nothing is."""
+        return (self.left + self.right) / 2, self.top + constant("PageFrame.margin")
+
     def heading_end(self):
         return (self.top + constant("PageFrame.margin") + constant("PageFrame.headingHeight") + 2
                 + constant("PageFrame.explanationHeight") + constant("PageFrame.headingGap"))
@@ -121,6 +125,9 @@ class Places:
     def table_bottom(self):
         return (self.middle - constant("PageViewBuilder.buttonBarHeight") / 2 - constant("PageViewBuilder.gap")
                 - TABLE_FRAME)
+
+    def below_rows(self, _=None):
+        return self.left + 100, self.table_bottom() - 5
 
     def rows_in_sight(self, page):
         return int((self.table_bottom() - self.first_row_top(page)) // constant("CellView.rowHeight"))

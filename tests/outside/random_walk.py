@@ -6,7 +6,7 @@ import sys
 import time
 
 from harness.stores import COMMON_FOLDERS, COPY_TARGETS, LISTS, folder_records
-from tests.outside.checks import starter
+from tests.outside.checks import application
 from tests.outside.model import FIXED_ACTIONS
 from tests.outside.places import PAGE_OF
 from tests.outside.screen import command, option_command
@@ -163,7 +163,7 @@ class Walk:
 
 def main():
     program, steps, seed = sys.argv[1], int(sys.argv[2]), int(sys.argv[3])
-    with starter(program, f"random-walk-{seed}")(**SETTINGS) as (desktop, model):
+    with application(program, f"random-walk-{seed}")(SETTINGS) as (desktop, model):
         Walk(desktop, model, seed).go(steps)
     print(f"random walk: {steps} steps from seed {seed}, both stores and the template files as expected")
 

@@ -1,90 +1,70 @@
-#!/usr/bin/env python3
-"""row_drags.py PROGRAM: rows dragged with a real pointer, and what is left on the screen of the lines that show
-where they would go."""
+"""python3 -m tests.outside.row_drags PROGRAM: rows dragged with a real pointer, and what is left on the screen of the
+lines that show where they would go. Both stores are looked at after each drag."""
 
-import sys
+from harness.stores import TEMPLATES
+from tests.outside.checks import require, run_checks
+from tests.outside.picture import Picture
 
-from desktop import Desktop, wait_until
-
-GRIP, FIRST_ROW, ROW_HEIGHT = 400, 240, 30
-SIDEBAR = (90, 480)
-NOWHERE = (600, 20)
 ACCENT = bytes.fromhex("2f73da")
-
-
-def middle(row):
-    return GRIP, FIRST_ROW + row * ROW_HEIGHT
-
-
-def gap(row):
-    """Just above the row."""
-    return GRIP, FIRST_ROW + row * ROW_HEIGHT - ROW_HEIGHT // 2 + 2
+# Of a row, from its top.
+GAP = 0.07
 
 
 def lines_shown(desktop):
     """How many lines of the accent colour go across the table."""
-    header, size, _, pixels = desktop.picture().split(b"\n", 3)
-    if header != b"P6":
-        raise SystemExit(f"a picture of an unknown kind, {header}")
-    width = int(size.split()[0]) * 3
-    rows = [pixels[place : place + width].count(ACCENT * 100) for place in range(0, len(pixels), width)]
-    return sum(1 for row, above in zip(rows[1:], rows) if row and not above)
+    picture = Picture(desktop.screen.picture())
+    has_line = [ACCENT * 100 in picture.row(y) for y in range(picture.height)]
+    return sum(here and not above for here, above in zip(has_line[1:], has_line))
 
 
 def hold_over(desktop, *places):
     """Takes the first row up and goes from place to place, in one step each."""
-    desktop.drag(middle(0), places[0], release=False)
+    desktop.window.drag_to(desktop.place("cell", 0), places[0])
     for place in places[1:]:
-        desktop.settle()
-        desktop.move(*place)
-    desktop.settle()
+        desktop.screen.settle()
+        desktop.window.move(place)
+    desktop.screen.settle()
+
+
+def point_elsewhere(desktop):
+    desktop.window.move(desktop.place("heading"))
+    desktop.screen.settle()
 
 
 def let_go(desktop):
-    desktop.xdotool("mouseup", 1)
-    desktop.settle()
-    desktop.move(*NOWHERE)
-    desktop.settle()
+    desktop.screen.release()
+    desktop.screen.settle()
+    point_elsewhere(desktop)
 
 
-def a_drag_that_jumps_shows_one_line(desktop):
-    hold_over(desktop, gap(4), gap(7), gap(5))
-    if lines_shown(desktop) != 1:
-        raise SystemExit(f"{lines_shown(desktop)} lines instead of one")
-    let_go(desktop)
-    # A row that moves down lands one place further.
-    wait_until(lambda: desktop.local("arrOfCreateNewFile")[5]["displayName"] == "TXT", "the row in its new place")
-    if lines_shown(desktop):
-        raise SystemExit("the line is still there after the drop")
+def gap(desktop, row):
+    """Just above the row."""
+    return desktop.place("cell", row, None, GAP)
 
 
-def a_refused_drop_leaves_nothing(desktop):
-    desktop.click(*middle(0))
-    desktop.move(*NOWHERE)
-    desktop.settle()
-    before = desktop.picture()
-    hold_over(desktop, gap(4), gap(7), middle(5))
-    let_go(desktop)
-    if desktop.picture() != before:
-        raise SystemExit("the screen is another one after a refused drop")
+def a_drag_that_jumps_shows_one_line(start):
+    with start() as (desktop, model):
+        hold_over(desktop, gap(desktop, 4), gap(desktop, 7), gap(desktop, 5))
+        require(lines_shown(desktop) == 1, f"{lines_shown(desktop)} lines instead of one")
+        let_go(desktop)
+        model.drop(TEMPLATES, 0, 5)
+        model.expect("the row in its new place")
+        require(lines_shown(desktop) == 0, "the line is still there after the drop")
 
 
-def a_drag_out_of_the_table_leaves_nothing(desktop):
-    before = desktop.picture()
-    hold_over(desktop, gap(4), gap(7), SIDEBAR)
-    if lines_shown(desktop):
-        raise SystemExit("a line is shown although the pointer is elsewhere")
-    let_go(desktop)
-    if desktop.picture() != before:
-        raise SystemExit("the screen is another one after a drag that went out of the table")
+def a_drag_that_comes_to_nothing_leaves_nothing(start):
+    with start() as (desktop, model):
+        desktop.select(0)
+        point_elsewhere(desktop)
+        before = desktop.screen.picture()
+        # Onto a row, which is refused, and out of the table.
+        for end in (desktop.place("cell", 5), (20, desktop.place("cell", 5)[1])):
+            hold_over(desktop, gap(desktop, 4), gap(desktop, 7), end)
+            require(lines_shown(desktop) == 0, f"a line is shown while the pointer is at {end}")
+            let_go(desktop)
+            require(desktop.screen.picture() == before, f"the screen is another one after a drag to {end}")
+        model.expect("the list as it was")
 
 
 if __name__ == "__main__":
-    with Desktop(sys.argv[1]) as the_desktop:
-        for part in (
-            a_drag_that_jumps_shows_one_line,
-            a_refused_drop_leaves_nothing,
-            a_drag_out_of_the_table_leaves_nothing,
-        ):
-            part(the_desktop)
-            print(part.__name__.replace("_", " "))
+    run_checks(a_drag_that_jumps_shows_one_line, a_drag_that_comes_to_nothing_leaves_nothing)

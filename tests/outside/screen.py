@@ -1,5 +1,6 @@
 """A screen with a window manager, a pointer and a keyboard."""
 
+import re
 import subprocess
 import time
 
@@ -8,10 +9,11 @@ from harness.waiting import wait_until, wait_until_steady
 # A hand is no faster, and programs tell a drag from a click by it.
 STEP_SECONDS = 0.04
 PROGRAM_SECONDS = 30
-BUTTON, WHEEL_UP, WHEEL_DOWN = 1, 4, 5
+BUTTON, RIGHT_BUTTON, WHEEL_UP, WHEEL_DOWN = 1, 3, 4, 5
 
 # The keys by what they are for: the program calls the left Alt key Command and the right one Option.
-COMMAND, OPTION, SHIFT = "Alt_L", "Alt_R", "Shift_L"
+COMMAND, OPTION, CONTROL = "Alt_L", "Alt_R", "Control_L"
+GEOMETRY = re.compile(r"(?:Absolute upper-left [XY]|Width|Height): +(-?\d+)")
 
 
 def command(key):
@@ -40,9 +42,15 @@ class Screen:
         except subprocess.CalledProcessError:
             return []
 
+    def has_window_manager(self):
+        return b"window id" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
+
     def windows(self, title):
         """The windows in sight whose titles match the expression."""
         return [Window(self, number) for number in self.xdotool("search", "--onlyvisible", "--name", title)]
+
+    def windows_of_class(self, expression):
+        return [Window(self, number) for number in self.xdotool("search", "--onlyvisible", "--class", expression)]
 
     def window(self, title, seconds=20, process=None):
         """The latest such window, once there is one."""
@@ -59,6 +67,14 @@ class Screen:
         wait_until_steady(self.picture, "a quiet screen", still)
 
     # The pointer
+
+    def move(self, place):
+        self.xdotool("mousemove", *(round(part) for part in place))
+
+    def click(self, place, button=BUTTON):
+        self.move(place)
+        self.press(button)
+        self.release(button)
 
     def press(self, button=BUTTON):
         self.xdotool("mousedown", button)
@@ -98,10 +114,22 @@ class Window:
     def __init__(self, screen, number):
         self.screen, self.number = screen, number
 
+    def title(self):
+        return " ".join(self.screen.xdotool("getwindowname", self.number))
+
+    def geometry(self):
+        """Of what is inside its frame, on the screen: left, top, width, height."""
+        return tuple(map(int, GEOMETRY.findall(self.screen.run("xwininfo", "-id", self.number).decode())))
+
     def size(self):
-        answer = self.screen.xdotool("getwindowgeometry", "--shell", self.number)
-        values = dict(line.split("=") for line in answer)
-        return int(values["WIDTH"]), int(values["HEIGHT"])
+        return self.geometry()[2:]
+
+    def on_screen(self, place):
+        left, top, _, _ = self.geometry()
+        return left + place[0], top + place[1]
+
+    def move_to(self, left, top):
+        self.screen.xdotool("windowmove", "--sync", self.number, left, top)
 
     def resize(self, width, height):
         """As far as it lets itself be; gives the size then."""

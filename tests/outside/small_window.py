@@ -38,7 +38,7 @@ def use_every_page(desktop, model):
 
 
 def the_smallest_window_can_be_used(start):
-    with start(**FOLDERS) as (desktop, model):
+    with start(FOLDERS) as (desktop, model):
         size = desktop.window.resize(100, 100)
         require(size == SMALLEST, f"the window becomes {size}, not {SMALLEST}")
         use_every_page(desktop, model)
@@ -49,7 +49,7 @@ def the_smallest_window_can_be_used(start):
 
 
 def a_large_window_can_be_used(start):
-    with start(**FOLDERS) as (desktop, model):
+    with start(FOLDERS) as (desktop, model):
         desktop.window.resize(1270, 860)
         use_every_page(desktop, model)
 

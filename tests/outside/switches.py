@@ -1,65 +1,51 @@
-#!/usr/bin/env python3
-"""switches.py PROGRAM: the page buttons and the option switches, with a real pointer: their tool tips, and how far
-they can be clicked."""
+"""python3 -m tests.outside.switches PROGRAM: the page buttons and the option switches, with a real pointer: their tool
+tips, and how far they can be clicked."""
 
-import sys
+from harness.waiting import wait_until
+from tests.outside.checks import require, run_checks
+from tests.outside.places import PAGES
 
-from desktop import Desktop, wait_until
-
-PAGE_BUTTON, FIRST_PAGE, PAGE_PITCH = 100, 64, 40
-LEFT, RIGHT, UPPER, LOWER = 300, 640, 125, 151
-NOWHERE = (600, 20)
-ENABLE_ALL = 185
-# Where the option switches of each page stand.
-SWITCHES = (
-    [(LEFT, UPPER), (RIGHT, UPPER), (LEFT, LOWER), (RIGHT, LOWER)],
-    [(LEFT, UPPER), (RIGHT, UPPER), (LEFT, LOWER), (RIGHT, LOWER)],
-    [(LEFT, UPPER), (RIGHT, UPPER)],
-    [(LEFT, UPPER)],
-    [(LEFT, UPPER), (RIGHT, UPPER), (LEFT, LOWER), (RIGHT, LOWER)],
-    [],
-)
+TIP = "^Window$"
+OPENING, SECOND_OPTION = "enableAutoOpenAfterCreateNewFile", 1
+INSIDE_TITLE = 25
 
 
-def page_button(page):
-    return PAGE_BUTTON, FIRST_PAGE + page * PAGE_PITCH
+def expect_tip(desktop, what, place):
+    desktop.window.move(desktop.place("heading"))
+    wait_until(lambda: not desktop.screen.windows(TIP), "the end of a tool tip")
+    desktop.screen.settle()
+    desktop.window.move(place)
+    wait_until(lambda: desktop.screen.windows(TIP), f"the tool tip of {what}")
 
 
-def expect_tip(desktop, place):
-    desktop.move(*NOWHERE)
-    wait_until(lambda: not desktop.find("^Window$"), "the end of a tool tip")
-    desktop.settle()
-    desktop.move(*place)
-    wait_until(lambda: desktop.find("^Window$"), f"the tool tip at {place}")
+def every_page_button_and_option_switch_shows_its_tool_tip(start):
+    with start() as (desktop, _):
+        for page in PAGES:
+            desktop.show(page)
+            expect_tip(desktop, f"the button of {page.title}", desktop.place("page_button"))
+            for number in range(page.switches):
+                expect_tip(desktop, f"switch {number} of {page.title}", desktop.places.switch(number))
 
 
-def every_page_button_and_option_switch_shows_its_tool_tip(program):
-    with Desktop(program) as desktop:
-        for page, switches in enumerate(SWITCHES):
-            desktop.click(*page_button(page))
-            for place in [page_button(page), *switches]:
-                expect_tip(desktop, place)
-
-
-def a_click_right_of_a_title_changes_nothing_and_one_on_the_title_does(program):
-    clicked = "enableAutoOpenAfterCreateNewFile"
-    with Desktop(program) as desktop:
-        desktop.click(RIGHT, UPPER)
-        wait_until(lambda: desktop.local(clicked) is False, "the switch that was clicked")
-        before = desktop.local()
-        for x, y in ((480, UPPER), (900, LOWER), (500, ENABLE_ALL), (900, ENABLE_ALL)):
-            desktop.click(x, y)
-        desktop.click(RIGHT, UPPER)
-        wait_until(lambda: desktop.local(clicked) is True, "the switch that was clicked again")
-        changed = {key for key, value in desktop.local().items() if before.get(key) != value}
-        if changed != {clicked}:
-            raise SystemExit(f"clicks beside titles have changed {changed - {clicked}}")
+def a_click_right_of_a_title_changes_nothing_and_one_on_the_title_does(start):
+    with start() as (desktop, model):
+        places = desktop.places
+        x, y = places.switch(SECOND_OPTION)
+        on_title = x + INSIDE_TITLE, y
+        desktop.window.click(on_title)
+        wait_until(lambda: desktop.stores.local(OPENING) is False, "the switch that was clicked")
+        before = desktop.stores.read()
+        between = (places.left + x) / 2 + 40
+        lower, all_rows = places.switch(3)[1], desktop.place("enable_all")[1]
+        for place in ((between, y), (places.right - 20, lower), (between, all_rows), (places.right - 20, all_rows)):
+            desktop.window.click(place)
+        desktop.window.click(on_title)
+        wait_until(lambda: desktop.stores.local(OPENING) is True, "the switch that was clicked again")
+        changed = {key for key, value in desktop.stores.read().items() if before.get(key) != value}
+        require(changed == {OPENING}, f"clicks beside titles have changed {changed - {OPENING}}")
+        model.expect("the lists as they were")
 
 
 if __name__ == "__main__":
-    for part in (
-        every_page_button_and_option_switch_shows_its_tool_tip,
-        a_click_right_of_a_title_changes_nothing_and_one_on_the_title_does,
-    ):
-        part(sys.argv[1])
-        print(part.__name__.replace("_", " "))
+    run_checks(every_page_button_and_option_switch_shows_its_tool_tip,
+               a_click_right_of_a_title_changes_nothing_and_one_on_the_title_does)

@@ -32,7 +32,7 @@ def clicks_in_a_row_count_each(start):
 
 
 def deleting_goes_on_until_the_list_is_empty(start):
-    with start(**{COMMON_FOLDERS: folder_records(6)}) as (desktop, model):
+    with start({COMMON_FOLDERS: folder_records(6)}) as (desktop, model):
         desktop.show_list(COMMON_FOLDERS)
         desktop.select(3)
         row = 3

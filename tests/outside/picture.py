@@ -1,0 +1,30 @@
+"""What is on the screen, pixel by pixel."""
+
+
+class Picture:
+    """Of a portable pixmap."""
+
+    def __init__(self, data):
+        header, size, deepest, self.pixels = data.split(b"\n", 3)
+        if (header, deepest) != (b"P6", b"255"):
+            raise ValueError(f"a picture of an unknown kind, {header} {deepest}")
+        self.width, self.height = map(int, size.split())
+
+    def row(self, number):
+        """Three bytes each."""
+        return self.pixels[3 * self.width * number:3 * self.width * (number + 1)]
+
+    def colours(self, left, top, right, bottom):
+        return {self.row(y)[3 * x:3 * x + 3] for y in range(top, bottom) for x in range(left, right)}
+
+
+def _luminance(colour):
+    parts = [value / 255 for value in colour]
+    linear = [part / 12.92 if part <= 0.04045 else ((part + 0.055) / 1.055) ** 2.4 for part in parts]
+    return 0.2126 * linear[0] + 0.7152 * linear[1] + 0.0722 * linear[2]
+
+
+def contrast(colours):
+    """Between the lightest and the darkest, from 1 to 21."""
+    shades = [_luminance(colour) for colour in colours]
+    return (max(shades) + 0.05) / (min(shades) + 0.05)
