@@ -3,6 +3,7 @@
 #import "adapters/foundation/StringConversion.h"
 #import "front/ChooseFolderButton.h"
 #import "front/ControlMaking.h"
+#import "front/EnableAllSwitch.h"
 #import "front/PageDropView.h"
 #import "front/PageFrame.h"
 #import "front/PreferenceSwitch.h"
@@ -57,20 +58,29 @@ void addSwitches(PageFrame &column, const PageLayout &layout) {
     column.skip(gap);
 }
 
-void addEnableAllSwitch(PageFrame &column, const PageLayout &layout, const RuleActions &actions,
+/// Nil for a list that has none.
+EnableAllSwitch *addEnableAllSwitch(PageFrame &column, const PageLayout &layout, const RuleActions &actions,
     SettingsViewController *controller) {
     if (!actions.enableAll) {
-        return;
+        return nil;
     }
-    PreferenceSwitch *box = [[[PreferenceSwitch alloc]
-        initWithTitle:localizedText(layout.enableAllTitle)
-                  key:toNSString(factsOf(*layout.category).enableAllKey)] autorelease];
+    EnableAllSwitch *box = [[[EnableAllSwitch alloc] initWithTitle:localizedText(layout.enableAllTitle)
+                                                          category:*layout.category
+                                                        controller:controller] autorelease];
     [box setFollowUpTarget:controller action:actions.enableAll];
     // In line with the check boxes of the rows below it.
+    constexpr CGFloat indent = 7;
     column.skip(switchHeight);
-    column.place(makeSwitchPlace(box), NSMakeRect(margin + 7, column.top(), column.width() - 7, switchHeight),
+    NSView *place = makeSwitchPlace(box);
+    column.place(place, NSMakeRect(margin + indent, column.top(), column.width() - indent, switchHeight),
         NSViewWidthSizable | NSViewMinYMargin);
+    const CGFloat left = NSMaxX([box frame]) + gap;
+    // Its text stands at the top of its frame.
+    [[box countLabel] setFrame:NSMakeRect(left, 0, column.width() - indent - left, switchHeight - 4)];
+    [[box countLabel] setAutoresizingMask:NSViewWidthSizable];
+    [place addSubview:[box countLabel]];
     column.skip(6);
+    return box;
 }
 
 NSTableColumn *makeColumn(const Column &facts) {
@@ -198,13 +208,14 @@ NSView *makeRulePage(
     PageFrame column(page, size);
     column.addHeading(layout);
     addSwitches(column, layout);
-    addEnableAllSwitch(column, layout, actions, controller);
+    EnableAllSwitch *enableAll = addEnableAllSwitch(column, layout, actions, controller);
 
     const CGFloat bottom = margin + buttonBarHeight + gap;
     const NSRect frame = NSMakeRect(margin, bottom, column.width(), column.top() - bottom);
     RuleTableView *table =
         makeTable(layout, actions, controller, NSMakeRect(0, 0, NSWidth(frame), NSHeight(frame)));
     column.place(makeScrollView(table, frame), frame, NSViewWidthSizable | NSViewHeightSizable);
+    [enableAll followTable:table];
     [page takeDropsFor:table];
     [table sizeToFit];
     [table setEmptyHint:makeEmptyHint(layout, NSWidth(frame) - 2 * margin)];

@@ -16,4 +16,10 @@
 /// What is told after a click has been stored; the target is not retained.
 - (void)setFollowUpTarget:(id)target action:(SEL)action;
 
+/// Shows what is stored, as it is shown by itself whenever that changes.
+- (void)showStoredValue:(NSNotification *)notification;
+
+/// What to show for a stored value; for subclasses that show more than what is stored.
+- (NSInteger)stateForStoredValue:(BOOL)on;
+
 @end

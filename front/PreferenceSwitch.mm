@@ -41,9 +41,12 @@
     }
 }
 
+- (NSInteger)stateForStoredValue:(BOOL)on {
+    return on ? NSControlStateValueOn : NSControlStateValueOff;
+}
+
 - (void)showStoredValue:(NSNotification *)notification {
-    const BOOL on = [[NSUserDefaults standardUserDefaults] boolForKey:_key];
-    [self setState:on ? NSControlStateValueOn : NSControlStateValueOff];
+    [self setState:[self stateForStoredValue:[[NSUserDefaults standardUserDefaults] boolForKey:_key]]];
 }
 
 @end

@@ -2,6 +2,9 @@
 
 #import <AppKit/AppKit.h>
 
+/// Posted by a table once it has loaded its rows anew: after every change of its list.
+extern NSString *const RuleTableViewDidReloadNotification;
+
 /// A table of rules with its keyboard: Delete presses the remove button, Return edits the selected row's
 /// name, Space clicks its switch. Each does only what the control itself would do just then. Drags of files
 /// are the page's business.

@@ -1,5 +1,7 @@
 #import "front/RuleTableView.h"
 
+NSString *const RuleTableViewDidReloadNotification = @"RuleTableViewDidReload";
+
 namespace {
 
 /// The first control of the wanted class in a cell, the cell itself included; nil when there is none.
@@ -56,6 +58,8 @@ NSControl *controlIn(NSView *cell, Class wanted) {
 - (void)reloadData {
     [super reloadData];
     [self showOrHideEmptyHint];
+    [[NSNotificationCenter defaultCenter] postNotificationName:RuleTableViewDidReloadNotification
+                                                        object:self];
 }
 
 - (void)setFileDropView:(NSView *)view {

@@ -65,6 +65,11 @@
 @end
 
 @interface SettingsViewController (Tables) <NSTableViewDataSource, NSTableViewDelegate, NSTextFieldDelegate>
+
+/// Of the switch above the category's table, for what is stored for it; and how many rules are on, in words.
+- (tarnwick::EnableAllState)enableAllStateOf:(tarnwick::RuleCategory)category stored:(BOOL)stored;
+- (NSString *)enabledTextOf:(tarnwick::RuleCategory)category;
+
 @end
 
 /// The Finder, its extension, the user script and further tools.

@@ -50,6 +50,14 @@ long firstDraggedRow(NSPasteboard *pasteboard) {
         tarnwick::toNSString(rows.label(category, identifier, row)), self);
 }
 
+- (tarnwick::EnableAllState)enableAllStateOf:(RuleCategory)category stored:(BOOL)stored {
+    return _controller->rows().enabled(category).state(stored);
+}
+
+- (NSString *)enabledTextOf:(RuleCategory)category {
+    return tarnwick::toNSString(_controller->rows().enabledText(category));
+}
+
 /// Also after a selection by keyboard, for which a table sends no action.
 - (void)tableViewSelectionDidChange:(NSNotification *)notification {
     if (const auto category = [self categoryOf:[notification object]]) {

@@ -4,6 +4,7 @@
 #include "platform/Images.h"
 #include "prefs/GroupContainer.h"
 #include "prefs/RuleList.h"
+#include "ui/EnabledRules.h"
 #include "ui/FolderLabel.h"
 #include "ui/RuleColumns.h"
 
@@ -63,15 +64,14 @@ CellView RuleCells::path(const Column& column, const RuleList& list, std::size_t
 }
 
 CellView RuleCells::size(const Column& column, const RuleList& list, std::size_t row) const {
-    return {TextFieldCell{
-                .text = sizeText(imageFromRecord(list[row])), .alignment = TextAlignment::centred},
+    return {TextFieldCell{.text = sizeText(imageFromRecord(list[row])), .alignment = TextAlignment::centred},
         column.frame, std::nullopt};
 }
 
 CellView RuleCells::checkBox(const Column& column, const RuleList& list, std::size_t row) const {
-    const auto isFixed = list.isFixed(row);
-    return {CheckBoxCell{
-                .on = isFixed || list[row].flag(column.field), .enabled = !isFixed, .field = column.field},
+    return {
+        CheckBoxCell{
+            .on = isShownOn(list, row, column.field), .enabled = !list.isFixed(row), .field = column.field},
         column.frame, tagOf(row), !column.frame};
 }
 

@@ -13,8 +13,8 @@ class RuleList;
 class RuleRecord;
 struct Column;
 
-/// Makes the cells of the tables, a method for each kind of cell. A missing field shows as empty text, an off check
-/// box or an empty image. The row must be in range.
+/// Makes the cells of the tables, a method for each kind of cell. A missing field shows as empty text, an off
+/// check box or an empty image. The row must be in range.
 class RuleCells {
 public:
     RuleCells(const KnownFolders& folders, const ApplicationBundle& bundle, Images& images)

@@ -2,22 +2,21 @@
 
 #include "platform/ApplicationBundle.h"
 #include "prefs/RuleList.h"
+#include "ui/CountText.h"
 #include "ui/RuleColumns.h"
 
 namespace tarnwick {
-namespace {
-
-constexpr std::string_view placeholder = "%@";
-
-std::string filled(std::string format, std::string_view text) {
-    const auto position = format.find(placeholder);
-    return position == std::string::npos ? format : format.replace(position, placeholder.size(), text);
-}
-
-} // namespace
 
 long RuleRows::count(RuleCategory category) const {
     return static_cast<long>(lists_[category].size());
+}
+
+EnabledRules RuleRows::enabled(RuleCategory category) const {
+    return enabledRulesOf(lists_[category]);
+}
+
+std::string RuleRows::enabledText(RuleCategory category) const {
+    return tarnwick::enabledText(bundle_, lists_[category]);
 }
 
 CellView RuleRows::cell(RuleCategory category, std::string_view column, long row) const {
@@ -34,7 +33,7 @@ std::string RuleRows::label(RuleCategory category, std::string_view column, long
     if (!lists_[category].holds(row) || !facts) {
         return {};
     }
-    return filled(bundle_.localized(facts->label), spokenName(category, static_cast<std::size_t>(row)));
+    return filled(bundle_.localized(facts->label), {spokenName(category, static_cast<std::size_t>(row))});
 }
 
 std::string RuleRows::spokenName(RuleCategory category, std::size_t row) const {
@@ -42,7 +41,7 @@ std::string RuleRows::spokenName(RuleCategory category, std::size_t row) const {
     if (!name.empty() && !repeatedNames_.has(category, row)) {
         return name;
     }
-    auto number = filled(bundle_.localized("row %@"), std::to_string(row + 1));
+    auto number = filled(bundle_.localized("row %@"), {std::to_string(row + 1)});
     return name.empty() ? number : name + " (" + number + ")";
 }
 

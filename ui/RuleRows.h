@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/EnabledRules.h"
 #include "ui/RepeatedNames.h"
 #include "ui/RuleCells.h"
 
@@ -20,6 +21,9 @@ public:
         : lists_(lists), bundle_(bundle), cells_(folders, bundle, images), repeatedNames_(lists) {}
 
     [[nodiscard]] long count(RuleCategory category) const;
+    /// How many are on, and the words for it.
+    [[nodiscard]] EnabledRules enabled(RuleCategory category) const;
+    [[nodiscard]] std::string enabledText(RuleCategory category) const;
     [[nodiscard]] CellView cell(RuleCategory category, std::string_view column, long row) const;
 
     /// What that cell's control says of itself to those who do not see it: what it does or shows, and for

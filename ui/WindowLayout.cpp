@@ -46,29 +46,37 @@ constexpr std::array<SwitchLayout, 4> othersSwitches{{
         "Off: \"Open in iTerm2\" uses a tab of the front window."},
 }};
 
+// Each in its own words: what is on may agree with what it is.
+constexpr CountTexts templatesOn{"%1$@ of %2$@ templates on: none", "%1$@ of %2$@ templates on: one",
+    "%1$@ of %2$@ templates on: several"};
+constexpr CountTexts iconsOn{
+    "%1$@ of %2$@ icons on: none", "%1$@ of %2$@ icons on: one", "%1$@ of %2$@ icons on: several"};
+constexpr CountTexts itemsOn{
+    "%1$@ of %2$@ items on: none", "%1$@ of %2$@ items on: one", "%1$@ of %2$@ items on: several"};
+
 constexpr PerPage<PageLayout> layouts{
     PageLayout{"page-createNewFile", "New File",
         "Templates that the menu offers for creating a new file in the folder at hand.",
-        RuleCategory::createNewFile, createNewFileSwitches, "Enable all templates", "Add Templates\u2026",
-        "No templates",
+        RuleCategory::createNewFile, createNewFileSwitches, "Enable all templates", templatesOn,
+        "Add Templates\u2026", "No templates",
         "Choose \u201CAdd Templates\u2026\u201D and pick a file: the menu then offers new files like it."},
     PageLayout{"page-copyFilesTo", "Copy & Move To",
         "Folders that the selected files can be copied or moved to.", RuleCategory::copyFilesTo,
-        copyFilesToSwitches, "", "Add Folders\u2026", "No folders to copy or move to",
+        copyFilesToSwitches, "", {}, "Add Folders\u2026", "No folders to copy or move to",
         "Choose \u201CAdd Folders\u2026\u201D and pick a folder: the menu then copies or moves files there."},
     PageLayout{"page-commonPath", "Common Folders", "Folders that are one click away in every menu.",
-        RuleCategory::commonPath, commonPathSwitches, "", "Add Folders\u2026", "No common folders",
+        RuleCategory::commonPath, commonPathSwitches, "", {}, "Add Folders\u2026", "No common folders",
         "Choose \u201CAdd Folders\u2026\u201D and pick a folder: the menu then opens it from anywhere."},
     PageLayout{"page-customIcon", "Custom Icons",
         "Pictures that the selected files and folders can be given as their icon.", RuleCategory::customIcon,
-        customIconSwitches, "Enable all icons", "Add Pictures\u2026", "No pictures",
+        customIconSwitches, "Enable all icons", iconsOn, "Add Pictures\u2026", "No pictures",
         "Choose \u201CAdd Pictures\u2026\u201D and pick a PNG file: the menu then offers it as an icon."},
     PageLayout{"page-others", "More Items",
         "Further actions of the menu, and applications to open files with.", RuleCategory::others,
-        othersSwitches, "Enable all items", "Add Items\u2026", "No items",
+        othersSwitches, "Enable all items", itemsOn, "Add Items\u2026", "No items",
         "Choose \u201CAdd Items\u2026\u201D and pick an item: the menu then shows it again."},
     PageLayout{"page-moreApps", "More Apps", "Other applications by the makers of Tarnwick.", std::nullopt,
-        {}, "", "", "", ""},
+        {}, "", {}, "", "", ""},
 };
 
 constexpr std::array<AppTile, 3> tiles{{

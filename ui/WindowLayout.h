@@ -1,6 +1,7 @@
 #pragma once
 
 #include "prefs/RuleCategory.h"
+#include "ui/CountText.h"
 #include "ui/Page.h"
 
 #include <optional>
@@ -35,6 +36,8 @@ struct PageLayout {
     std::span<const SwitchLayout> switches;
     /// The title of the switch above the table that turns every rule on or off; empty: there is none.
     std::string_view enableAllTitle;
+    /// What stands beside it: how many rules are on, and of how many.
+    CountTexts enabledCount;
     std::string_view addTitle;
     /// What stands in the table while it has no rows: what belongs there, and how to add the first.
     std::string_view emptyTitle;

@@ -28,6 +28,11 @@
 - (NSString *)accessibilityLabel;
 @end
 
+@interface NSButton (TNAccessibility)
+/// A number: 0 off, 1 on, 2 mixed.
+- (id)accessibilityValue;
+@end
+
 // ViewControllers.mm
 @interface NSViewController (TNViewDidLoad)
 - (void)viewDidLoad;

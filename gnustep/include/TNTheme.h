@@ -35,6 +35,8 @@ void TNThemeUseAppearance(TNThemeAppearance appearance);
 /// Draws the pictures of check boxes in the current colours, under the
 /// names by which GNUstep asks for them.
 void TNThemeInstallImages();
+/// The name of the picture that GNUstep has none for: a check box of which some is on and some off.
+extern NSString *const TNThemeMixedSwitchImage;
 /// Those of the open panel and of pop-up buttons; part of the above.
 void TNThemeInstallPanelImages();
 /// Draws a picture and puts it in the place of GNUstep's of that name.

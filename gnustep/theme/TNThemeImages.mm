@@ -45,23 +45,32 @@ void fillShape(NSBezierPath *path, bool on) {
     [path stroke];
 }
 
-void installCheckBox(NSString *name, bool on) {
+enum class CheckMark { none, tick, dash };
+
+NSBezierPath *pathOf(CheckMark mark) {
+    NSBezierPath *path = [NSBezierPath bezierPath];
+    if (mark == CheckMark::tick) {
+        [path moveToPoint:NSMakePoint(4.6, 8.1)];
+        [path lineToPoint:NSMakePoint(7.1, 5.4)];
+        [path lineToPoint:NSMakePoint(11.5, 10.9)];
+    } else if (mark == CheckMark::dash) {
+        [path moveToPoint:NSMakePoint(5, 8)];
+        [path lineToPoint:NSMakePoint(11, 8)];
+    }
+    [path setLineWidth:1.9];
+    [path setLineCapStyle:NSRoundLineCapStyle];
+    [path setLineJoinStyle:NSRoundLineJoinStyle];
+    return path;
+}
+
+void installCheckBox(NSString *name, CheckMark mark) {
     TNThemeInstallImage(name, NSMakeSize(boxSize, boxSize), ^(NSRect bounds) {
         fillShape([NSBezierPath bezierPathWithRoundedRect:NSInsetRect(bounds, 1.5, 1.5)
                                                   xRadius:3.5
                                                   yRadius:3.5],
-            on);
-        if (on) {
-            NSBezierPath *tick = [NSBezierPath bezierPath];
-            [tick moveToPoint:NSMakePoint(4.6, 8.1)];
-            [tick lineToPoint:NSMakePoint(7.1, 5.4)];
-            [tick lineToPoint:NSMakePoint(11.5, 10.9)];
-            [tick setLineWidth:1.9];
-            [tick setLineCapStyle:NSRoundLineCapStyle];
-            [tick setLineJoinStyle:NSRoundLineJoinStyle];
-            [TNThemeCurrentColors()->accentText set];
-            [tick stroke];
-        }
+            mark != CheckMark::none);
+        [TNThemeCurrentColors()->accentText set];
+        [pathOf(mark) stroke];
     });
 }
 
@@ -83,6 +92,8 @@ void installBlank(NSString *name) {
 
 } // namespace
 
+NSString *const TNThemeMixedSwitchImage = @"TNSwitchMixed";
+
 void TNThemeInstallImage(NSString *name, NSSize size, void (^drawing)(NSRect bounds)) {
     const NSRect bounds = NSMakeRect(0, 0, size.width, size.height);
     NSImage *canvas = [[[NSImage alloc] initWithSize:size] autorelease];
@@ -96,8 +107,9 @@ void TNThemeInstallImage(NSString *name, NSSize size, void (^drawing)(NSRect bou
 }
 
 void TNThemeInstallImages() {
-    installCheckBox(@"GSSwitch", false);
-    installCheckBox(@"GSSwitchSelected", true);
+    installCheckBox(@"GSSwitch", CheckMark::none);
+    installCheckBox(@"GSSwitchSelected", CheckMark::tick);
+    installCheckBox(TNThemeMixedSwitchImage, CheckMark::dash);
     // The arrow of the default button, the marks of menu items, and the parts of a scroller.
     for (NSString *name in
         [NSArray arrayWithObjects:@"common_ret", @"common_retH", @"GSMenuSelected", @"GSMenuMixed",

@@ -1,4 +1,4 @@
-// Missing: labels for assistive technology, as of GNUstep GUI 0.29, which talks to none.
+// Missing: labels and values for assistive technology, as of GNUstep GUI 0.29, which talks to none.
 
 #import "TNAdditions.h"
 
@@ -19,6 +19,16 @@ NSString *const labelName = @"accessibilityLabel";
 /// Ahead of its first caller: no assistive technology asks.
 - (NSString *)accessibilityLabel {
     return TNAttachment(self, labelName);
+}
+
+@end
+
+@implementation NSButton (TNAccessibility)
+
+/// Ahead of its first caller, as the label is.
+- (id)accessibilityValue {
+    const NSInteger state = [self state];
+    return [NSNumber numberWithInteger:state == NSControlStateValueMixed ? 2 : state];
 }
 
 @end

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 /// What the layer's look comes down to in pixels, from a program that has started up.
 namespace tarnwick::probe {
 
@@ -8,6 +10,11 @@ namespace tarnwick::probe {
 double inkOfBareTabView();
 /// How dark a ticked check box without title is, 0 to 1.
 double darknessOfCheckBox(bool enabled);
+enum class CheckBox { off, on, mixed, onAfterMixed };
+/// The brightness of each pixel of a check box without title.
+std::vector<double> pictureOfCheckBox(CheckBox state);
+/// What assistive technology is told of it.
+int spokenValueOfCheckBox(CheckBox state);
 /// Whether a folder's picture has its colours and a transparent corner once scaled and kept as a file would
 /// be.
 bool folderPictureSurvivesScaling();

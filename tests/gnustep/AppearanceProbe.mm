@@ -50,6 +50,19 @@ double ink(NSBitmapImageRep *pixels) {
     return static_cast<double>(different) / all;
 }
 
+NSButton *makeCheckBox(CheckBox state) {
+    NSButton *box = [[[NSButton alloc] initWithFrame:NSMakeRect(10, 10, 18, 18)] autorelease];
+    [box setButtonType:NSButtonTypeSwitch];
+    [box setTitle:@""];
+    [box setAllowsMixedState:YES];
+    const bool passesMixed = state == CheckBox::mixed || state == CheckBox::onAfterMixed;
+    [box setState:passesMixed ? NSControlStateValueMixed : NSControlStateValueOff];
+    if (state == CheckBox::on || state == CheckBox::onAfterMixed) {
+        [box setState:NSControlStateValueOn];
+    }
+    return box;
+}
+
 } // namespace
 
 double inkOfBareTabView() {
@@ -80,6 +93,27 @@ double darknessOfCheckBox(bool enabled) {
             darkest = std::max(darkest, 1 - brightness(colorAt(pixels, column, 9)));
         }
         return darkest;
+    }
+}
+
+std::vector<double> pictureOfCheckBox(CheckBox state) {
+    @autoreleasepool {
+        startUp();
+        NSBitmapImageRep *pixels = pixelsOf(makeCheckBox(state));
+        std::vector<double> picture;
+        for (NSInteger row = 0; row < [pixels pixelsHigh]; ++row) {
+            for (NSInteger column = 0; column < [pixels pixelsWide]; ++column) {
+                picture.push_back(brightness(colorAt(pixels, column, row)));
+            }
+        }
+        return picture;
+    }
+}
+
+int spokenValueOfCheckBox(CheckBox state) {
+    @autoreleasepool {
+        startUp();
+        return [[makeCheckBox(state) accessibilityValue] intValue];
     }
 }
 

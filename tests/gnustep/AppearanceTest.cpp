@@ -13,6 +13,17 @@ TEST(Appearance, ADisabledCheckBoxIsPaler) {
     EXPECT_LT(darknessOfCheckBox(false), 0.7 * darknessOfCheckBox(true));
 }
 
+TEST(Appearance, AMixedCheckBoxHasAPictureAndAValueOfItsOwn) {
+    const auto mixed = pictureOfCheckBox(CheckBox::mixed);
+    const auto on = pictureOfCheckBox(CheckBox::on);
+    EXPECT_NE(mixed, on);
+    EXPECT_NE(mixed, pictureOfCheckBox(CheckBox::off));
+    EXPECT_EQ(pictureOfCheckBox(CheckBox::onAfterMixed), on);
+    EXPECT_EQ(spokenValueOfCheckBox(CheckBox::off), 0);
+    EXPECT_EQ(spokenValueOfCheckBox(CheckBox::on), 1);
+    EXPECT_EQ(spokenValueOfCheckBox(CheckBox::mixed), 2);
+}
+
 TEST(Appearance, AFolderHasAPictureThatCanBeScaled) {
     EXPECT_TRUE(folderPictureSurvivesScaling());
 }

@@ -22,6 +22,8 @@ namespace tarnwick::gui {
 [[nodiscard]] bool buttonIsEnabled(const std::string& title);
 /// Whether the visible check box with this title is on.
 [[nodiscard]] bool buttonIsOn(const std::string& title);
+/// Whether it is shown as mixed, and says so to assistive technology.
+[[nodiscard]] bool buttonIsMixed(const std::string& title);
 /// How far the visible check box with this title, and the ring around it, reach beyond the title.
 [[nodiscard]] double roomRightOfTitle(const std::string& title);
 /// Whether a text field with just this text can be seen on the page that is shown.

@@ -62,6 +62,11 @@ bool buttonIsOn(const std::string &title) {
     return [buttonTitled(title) state] == NSControlStateValueOn;
 }
 
+bool buttonIsMixed(const std::string &title) {
+    NSButton *button = buttonTitled(title);
+    return [button state] == NSControlStateValueMixed && [[button accessibilityValue] intValue] == 2;
+}
+
 double roomRightOfTitle(const std::string &title) {
     NSButton *button = buttonTitled(title);
     const CGFloat drawn = [[button image] size].width + [[[button cell] attributedTitle] size].width;

@@ -1,8 +1,11 @@
+#include "tests/gui/Driver.h"
 #include "tests/gui/Foreign.h"
 #include "tests/gui/Input.h"
 #include "tests/gui/Shown.h"
 
 #include <gtest/gtest.h>
+
+#include <cstdlib>
 
 namespace tarnwick::gui {
 namespace {
@@ -31,8 +34,39 @@ TEST(Switches, EnableAllTurnsEveryTemplateOnAndTheSwitchFollowsASingleRow) {
     EXPECT_TRUE(buttonIsOn("Enable all templates"));
     clickCheckBox(RuleCategory::createNewFile, 0, "Enable");
     EXPECT_FALSE(buttonIsOn("Enable all templates"));
+    EXPECT_TRUE(buttonIsMixed("Enable all templates"));
     clickCheckBox(RuleCategory::createNewFile, 0, "Enable");
     EXPECT_TRUE(buttonIsOn("Enable all templates"));
+}
+
+TEST(Switches, EnableAllIsMixedForTheEyeAloneAndSaysHowManyAreOn) {
+    EXPECT_TRUE(showsText("15 of 15 on"));
+    clickCheckBox(RuleCategory::createNewFile, 4, "Enable");
+    EXPECT_TRUE(buttonIsMixed("Enable all templates"));
+    EXPECT_TRUE(showsText("14 of 15 on"));
+    EXPECT_TRUE(waitUntil([] { return local("d['enableAllOfCreateNewFiles']") == "False"; }));
+    clickButton("Enable all templates");
+    EXPECT_TRUE(buttonIsOn("Enable all templates"));
+    EXPECT_TRUE(waitUntil([] { return local("d['enableAllOfCreateNewFiles']") == "True"; }));
+    clickButton("Enable all templates");
+    EXPECT_FALSE(buttonIsOn("Enable all templates"));
+    EXPECT_FALSE(buttonIsMixed("Enable all templates"));
+    EXPECT_TRUE(showsText("0 of 15 on"));
+    EXPECT_TRUE(waitUntil([] { return local("d['enableAllOfCreateNewFiles']") == "False"; }));
+    clickButton("Enable all templates");
+    EXPECT_TRUE(buttonIsOn("Enable all templates"));
+}
+
+TEST(Switches, EnableAllFollowsAnotherProgram) {
+    ASSERT_TRUE(buttonIsOn("Enable all templates"));
+    ASSERT_EQ(std::system("defaults write org.halvane.Tarnwick enableAllOfCreateNewFiles -bool NO"), 0);
+    // Settings are read again when something is stored.
+    clickButton("Show icons in the menu");
+    clickButton("Show icons in the menu");
+    EXPECT_TRUE(waitUntil([] { return !buttonIsOn("Enable all templates"); }));
+    clickButton("Enable all templates");
+    EXPECT_TRUE(buttonIsOn("Enable all templates"));
+    EXPECT_TRUE(waitUntil([] { return local("d['enableAllOfCreateNewFiles']") == "True"; }));
 }
 
 TEST(Switches, AnOptionSwitchIsMirroredIntoTheSuiteAsABoolean) {
@@ -45,7 +79,8 @@ TEST(Switches, AnOptionSwitchIsMirroredIntoTheSuiteAsABoolean) {
 }
 
 TEST(Switches, NoneIsWiderThanItsTitle) {
-    for (const auto* title : {"Show icons in the menu", "Open a new file right away", "Enable all templates"}) {
+    for (const auto* title :
+        {"Show icons in the menu", "Open a new file right away", "Enable all templates"}) {
         EXPECT_GE(roomRightOfTitle(title), 0);
         EXPECT_LT(roomRightOfTitle(title), 8);
     }
@@ -63,6 +98,8 @@ TEST(Switches, EnableAllOffLeavesTheFixedActionsOn) {
     clickButton("Enable all items");
     EXPECT_EQ(shared("[(r['Action'], r['enable']) for r in d['arrOfOthers']]"),
         "[('Translate by Baidu', 1), ('Translate by Google', 1), ('Change to QR Code', 1)]");
+    EXPECT_TRUE(buttonIsMixed("Enable all items"));
+    EXPECT_TRUE(showsText("3 of " + std::to_string(rowCount(RuleCategory::others)) + " on"));
     EXPECT_FALSE(cellIsOn(RuleCategory::others, 0, "OthersEnable"));
     EXPECT_TRUE(cellIsOn(RuleCategory::others, 16, "OthersEnable"));
     EXPECT_FALSE(cellIsEnabled(RuleCategory::others, 16, "OthersEnable"));

@@ -8,7 +8,11 @@
 @class NSImage;
 
 typedef NSInteger NSControlStateValue;
-enum : NSControlStateValue { NSControlStateValueOff = 0, NSControlStateValueOn = 1 };
+enum : NSControlStateValue {
+    NSControlStateValueMixed = -1,
+    NSControlStateValueOff = 0,
+    NSControlStateValueOn = 1
+};
 typedef TN_ENUM(NSUInteger, NSImageScaling){
     NSImageScaleProportionallyDown = 0, NSImageScaleProportionallyUpOrDown = 3};
 typedef TN_ENUM(NSUInteger, NSCellImagePosition){NSImageLeft = 2};
@@ -74,6 +78,7 @@ typedef TN_ENUM(NSUInteger, NSBezelStyle){NSBezelStyleRounded = 1};
 @property (getter=isBordered) BOOL bordered;
 @property NSBezelStyle bezelStyle;
 @property NSControlStateValue state;
+@property BOOL allowsMixedState;
 @property (copy) NSString *keyEquivalent;
 @property NSEventModifierFlags keyEquivalentModifierMask;
 - (void)setButtonType:(NSButtonType)type;
