@@ -56,7 +56,11 @@ class UserFolder:
         start = time.monotonic()
         while (users := self._users()) and (waited := time.monotonic() - start) < GIVE_UP_SECONDS:
             for process in users:
-                signal.pidfd_send_signal(process, signal.SIGTERM if waited < ASK_SECONDS else signal.SIGKILL)
+                try:
+                    signal.pidfd_send_signal(process, signal.SIGTERM if waited < ASK_SECONDS else signal.SIGKILL)
+                except ProcessLookupError:
+                    # It ends by itself just now.
+                    pass
             wait_for_an_end(users)
         os.spawnlp(os.P_WAIT, "rm", "rm", "-rf", self.name)
 

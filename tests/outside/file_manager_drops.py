@@ -1,13 +1,13 @@
 """python3 -m tests.outside.file_manager_drops PROGRAM: files and folders dragged from a file manager onto the pages, by
 a real pointer. Both stores and the template files are looked at after each drop."""
 
-import base64
 import pathlib
 import time
 
 from harness.stores import ACTIONS, COMMON_FOLDERS, COPY_TARGETS, ICONS, TEMPLATES
 from harness.waiting import wait_until
 from tests.outside.checks import require, run_checks
+from tests.outside.picture import PIXEL
 from tests.outside.screen import STEP_SECONDS
 
 # Of the screen. The file manager shows its folder's icons in this order, folders first.
@@ -17,8 +17,6 @@ WINDOW, MANAGER_SIZE = (330, 215), (640, 170)
 OUTSIDE = (-250, 400)
 # A hand rests before it moves.
 REST_SECONDS = 0.4
-PIXEL = base64.b64decode(
-    "iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAYAAAAfFcSJAAAADUlEQVR4nGP4z8DwHwAFAAH/iZk9HQAAAABJRU5ErkJggg==")
 
 
 class FileManager:

@@ -1,14 +1,13 @@
 """python3 -m tests.outside.open_panel PROGRAM: what is added is chosen in a panel, which is typed into, looked at, and
 left for something else. Both stores and the template files are looked at after each step."""
 
-import base64
 import pathlib
 
 from harness.stores import COPY_TARGETS, ICONS, TEMPLATES
 from harness.waiting import wait_until
 from tests.outside.checks import require, run_checks
 from tests.outside.panels import OpenPanel
-from tests.outside.picture import Picture, contrast
+from tests.outside.picture import PIXEL, Picture, contrast
 from tests.outside.places import PAGES
 from tests.outside.screen import command
 
@@ -16,8 +15,6 @@ from tests.outside.screen import command
 INSIDE_OK_BUTTON = (314, 399, 366, 414)
 # The pixels of the line that blinks in a text field.
 CARET = 40
-PIXEL = base64.b64decode(
-    "iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAYAAAAfFcSJAAAADUlEQVR4nGP4z8DwHwAFAAH/iZk9HQAAAABJRU5ErkJggg==")
 
 
 def folders_of(desktop, *names):

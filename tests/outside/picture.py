@@ -1,4 +1,9 @@
-"""What is on the screen, pixel by pixel."""
+"""Pictures, pixel by pixel: what is on the screen, and a file of one pixel to choose or drop."""
+
+import base64
+
+PIXEL = base64.b64decode(
+    "iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAYAAAAfFcSJAAAADUlEQVR4nGP4z8DwHwAFAAH/iZk9HQAAAABJRU5ErkJggg==")
 
 
 class Picture:
