@@ -4,7 +4,6 @@
 
 namespace tarnwick {
 
-inline constexpr std::string_view applicationIdentifier = "org.halvane.Tarnwick";
 /// The one place where the application may be installed.
 inline constexpr std::string_view installationPath = "/Applications/Tarnwick.app";
 inline constexpr std::string_view serviceIdentifier = "org.halvane.Tarnwick.TarnwickService";

@@ -5,6 +5,7 @@
 #include "platform/Panels.h"
 #include "platform/Process.h"
 #include "platform/Workspace.h"
+#include "prefs/PreferenceKeys.h"
 
 namespace tarnwick {
 namespace {

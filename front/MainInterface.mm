@@ -10,8 +10,10 @@
 #include "adapters/foundation/SystemAdapters.h"
 #include "app/ApplicationDelegate.h"
 #include "platform/ApplicationBundle.h"
+#include "platform/Clock.h"
 #include "platform/DistributedNotifications.h"
 #include "platform/FileManager.h"
+#include "platform/FileTrees.h"
 #include "platform/FinderSync.h"
 #include "platform/Images.h"
 #include "platform/KnownFolders.h"
@@ -19,6 +21,7 @@
 #include "platform/Ports.h"
 #include "platform/PreferenceStore.h"
 #include "platform/Process.h"
+#include "platform/PropertyListFiles.h"
 #include "platform/RunLoop.h"
 #include "platform/SystemLog.h"
 #include "platform/UserScript.h"
@@ -42,6 +45,8 @@ void observeEnds(SettingsViewController *controller, NSWindow *window) {
 struct Adapters {
     std::unique_ptr<PreferenceStores> preferences = makePreferenceStores();
     std::unique_ptr<FileManager> files = makeFileManager();
+    std::unique_ptr<FileTrees> trees = makeFileTrees();
+    std::unique_ptr<PropertyListFiles> listFiles = makePropertyListFiles();
     std::unique_ptr<KnownFolders> folders = makeKnownFolders();
     std::unique_ptr<ApplicationBundle> bundle = makeApplicationBundle();
     std::unique_ptr<Images> images = makeImages();
@@ -53,10 +58,11 @@ struct Adapters {
     std::unique_ptr<RunLoop> runLoop = makeRunLoop();
     std::unique_ptr<SystemLog> log = makeSystemLog();
     std::unique_ptr<Process> process = makeProcess();
+    std::unique_ptr<Clock> clock = makeClock();
 
     [[nodiscard]] Ports ports() const {
-        return {*preferences, *files, *folders, *bundle, *images, *panels, *workspace, *finderSync,
-            *userScripts, *notifications, *runLoop, *log, *process};
+        return {*preferences, *files, *trees, *listFiles, *folders, *bundle, *images, *panels, *workspace,
+            *finderSync, *userScripts, *notifications, *runLoop, *log, *process, *clock};
     }
 };
 

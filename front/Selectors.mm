@@ -106,6 +106,10 @@ CommandAction actionOf(Command command) {
         return {
             @selector(addRuleOfCurrentPage:), controllers
         };
+    case Command::exportSettings:
+        return {
+            @selector(exportSettings:), controllers
+        };
     case Command::closeWindow:
         return {
             @selector(performClose:), anyones

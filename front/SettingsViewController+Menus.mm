@@ -25,6 +25,10 @@ using tarnwick::MoveDirection;
     }
 }
 
+- (void)exportSettings:(id)sender {
+    _controller->exportSettings();
+}
+
 - (void)moveSelectedRule:(MoveDirection)direction {
     if (const auto category = [self shownCategory]) {
         _controller->moveSelectedRule(*category, direction);

@@ -47,6 +47,16 @@ struct OpenPanelAnswer {
     std::vector<std::string> paths;
 };
 
+/// How a save panel is set up. The confirmed name bears the extension.
+struct SavePanelRequest {
+    /// The name that is proposed, extension included.
+    std::string name;
+    /// Without dot.
+    std::string fileType;
+
+    bool operator==(const SavePanelRequest&) const = default;
+};
+
 /// The platform's alerts and file choosers. Implementations: AppKit panels, in memory.
 class Panels {
 public:
@@ -56,6 +66,10 @@ public:
     /// Shows a file chooser and returns at once; `completion` runs later on the main thread, once.
     virtual void choose(
         const OpenPanelRequest& request, std::function<void(const OpenPanelAnswer&)> completion) = 0;
+    /// Asks for a place for a file, which may be that of a file that the user agrees to replace, and returns
+    /// at once; `completion` runs later on the main thread, once: with nothing when it was cancelled.
+    virtual void choosePlace(const SavePanelRequest& request,
+        std::function<void(const std::optional<std::string>&)> completion) = 0;
 };
 
 } // namespace tarnwick

@@ -3,14 +3,17 @@
 namespace tarnwick {
 
 class ApplicationBundle;
+class Clock;
 class DistributedNotifications;
 class FileManager;
+class FileTrees;
 class FinderSync;
 class Images;
 class KnownFolders;
 class Panels;
 class PreferenceStores;
 class Process;
+class PropertyListFiles;
 class RunLoop;
 class SystemLog;
 class UserScripts;
@@ -21,6 +24,8 @@ class Workspace;
 struct Ports {
     PreferenceStores& preferences;
     FileManager& files;
+    FileTrees& trees;
+    PropertyListFiles& listFiles;
     KnownFolders& folders;
     ApplicationBundle& bundle;
     Images& images;
@@ -32,6 +37,7 @@ struct Ports {
     RunLoop& runLoop;
     SystemLog& log;
     Process& process;
+    Clock& clock;
 };
 
 } // namespace tarnwick

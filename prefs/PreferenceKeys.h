@@ -6,6 +6,8 @@
 
 namespace tarnwick {
 
+/// The application, and its own preference domain.
+inline constexpr std::string_view applicationIdentifier = "org.halvane.Tarnwick";
 /// The preference suite shared with the Finder extension; the application group has the same name.
 inline constexpr std::string_view sharedSuiteName = "H7Q2ZK5RX9.org.halvane.Tarnwick";
 inline constexpr std::string_view applicationGroup = sharedSuiteName;
@@ -17,6 +19,8 @@ inline constexpr std::string_view enabledFeatures = "arrOfEnableOther";
 inline constexpr std::string_view shownEnableExtensionAlert = "ShownEnableExtensionAlert";
 /// Dictionary in `SharedPreferences`: the latest request to the extension.
 inline constexpr std::string_view askAction = "askActionFromTarnwick";
+/// Boolean: new files are not named automatically. The one switch that never gets a first value.
+inline constexpr std::string_view disableAutoName = "disableAutoNameOfCreateNewFile";
 inline constexpr std::string_view imageToIcon = "enableImagetoIcon";
 /// Array of strings in `LocalPreferences`: what has yet to happen to template files; see `TemplateFiles`.
 inline constexpr std::string_view pendingTemplateFiles = "pendingTemplateFiles";
@@ -59,7 +63,7 @@ inline constexpr std::array<std::string_view, 11> featureNames{"enableCopyPathTo
 /// which they are observed. The two "newWindowOf" switches are deliberately not among them.
 inline constexpr std::array<std::string_view, 13> mirroredKeys{"soundTipsOfSendFilesTo", "soundTipsOfNewFile",
     "enableCopyFilesTo", "enableCommonPath", "enableMoveFilesTo", "enableIconOfCreateNewFile",
-    "disableAutoNameOfCreateNewFile", "enableAutoOpenAfterCreateNewFile", "enableIconOfSendFilesTo",
+    key::disableAutoName, "enableAutoOpenAfterCreateNewFile", "enableIconOfSendFilesTo",
     "enableIconOfCommonPath", "enableIconOfCustomIcon", "enableIconOfOthers",
     "deleteDirectlyRequiresConfirmation"};
 

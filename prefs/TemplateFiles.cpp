@@ -22,14 +22,9 @@ constexpr std::string_view removing = "remove";
 constexpr std::string_view copying = "copy";
 constexpr std::string_view layingOut = "lay out";
 
-/// The texts of a record are the user's: a slash leads elsewhere, and the two dot names are folders.
-bool namesAFileInTheFolder(const std::string& name) {
-    return !name.empty() && name.find('/') == std::string::npos && name != "." && name != "..";
-}
-
 std::optional<std::string> templatePath(const KnownFolders& folders, const std::string& name) {
     auto path = GroupContainer(folders).templateFolder();
-    if (!path || !namesAFileInTheFolder(name)) {
+    if (!path || !isFileName(name)) {
         return std::nullopt;
     }
     path->append("/").append(name);

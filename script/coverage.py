@@ -6,7 +6,7 @@ import json
 import os
 import sys
 
-FOLDERS = ("app", "editing", "integration", "prefs", "ui", "values")
+FOLDERS = ("app", "editing", "integration", "prefs", "transfer", "ui", "values")
 
 
 def main():

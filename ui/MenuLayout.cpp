@@ -24,6 +24,8 @@ constexpr std::array applicationMenu{
 constexpr std::array fileMenu{
     MenuItemLayout{"Add\u2026", Command::addRule, u'n'},
     separator,
+    MenuItemLayout{"Export Settings\u2026", Command::exportSettings},
+    separator,
     MenuItemLayout{"Close Window", Command::closeWindow, u'w'},
 };
 

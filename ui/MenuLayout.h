@@ -17,6 +17,7 @@ enum class Command {
     showAll,
     quit,
     addRule,
+    exportSettings,
     closeWindow,
     undo,
     redo,

@@ -5,6 +5,7 @@
 #include "prefs/Preferences.h"
 #include "ui/Page.h"
 #include "ui/RuleRows.h"
+#include "ui/SettingsTransfer.h"
 
 #include <optional>
 #include <string>
@@ -68,6 +69,8 @@ public:
     void endEditing() { editing_.editor.endEditing(); }
     void selectPath(long row) { editing_.pathChoosing.selectPath(row); }
 
+    void exportSettings() { transfer_.exportSettings(); }
+
     /// What the window asks of the system around the program.
     [[nodiscard]] SystemIntegration& integration() { return integration_; }
 
@@ -81,6 +84,7 @@ private:
 
     Preferences preferences_;
     RuleEditing editing_;
+    SettingsTransfer transfer_;
     SystemIntegration integration_;
     RuleRows rows_;
 };

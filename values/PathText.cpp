@@ -18,6 +18,12 @@ std::size_t extensionDot(std::string_view name) {
 
 } // namespace
 
+bool isFileName(std::string_view name) {
+    constexpr std::string_view noPartOfOne("/\0", 2);
+    return !name.empty() && name.find_first_of(noPartOfOne) == std::string_view::npos && name != "." &&
+           name != "..";
+}
+
 std::string_view lastPathComponent(std::string_view path) {
     path = withoutTrailingSlashes(path);
     const auto slash = path.rfind('/');

@@ -5,12 +5,15 @@
 namespace tarnwick {
 
 class ApplicationBundle;
+class Clock;
 class FileManager;
+class FileTrees;
 class Images;
 class KnownFolders;
 class Panels;
 class PreferenceStores;
 class Process;
+class PropertyListFiles;
 class SystemLog;
 class Workspace;
 
@@ -18,6 +21,8 @@ class Workspace;
 
 [[nodiscard]] std::unique_ptr<PreferenceStores> makePreferenceStores();
 [[nodiscard]] std::unique_ptr<FileManager> makeFileManager();
+[[nodiscard]] std::unique_ptr<FileTrees> makeFileTrees();
+[[nodiscard]] std::unique_ptr<PropertyListFiles> makePropertyListFiles();
 [[nodiscard]] std::unique_ptr<KnownFolders> makeKnownFolders();
 [[nodiscard]] std::unique_ptr<ApplicationBundle> makeApplicationBundle();
 [[nodiscard]] std::unique_ptr<Images> makeImages();
@@ -25,5 +30,6 @@ class Workspace;
 [[nodiscard]] std::unique_ptr<Workspace> makeWorkspace();
 [[nodiscard]] std::unique_ptr<SystemLog> makeSystemLog();
 [[nodiscard]] std::unique_ptr<Process> makeProcess();
+[[nodiscard]] std::unique_ptr<Clock> makeClock();
 
 } // namespace tarnwick

@@ -70,6 +70,18 @@ public:
             completion(answerOf(panel, result));
         }];
     }
+
+    void choosePlace(const SavePanelRequest &request,
+        std::function<void(const std::optional<std::string> &)> completion) override {
+        NSSavePanel *panel = [NSSavePanel savePanel];
+        [panel setAllowedFileTypes:toTypes({request.fileType})];
+        [panel setNameFieldStringValue:toNSString(request.name)];
+        [panel setCanCreateDirectories:YES];
+        [panel beginWithCompletionHandler:^(NSInteger result) {
+            const bool isConfirmed = result == NSModalResponseOK;
+            completion(isConfirmed ? std::optional(toString([[panel URL] path])) : std::nullopt);
+        }];
+    }
 };
 
 } // namespace

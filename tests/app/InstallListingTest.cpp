@@ -1,5 +1,6 @@
 #include "app/ApplicationIdentity.h"
 #include "app/InstallGuard.h"
+#include "prefs/PreferenceKeys.h"
 #include "tests/support/InMemoryPlatform.h"
 
 #include <gtest/gtest.h>

@@ -12,7 +12,7 @@ fail() {
 freshCopy() {
     rm -rf "$work/copy"
     mkdir "$work/copy"
-    cp -r adapters app editing front gnustep integration platform prefs ui values "$work/copy"
+    cp -r adapters app editing front gnustep integration platform prefs transfer ui values "$work/copy"
 }
 # plant FILE: the standard input goes to the end of the file.
 plant() {

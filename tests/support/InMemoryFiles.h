@@ -33,11 +33,12 @@ public:
 
     /// The names of the files directly in a folder, sorted.
     [[nodiscard]] std::set<std::string> namesIn(const std::string& folder) const;
+    /// Takes away what is there, with its contents, and logs nothing.
+    void erase(const std::string& path);
 
 private:
     [[nodiscard]] bool canPut(const std::string& from, const std::string& to) const;
     void put(const std::string& from, const std::string& to);
-    void erase(const std::string& path);
     CallLog& log_;
 };
 

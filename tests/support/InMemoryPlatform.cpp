@@ -24,8 +24,8 @@ void InMemoryPlatform::addResources() {
 }
 
 Ports InMemoryPlatform::ports() {
-    return {preferences, files, folders, bundle, images, panels, workspace, finderSync, userScripts,
-        notifications, runLoop, systemLog, process};
+    return {preferences, files, trees, listFiles, folders, bundle, images, panels, workspace, finderSync,
+        userScripts, notifications, runLoop, systemLog, process, clock};
 }
 
 } // namespace tarnwick::testing

@@ -2,9 +2,11 @@
 
 #include "platform/Ports.h"
 #include "tests/support/CallLog.h"
+#include "tests/support/InMemoryFileTrees.h"
 #include "tests/support/InMemoryFiles.h"
 #include "tests/support/InMemoryImages.h"
 #include "tests/support/InMemoryPreferences.h"
+#include "tests/support/InMemoryPropertyListFiles.h"
 #include "tests/support/InMemorySystem.h"
 
 namespace tarnwick::testing {
@@ -14,6 +16,8 @@ struct InMemoryPlatform {
     CallLog log;
     InMemoryPreferences preferences{log};
     InMemoryFiles files{log};
+    InMemoryFileTrees trees{log, files};
+    InMemoryPropertyListFiles listFiles{log};
     InMemoryFolders folders;
     InMemoryBundle bundle;
     InMemoryImages images;
@@ -25,6 +29,7 @@ struct InMemoryPlatform {
     InMemoryRunLoop runLoop{log};
     InMemorySystemLog systemLog{log};
     InMemoryProcess process{log};
+    InMemoryClock clock;
 
     InMemoryPlatform();
     [[nodiscard]] Ports ports();

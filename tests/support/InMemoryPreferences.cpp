@@ -15,20 +15,26 @@ public:
         owner_.log_.add(name_ + " set " + std::string(key));
         const auto old = this->value(key);
         values_.insert_or_assign(std::string(key), value);
-        if (&values_ == &owner_.local && owner_.observer && owner_.observedKeys.count(key) != 0 &&
-            old != value) {
-            owner_.observer(key, value);
+        if (old != value) {
+            tell(key, value);
         }
     }
     void removeValue(std::string_view key) override {
         owner_.log_.add(name_ + " remove " + std::string(key));
         if (const auto found = values_.find(key); found != values_.end()) {
             values_.erase(found);
+            tell(key, false);
         }
     }
     void synchronize() override { owner_.log_.add(name_ + " synchronise"); }
 
 private:
+    void tell(std::string_view key, const PlistValue& value) {
+        if (&values_ == &owner_.local && owner_.observer && owner_.observedKeys.count(key) != 0) {
+            owner_.observer(key, value);
+        }
+    }
+
     InMemoryPreferences& owner_;
     PlistDictionary& values_;
     std::string name_;

@@ -22,7 +22,8 @@ public:
     PlistDictionary shared;
     /// What the system-wide domain holds.
     std::map<std::string, std::string, std::less<>> systemWide;
-    /// The keys of the local domain whose changes, and only changes, `observer` is told.
+    /// The keys of the local domain whose changes, and only changes, `observer` is told; that a value is gone
+    /// as false.
     std::set<std::string, std::less<>> observedKeys;
     std::function<void(std::string_view key, const PlistValue& value)> observer;
 

@@ -12,6 +12,15 @@ void InMemoryPanels::choose(
     open_.push_back(std::move(completion));
 }
 
+void InMemoryPanels::choosePlace(
+    const SavePanelRequest& request, std::function<void(const std::optional<std::string>&)> completion) {
+    log_.add("save panel");
+    saveRequests.push_back(request);
+    open_.push_back([completion = std::move(completion)](const OpenPanelAnswer& answer) {
+        completion(answer.confirmed ? std::optional(answer.paths.at(0)) : std::nullopt);
+    });
+}
+
 void InMemoryPanels::confirm(std::vector<std::string> paths) {
     close({true, std::move(paths)});
 }

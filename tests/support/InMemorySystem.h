@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Clock.h"
 #include "platform/DistributedNotifications.h"
 #include "platform/FinderSync.h"
 #include "platform/Panels.h"
@@ -18,20 +19,23 @@
 namespace tarnwick::testing {
 
 /// Keeps each chooser open until the test answers it, and answers each alert with the next of `answers`, the
-/// first button when there is none. Logs "open panel" and "alert MESSAGE".
+/// first button when there is none. Logs "open panel", "save panel" and "alert MESSAGE".
 class InMemoryPanels final : public Panels {
 public:
     explicit InMemoryPanels(CallLog& log) : log_(log) {}
     std::vector<OpenPanelRequest> requests;
+    std::vector<SavePanelRequest> saveRequests;
     std::vector<AlertRequest> alerts;
     std::deque<long> answers;
 
     long runAlert(const AlertRequest& request) override;
     void choose(
         const OpenPanelRequest& request, std::function<void(const OpenPanelAnswer&)> completion) override;
+    void choosePlace(const SavePanelRequest& request,
+        std::function<void(const std::optional<std::string>&)> completion) override;
 
     [[nodiscard]] bool isOpen() const { return !open_.empty(); }
-    /// Closes the chooser that was opened first.
+    /// Closes the chooser that was opened first; a save panel is confirmed with one path.
     void confirm(std::vector<std::string> paths);
     void cancel();
 
@@ -130,6 +134,15 @@ public:
 
 private:
     CallLog& log_;
+};
+
+/// Stands still.
+class InMemoryClock final : public Clock {
+public:
+    PlistDate time{700'000'000.5};
+    std::string day = "2023-03-08";
+    PlistDate now() const override { return time; }
+    std::string today() const override { return day; }
 };
 
 /// Does not end anything; logs "exit STATUS". Runs no program: gives the bytes of `answer` and keeps what was

@@ -1,0 +1,35 @@
+#include "adapters/foundation/Adapters.h"
+#include "platform/Clock.h"
+
+#include <chrono>
+#include <ctime>
+
+namespace tarnwick {
+namespace {
+
+class SystemClock final : public Clock {
+public:
+    PlistDate now() const override {
+        using Seconds = std::chrono::duration<double>;
+        // From 1970 to 2001.
+        constexpr Seconds referenceDate(978'307'200);
+        const Seconds since1970 = std::chrono::system_clock::now().time_since_epoch();
+        return {(since1970 - referenceDate).count()};
+    }
+
+    std::string today() const override {
+        const auto seconds = std::time(nullptr);
+        std::tm local{};
+        char text[sizeof "2001-12-31"];
+        localtime_r(&seconds, &local);
+        return std::strftime(text, sizeof text, "%Y-%m-%d", &local) > 0 ? text : "";
+    }
+};
+
+} // namespace
+
+std::unique_ptr<Clock> makeClock() {
+    return std::make_unique<SystemClock>();
+}
+
+} // namespace tarnwick

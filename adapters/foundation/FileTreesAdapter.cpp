@@ -1,0 +1,126 @@
+#include "adapters/foundation/Adapters.h"
+#include "adapters/foundation/RegularFiles.h"
+#include "platform/FileTrees.h"
+#include "values/Utf8.h"
+
+#include <algorithm>
+#include <dirent.h>
+#include <memory>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace tarnwick {
+namespace {
+
+enum class Kind { nothing, file, folder, other };
+
+Kind kindOf(const std::string& path) {
+    struct stat status {};
+    if (::lstat(path.c_str(), &status) != 0) {
+        return Kind::nothing;
+    }
+    if (S_ISDIR(status.st_mode)) {
+        return Kind::folder;
+    }
+    return S_ISREG(status.st_mode) ? Kind::file : Kind::other;
+}
+
+struct Closing {
+    void operator()(DIR* folder) const { ::closedir(folder); }
+};
+
+/// Nothing when the folder cannot be read.
+std::optional<std::vector<std::string>> namesOf(const std::string& path) {
+    const std::unique_ptr<DIR, Closing> folder(::opendir(path.c_str()));
+    if (!folder) {
+        return std::nullopt;
+    }
+    std::vector<std::string> names;
+    while (
+        const auto* entry = ::readdir(folder.get())) { // NOLINT(concurrency-mt-unsafe): a stream of its own
+        const std::string name(entry->d_name);
+        if (name != "." && name != "..") {
+            names.push_back(name);
+        }
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+std::optional<PlistValue> treeAt(const std::string& path);
+
+std::optional<PlistValue> folderAt(const std::string& path) {
+    const auto names = namesOf(path);
+    if (!names) {
+        return std::nullopt;
+    }
+    PlistDictionary folder;
+    for (const auto& name : *names) {
+        auto inside = isValidUtf8(name) ? treeAt(path + "/" + name) : std::nullopt;
+        if (!inside) {
+            return std::nullopt;
+        }
+        folder.emplace(name, *std::move(inside));
+    }
+    return folder;
+}
+
+std::optional<PlistValue> treeAt(const std::string& path) {
+    if (kindOf(path) == Kind::folder) {
+        return folderAt(path);
+    }
+    auto content = readRegularFile(path);
+    auto* bytes = std::get_if<PlistData>(&content);
+    return bytes ? std::optional<PlistValue>(std::move(*bytes)) : std::nullopt;
+}
+
+void removeTree(const std::string& path) {
+    if (kindOf(path) != Kind::folder) {
+        ::unlink(path.c_str());
+        return;
+    }
+    for (const auto& name : namesOf(path).value_or(std::vector<std::string>())) {
+        removeTree(path + "/" + name);
+    }
+    ::rmdir(path.c_str());
+}
+
+bool putTree(const std::string& path, const PlistValue& tree);
+
+bool putFolder(const std::string& path, const PlistDictionary& content) {
+    constexpr mode_t openToAll = 0777;
+    if (::mkdir(path.c_str(), openToAll) != 0) {
+        return false;
+    }
+    const auto isPut = [&](const auto& entry) { return putTree(path + "/" + entry.first, entry.second); };
+    if (std::all_of(content.begin(), content.end(), isPut)) {
+        return true;
+    }
+    removeTree(path);
+    return false;
+}
+
+bool putTree(const std::string& path, const PlistValue& tree) {
+    if (const auto* bytes = tree.data()) {
+        return writeNewFile(path, *bytes);
+    }
+    const auto* folder = tree.dictionary();
+    return folder && putFolder(path, *folder);
+}
+
+class PosixFileTrees final : public FileTrees {
+public:
+    std::optional<PlistValue> read(const std::string& path) const override { return treeAt(path); }
+    bool write(const std::string& path, const PlistValue& tree) override { return putTree(path, tree); }
+    std::vector<std::string> namesIn(const std::string& folder) const override {
+        return namesOf(folder).value_or(std::vector<std::string>());
+    }
+};
+
+} // namespace
+
+std::unique_ptr<FileTrees> makeFileTrees() {
+    return std::make_unique<PosixFileTrees>();
+}
+
+} // namespace tarnwick
