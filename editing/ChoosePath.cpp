@@ -27,7 +27,8 @@ void ChoosePath::selectPath(long row) {
         const auto index = static_cast<std::size_t>(row);
         // The name typed for the old folder goes; the new one shows its own.
         editor_.replace(category, index,
-            list[index].with(field::realPath, answer.paths.front()).with(field::displayName, ""));
+            list[index].with(field::realPath, answer.paths.front()).with(field::displayName, ""),
+            StepKind::chooseFolder);
     });
 }
 

@@ -21,7 +21,8 @@ std::optional<EditedField> editedField(std::string_view identifier) {
     if (identifier == "OthersNote") {
         return EditedField{RuleCategory::others, field::noteModified, field::note};
     }
-    const auto name = identifier == "newFileName" ? factsOf(RuleCategory::copyFilesTo).nameIdentifier : identifier;
+    const auto name =
+        identifier == "newFileName" ? factsOf(RuleCategory::copyFilesTo).nameIdentifier : identifier;
     for (const auto category : allRuleCategories) {
         if (factsOf(category).nameIdentifier == name) {
             return EditedField{category, factsOf(category).nameMark, field::displayName};
@@ -40,7 +41,8 @@ void EditText::endEditing(std::string_view identifier, long row, std::string_vie
     const auto index = static_cast<std::size_t>(row);
     const auto& old = editor_.list(edited->category)[index];
     const auto marked = edited->mark.empty() ? old : old.with(edited->mark, "1");
-    editor_.replace(edited->category, index, marked.with(edited->text, text));
+    const auto kind = edited->text == field::note ? StepKind::editNote : StepKind::rename;
+    editor_.replace(edited->category, index, marked.with(edited->text, text), kind);
 }
 
 } // namespace tarnwick

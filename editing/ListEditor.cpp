@@ -1,11 +1,13 @@
 #include "editing/ListEditor.h"
 
+#include "editing/ListChange.h"
 #include "editing/RuleTables.h"
 #include "prefs/FactoryLists.h"
 #include "prefs/GroupContainer.h"
 #include "prefs/LocalPreferences.h"
 #include "prefs/RuleList.h"
 #include "prefs/RulePublisher.h"
+#include "prefs/TemplateFiles.h"
 
 #include <utility>
 
@@ -25,6 +27,9 @@ struct ListEditor::Orders {
     static constexpr Step assigned[]{Step::reload, Step::store, Step::publish};
     /// The factory has stored its list, and laid out its files.
     static constexpr Step reset[]{Step::reload, Step::disableRemoving, Step::publish};
+    /// An edited row's effects, with the files in their places by the time that rows show their icons.
+    static constexpr Step takenBack[]{
+        Step::store, Step::synchronise, Step::files, Step::reload, Step::publish};
 };
 
 const RuleList& ListEditor::list(RuleCategory category) const {
@@ -35,7 +40,8 @@ void ListEditor::endEditing() {
     tables_.endEditing();
 }
 
-void ListEditor::replace(RuleCategory category, std::size_t index, RuleRecord record) {
+void ListEditor::replace(RuleCategory category, std::size_t index, RuleRecord record, StepKind kind) {
+    const auto step = stepOf(kind, category, index);
     auto records = lists_[category].records();
     TemplateWork files;
     if (factsOf(category).hasTemplateFiles) {
@@ -45,29 +51,40 @@ void ListEditor::replace(RuleCategory category, std::size_t index, RuleRecord re
         }
     }
     records[index] = std::move(record);
-    commit(category, std::move(records), files, Orders::replaced);
+    commit(category, std::move(records), files, Orders::replaced, step);
 }
 
 void ListEditor::append(RuleCategory category, std::vector<RuleRecord> records, const TemplateWork& files) {
-    auto all = lists_[category].records();
+    auto& list = lists_[category];
+    const auto first = list.size();
+    const auto isOne = records.size() == 1;
+    auto all = list.records();
     all.insert(all.end(), std::make_move_iterator(records.begin()), std::make_move_iterator(records.end()));
+    const auto before = list.exchange(std::move(all));
+    auto step = stepOf(StepKind::add, category, isOne ? std::optional(first) : std::nullopt);
+    step.rowBefore = first > 0 ? std::optional(first - 1) : std::nullopt;
+    step.rowAfter = first;
     // What was copied in is noted already.
-    lists_[category].assign(std::move(all));
-    run(category, files, Orders::appended);
+    const auto filesBack = run(category, files, Orders::appended);
+    remember(category, before, filesBack, step);
 }
 
 void ListEditor::remove(RuleCategory category, std::size_t index) {
+    auto step = stepOf(StepKind::remove, category, index);
+    step.rowAfter = index > 0 ? index - 1 : 0;
     auto records = lists_[category].records();
     const auto place = records.begin() + static_cast<std::ptrdiff_t>(index);
     TemplateWork files;
     if (factsOf(category).hasTemplateFiles) {
-        files = TemplateRemoved{templateFileName(*place)};
+        files = TemplatesRemoved{{templateFileName(*place)}};
     }
     records.erase(place);
-    commit(category, std::move(records), files, Orders::removed);
+    commit(category, std::move(records), files, Orders::removed, step);
 }
 
 void ListEditor::move(RuleCategory category, std::size_t from, std::size_t to) {
+    auto step = stepOf(StepKind::reorder, category, from);
+    step.rowAfter = to;
     auto records = lists_[category].records();
     const auto place = [&](std::size_t index) {
         return records.begin() + static_cast<std::ptrdiff_t>(index);
@@ -75,16 +92,24 @@ void ListEditor::move(RuleCategory category, std::size_t from, std::size_t to) {
     auto record = std::move(records[from]);
     records.erase(place(from));
     records.insert(place(to), std::move(record));
-    commit(category, std::move(records), {}, Orders::moved);
+    commit(category, std::move(records), {}, Orders::moved, step);
 }
 
-void ListEditor::assign(RuleCategory category, std::vector<RuleRecord> records) {
-    commit(category, std::move(records), {}, Orders::assigned);
+void ListEditor::assign(RuleCategory category, std::vector<RuleRecord> records, StepKind kind) {
+    commit(category, std::move(records), {}, Orders::assigned, stepOf(kind, category));
+}
+
+void ListEditor::replaceAll(
+    RuleCategory category, std::vector<RuleRecord> records, const TemplateWork& files, StepKind kind) {
+    commit(category, std::move(records), files, Orders::takenBack, stepOf(kind, category));
 }
 
 void ListEditor::reset(RuleCategory category) {
-    factory_.reset(category);
+    const auto step = stepOf(StepKind::reset, category);
+    const auto before = lists_[category].records();
+    const auto filesBack = factory_.reset(category);
     run(category, {}, Orders::reset);
+    remember(category, before, filesBack, step);
 }
 
 void ListEditor::publish(RuleCategory category) {
@@ -92,28 +117,74 @@ void ListEditor::publish(RuleCategory category) {
 }
 
 void ListEditor::commit(RuleCategory category, std::vector<RuleRecord> records, const TemplateWork& files,
-    std::span<const Step> order) {
-    lists_[category].assign(std::move(records));
-    templateFiles_.begin(files);
-    run(category, files, order);
+    std::span<const Step> order, const UndoStep& step) {
+    auto& list = lists_[category];
+    const auto before = list.exchange(std::move(records));
+    templateFiles_.begin(files, list);
+    const auto filesBack = run(category, files, order);
+    remember(category, before, filesBack, step);
 }
 
-void ListEditor::run(RuleCategory category, const TemplateWork& files, std::span<const Step> order) {
+std::optional<TemplateWork> ListEditor::run(
+    RuleCategory category, const TemplateWork& files, std::span<const Step> order) {
+    std::optional<TemplateWork> filesBack = TemplateWork();
     for (const auto step : order) {
-        perform(step, category, files);
+        if (step == Step::files) {
+            filesBack = templateFiles_.finish(files, lists_[category]);
+        } else {
+            perform(step, category);
+        }
     }
+    return filesBack;
 }
 
-void ListEditor::perform(Step step, RuleCategory category, const TemplateWork& files) {
+void ListEditor::remember(RuleCategory category, const std::vector<RuleRecord>& before,
+    const std::optional<TemplateWork>& filesBack, const UndoStep& step) {
+    if (!filesBack) {
+        steps_.forgetAll();
+        return;
+    }
+    ListChange change(lists_[category].records(), before);
+    if (change.isEmpty() && std::holds_alternative<std::monostate>(*filesBack)) {
+        return;
+    }
+    steps_.record(step.name, [this, category, change = std::move(change), files = *filesBack,
+                                 back = UndoStep{step.name, step.rowAfter, step.rowBefore}] {
+        takeBack(category, change, files, back);
+    });
+}
+
+void ListEditor::takeBack(
+    RuleCategory category, const ListChange& change, const TemplateWork& files, const UndoStep& step) {
+    commit(category, change.applied(lists_[category].records()), files, Orders::takenBack, step);
+    select(category, step.rowAfter);
+}
+
+void ListEditor::select(RuleCategory category, std::optional<std::size_t> row) {
+    if (row) {
+        tables_.selectRow(category, static_cast<long>(*row));
+    }
+    const auto& list = lists_[category];
+    const auto selected = tables_.selectedRow(category);
+    tables_.setRemoveButtonEnabled(
+        category, list.holds(selected) && !list.isProtected(static_cast<std::size_t>(selected)));
+}
+
+ListEditor::UndoStep ListEditor::stepOf(
+    StepKind kind, RuleCategory category, std::optional<std::size_t> row) const {
+    return {names_.nameOf(kind, lists_[category], row), row, row};
+}
+
+void ListEditor::perform(Step step, RuleCategory category) {
     switch (step) {
+    case Step::files:
+        // Has something to tell; see `run`.
+        break;
     case Step::store:
         local_.store(lists_[category]);
         break;
     case Step::synchronise:
         local_.synchronize();
-        break;
-    case Step::files:
-        templateFiles_.finish(files, lists_[category]);
         break;
     case Step::reload:
         tables_.reload(category);

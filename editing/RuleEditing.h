@@ -13,10 +13,11 @@ namespace tarnwick {
 
 struct Ports;
 struct Preferences;
+class StepNames;
 
 /// The list editor and the operations on it, wired together.
 struct RuleEditing {
-    RuleEditing(const Ports& ports, Preferences& preferences, RuleTables& tables);
+    RuleEditing(const Ports& ports, Preferences& preferences, RuleTables& tables, const StepNames& names);
     RuleEditing(const RuleEditing&) = delete;
     RuleEditing& operator=(const RuleEditing&) = delete;
 

@@ -20,6 +20,13 @@ RuleRecord switched(const RuleList& list, std::size_t index, std::string_view fl
     return record.with(flag, on && allowed ? 1 : 0);
 }
 
+StepKind kindOf(std::string_view flag, bool on) {
+    if (flag == field::enableMainMenu) {
+        return on ? StepKind::showInMainMenu : StepKind::hideFromMainMenu;
+    }
+    return on ? StepKind::turnOn : StepKind::turnOff;
+}
+
 } // namespace
 
 void ToggleRules::set(RuleCategory category, long row, std::string_view field, bool on) {
@@ -27,7 +34,7 @@ void ToggleRules::set(RuleCategory category, long row, std::string_view field, b
     const auto& list = editor_.list(category);
     if (list.holds(row)) {
         const auto index = static_cast<std::size_t>(row);
-        editor_.replace(category, index, switched(list, index, field, on));
+        editor_.replace(category, index, switched(list, index, field, on), kindOf(field, on));
     }
 }
 
@@ -46,7 +53,7 @@ void ToggleRules::enableAll(RuleCategory category) {
         const auto value = list.isFixed(index) ? PlistValue(1) : PlistValue(enable);
         records.push_back(list[index].with(field::enable, value));
     }
-    editor_.assign(category, std::move(records));
+    editor_.assign(category, std::move(records), enable ? StepKind::enableAll : StepKind::disableAll);
 }
 
 } // namespace tarnwick

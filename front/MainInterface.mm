@@ -1,10 +1,13 @@
 #import "front/MainInterface.h"
 
+#import "adapters/foundation/ObjectPointer.h"
+#import "adapters/foundation/UndoHistoryAdapter.h"
 #import "front/AppDelegate.h"
 #import "front/LayerWindow.h"
 #import "front/MainMenu.h"
 #import "front/SettingsViewController.h"
 #import "front/SettingsWindowBuilder.h"
+#import "front/WindowUndo.h"
 
 #include "adapters/foundation/Adapters.h"
 #include "adapters/foundation/SystemAdapters.h"
@@ -40,6 +43,10 @@ void observeEnds(SettingsViewController *controller, NSWindow *window) {
                selector:@selector(endEditing:)
                    name:NSApplicationWillTerminateNotification
                  object:nil];
+    [center addObserver:controller
+               selector:@selector(removeHeldFiles:)
+                   name:NSApplicationWillTerminateNotification
+                 object:nil];
 }
 
 struct Adapters {
@@ -59,10 +66,12 @@ struct Adapters {
     std::unique_ptr<SystemLog> log = makeSystemLog();
     std::unique_ptr<Process> process = makeProcess();
     std::unique_ptr<Clock> clock = makeClock();
+    ObjectPointer<WindowUndo> windowUndo = ObjectPointer<WindowUndo>::adopting([[WindowUndo alloc] init]);
+    std::unique_ptr<UndoHistory> undoHistory = makeUndoHistory([windowUndo.get() steps]);
 
     [[nodiscard]] Ports ports() const {
         return {*preferences, *files, *trees, *listFiles, *folders, *bundle, *images, *panels, *workspace,
-            *finderSync, *userScripts, *notifications, *runLoop, *log, *process, *clock};
+            *finderSync, *userScripts, *notifications, *runLoop, *log, *process, *clock, *undoHistory};
     }
 };
 
@@ -89,6 +98,7 @@ MainInterface::MainInterface() : parts_(std::make_unique<Parts>()) {
     delegate_ = [[AppDelegate alloc] initWithDelegate:parts_->window->delegate window:window_];
     installMainMenu(controller_);
     [NSApp setDelegate:delegate_];
+    [window_ setDelegate:parts_->adapters.windowUndo.get()];
     observeEnds(controller_, window_);
     [controller_ awakeFromNib];
     // The tables were built before there were lists to show.
@@ -99,6 +109,7 @@ MainInterface::MainInterface() : parts_(std::make_unique<Parts>()) {
 
 MainInterface::~MainInterface() {
     [NSApp setDelegate:nil];
+    [window_ setDelegate:nil];
     [[NSNotificationCenter defaultCenter] removeObserver:controller_];
     [delegate_ release];
     [window_ release];

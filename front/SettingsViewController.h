@@ -77,6 +77,9 @@ class OutletWindow;
 /// The name or note being edited counts as it stands, now that its window closes or the application ends.
 - (void)endEditing:(NSNotification *)notification;
 
+/// What undo kept of template files goes with the application.
+- (void)removeHeldFiles:(NSNotification *)notification;
+
 @end
 
 @interface SettingsViewController (Outlets)

@@ -65,6 +65,10 @@ using tarnwick::RuleCategory;
     _controller->endEditing();
 }
 
+- (void)removeHeldFiles:(NSNotification *)notification {
+    _controller->removeHeldFiles();
+}
+
 - (void)observeValueForKeyPath:(NSString *)keyPath
                       ofObject:(id)object
                         change:(NSDictionary *)change

@@ -22,6 +22,8 @@ public:
     [[nodiscard]] virtual std::optional<std::string> groupContainer(std::string_view identifier) const = 0;
     /// The user's Application Scripts folder of this application, created when missing.
     [[nodiscard]] virtual FolderResult applicationScripts() = 0;
+    /// The user's folder for what need not last.
+    [[nodiscard]] virtual std::string temporary() const = 0;
     /// The user's Library folder.
     [[nodiscard]] virtual std::string library() const = 0;
     /// The login name of the current user.

@@ -16,6 +16,7 @@ class Process;
 class PropertyListFiles;
 class RunLoop;
 class SystemLog;
+class UndoHistory;
 class UserScripts;
 class Workspace;
 
@@ -38,6 +39,7 @@ struct Ports {
     SystemLog& log;
     Process& process;
     Clock& clock;
+    UndoHistory& undoHistory;
 };
 
 } // namespace tarnwick

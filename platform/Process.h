@@ -14,6 +14,10 @@ public:
     virtual ~Process() = default;
     /// Ends the process with this status. Only the in-memory implementation returns.
     virtual void exit(int status) = 0;
+    /// The number that the system knows this process by.
+    [[nodiscard]] virtual int identifier() const = 0;
+    /// Whether a process of this number is there, whoever's it is.
+    [[nodiscard]] virtual bool isRunning(int identifier) const = 0;
     /// Whether macOS is at least of this version. Other systems count as the newest.
     [[nodiscard]] virtual bool isSystemAtLeast(int major, int minor, int patch) const = 0;
     /// Runs a program with its standard output on a pipe, blocks until that is closed and gives what was

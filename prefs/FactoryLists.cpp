@@ -27,22 +27,26 @@ std::vector<RuleRecord> buildTemplates() {
 
 } // namespace
 
-void FactoryLists::reset(RuleCategory category) {
+std::optional<TemplateWork> FactoryLists::reset(RuleCategory category) {
     auto records = build(category);
     if (!records) {
-        return;
+        return TemplateWork();
     }
     auto& list = lists_[category];
     const auto hasFiles = factsOf(category).hasTemplateFiles;
     const auto files = hasFiles ? TemplateWork(TemplatesLaidOut()) : TemplateWork();
-    templateFiles_.begin(files);
+    templateFiles_.begin(files, list);
     list.assign(*std::move(records));
     local_.storeAndSynchronize(list);
     if (hasFiles) {
         // Whole, on purpose.
         publisher_.saveData(list.toPlist(), factsOf(category).listKey);
     }
-    templateFiles_.finish(files, list);
+    return templateFiles_.finish(files, list);
+}
+
+void FactoryLists::recoverHeldTemplateFiles(const RuleList& stored) {
+    templateFiles_.recoverHeld(stored);
 }
 
 void FactoryLists::recoverTemplateFiles() {

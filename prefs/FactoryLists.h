@@ -3,6 +3,7 @@
 #include "prefs/FactoryTables.h"
 #include "prefs/RuleCategory.h"
 #include "prefs/RuleRecord.h"
+#include "prefs/TemplateWork.h"
 
 #include <optional>
 #include <string_view>
@@ -13,6 +14,7 @@ namespace tarnwick {
 class Images;
 class KnownFolders;
 class LocalPreferences;
+class RuleList;
 class RuleLists;
 class RulePublisher;
 class SystemLog;
@@ -30,8 +32,12 @@ public:
     /// records included, and the template folder, removed and laid out anew. The caller publishes the enabled
     /// records and reloads the table. A category without factory list is left alone; a list that cannot be
     /// built, because an image of the application's resources is missing, stays as it was, with a log line.
-    void reset(RuleCategory category);
+    /// Gives the work that brings the template files of before back; nothing when no work does, because the
+    /// folder could not be held.
+    std::optional<TemplateWork> reset(RuleCategory category);
 
+    /// At a start, ahead of all that looks at the template folder; see `TemplateFiles::recoverHeld`.
+    void recoverHeldTemplateFiles(const RuleList& stored);
     /// At a start, once the templates are loaded: finishes a change of template files that was interrupted.
     void recoverTemplateFiles();
 

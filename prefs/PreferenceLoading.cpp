@@ -27,6 +27,8 @@ void PreferenceLoading::prepareStoresAndFolders() {
     if (!local_.containsArray(factsOf(RuleCategory::copyFilesTo).listKey)) {
         buildFeatureArray();
     }
+    factory_.recoverHeldTemplateFiles(
+        RuleList(RuleCategory::createNewFile, storedRecords(RuleCategory::createNewFile)));
     ensureTemplates();
     icons_.rebuild();
 }
@@ -79,7 +81,7 @@ void PreferenceLoading::loadLists() {
     addMissingEditors();
 }
 
-void PreferenceLoading::load(RuleCategory category) {
+std::vector<RuleRecord> PreferenceLoading::storedRecords(RuleCategory category) const {
     std::vector<RuleRecord> records;
     const auto stored = local_.value(factsOf(category).listKey);
     if (const auto* elements = stored ? stored->array() : nullptr) {
@@ -90,7 +92,11 @@ void PreferenceLoading::load(RuleCategory category) {
             }
         }
     }
-    lists_[category].assign(std::move(records));
+    return records;
+}
+
+void PreferenceLoading::load(RuleCategory category) {
+    lists_[category].assign(storedRecords(category));
     if (factsOf(category).isNeverEmpty && lists_[category].empty()) {
         factory_.reset(category);
     }

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "prefs/RuleCategory.h"
+#include "prefs/RuleRecord.h"
+
+#include <vector>
 
 namespace tarnwick {
 
@@ -26,8 +29,9 @@ public:
           publisher_(publisher), factory_(factory), icons_(icons) {}
 
     /// Opens both stores, keeps unreadable originals aside, seeds the switches, builds the feature array on
-    /// the first run, lays out the templates when their folder is missing, and rebuilds the two icon folders;
-    /// in this order. Neither store is synchronised for the seeding.
+    /// the first run, puts back template files that an earlier process was about to, lays out the templates
+    /// when their folder is missing, and rebuilds the two icon folders; in this order. Neither store is
+    /// synchronised for the seeding.
     void prepareStoresAndFolders();
 
     /// Loads CopyFilesTo, CommonPath and CreateNewFile; finishes what an earlier process began with template
@@ -41,6 +45,7 @@ private:
     void buildFeatureArray();
     void ensureTemplates();
     void load(RuleCategory category);
+    [[nodiscard]] std::vector<RuleRecord> storedRecords(RuleCategory category) const;
     void addImageToIconFeature();
     void addMissingEditors();
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "prefs/FactoryLists.h"
+#include "prefs/HeldFiles.h"
 #include "prefs/IconFolders.h"
 #include "prefs/LocalPreferences.h"
 #include "prefs/PreferenceLoading.h"
@@ -21,6 +22,7 @@ struct Preferences {
     LocalPreferences local;
     RuleLists lists;
     RulePublisher publisher;
+    HeldFiles held;
     TemplateFiles templateFiles;
     FactoryLists factory;
     IconFolders icons;

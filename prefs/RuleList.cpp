@@ -1,6 +1,7 @@
 #include "prefs/RuleList.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tarnwick {
 
@@ -12,6 +13,11 @@ void RuleList::append(RuleRecord record) {
 void RuleList::assign(std::vector<RuleRecord> records) {
     records_ = std::move(records);
     ++revision_;
+}
+
+std::vector<RuleRecord> RuleList::exchange(std::vector<RuleRecord> records) {
+    ++revision_;
+    return std::exchange(records_, std::move(records));
 }
 
 void RuleList::insert(std::size_t index, RuleRecord record) {

@@ -40,6 +40,8 @@ public:
     /// Puts the record at `index`; past the end it is appended.
     void insert(std::size_t index, RuleRecord record);
     void assign(std::vector<RuleRecord> records);
+    /// Like `assign`, and gives the records that were there.
+    [[nodiscard]] std::vector<RuleRecord> exchange(std::vector<RuleRecord> records);
     [[nodiscard]] const std::vector<RuleRecord>& records() const { return records_; }
 
     /// Another number after every change of the list.

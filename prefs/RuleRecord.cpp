@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace tarnwick {
 namespace {
@@ -78,6 +79,34 @@ RuleRecord RuleRecord::with(std::string_view key, PlistValue value) const {
     PlistDictionary changed = *fields_;
     changed.insert_or_assign(std::string(key), std::move(value));
     return RuleRecord(std::move(changed));
+}
+
+RuleRecord RuleRecord::without(std::string_view key) const {
+    PlistDictionary changed = *fields_;
+    if (const auto found = changed.find(key); found != changed.end()) {
+        changed.erase(found);
+    }
+    return RuleRecord(std::move(changed));
+}
+
+std::optional<std::string> RuleRecord::onlyDifference(const RuleRecord& other) const {
+    std::optional<std::string> difference;
+    auto mine = fields_->begin();
+    auto others = other.fields_->begin();
+    while (mine != fields_->end() || others != other.fields_->end()) {
+        const auto isMineAlone =
+            others == other.fields_->end() || (mine != fields_->end() && mine->first < others->first);
+        const auto isOthersAlone = !isMineAlone && (mine == fields_->end() || others->first < mine->first);
+        if (isMineAlone || isOthersAlone || !(mine->second == others->second)) {
+            if (difference) {
+                return std::nullopt;
+            }
+            difference = isOthersAlone ? others->first : mine->first;
+        }
+        mine = isOthersAlone ? mine : std::next(mine);
+        others = isMineAlone ? others : std::next(others);
+    }
+    return difference;
 }
 
 bool RuleRecord::hasFixedAction() const {

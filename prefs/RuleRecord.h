@@ -61,6 +61,11 @@ public:
     /// A copy in which one field has another value; the receiver stays as it is.
     [[nodiscard]] RuleRecord with(std::string_view key, PlistValue value) const;
 
+    /// A copy without one field.
+    [[nodiscard]] RuleRecord without(std::string_view key) const;
+    /// The one field in which the other record differs; nothing when it is none, or more than one.
+    [[nodiscard]] std::optional<std::string> onlyDifference(const RuleRecord& other) const;
+
     [[nodiscard]] bool isEnabled() const { return flag(field::enable); }
     /// Always on and immovable: the QR code and the two translations.
     [[nodiscard]] bool hasFixedAction() const;

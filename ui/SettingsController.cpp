@@ -24,8 +24,10 @@ constexpr Colour red{1, 0, 0, 1};
 
 SettingsController::SettingsController(const Ports& ports, SettingsWindow& window)
     : stores_(ports.preferences), bundle_(ports.bundle), workspace_(ports.workspace), runLoop_(ports.runLoop),
-      log_(ports.log), window_(window), preferences_(ports), editing_(ports, preferences_, window),
-      transfer_(ports, preferences_, editing_.editor), integration_(ports, preferences_),
+      log_(ports.log), window_(window), preferences_(ports),
+      stepNames_(ports.folders, ports.bundle, ports.images),
+      editing_(ports, preferences_, window, stepNames_), transfer_(ports, preferences_, editing_.editor),
+      integration_(ports, preferences_),
       rows_(preferences_.lists, ports.folders, ports.bundle, ports.images) {}
 
 void SettingsController::awakeFromNib() {

@@ -3,6 +3,7 @@
 #include "editing/RuleEditing.h"
 #include "integration/SystemIntegration.h"
 #include "prefs/Preferences.h"
+#include "ui/LocalizedStepNames.h"
 #include "ui/Page.h"
 #include "ui/RuleRows.h"
 #include "ui/SettingsTransfer.h"
@@ -67,6 +68,8 @@ public:
     /// A field with this identifier in this row has been edited.
     void textEdited(std::string_view identifier, long row, std::string_view text);
     void endEditing() { editing_.editor.endEditing(); }
+    /// When the process ends.
+    void removeHeldFiles() { preferences_.held.removeAll(); }
     void selectPath(long row) { editing_.pathChoosing.selectPath(row); }
 
     void exportSettings() { transfer_.exportSettings(); }
@@ -83,6 +86,7 @@ private:
     SettingsWindow& window_;
 
     Preferences preferences_;
+    LocalizedStepNames stepNames_;
     RuleEditing editing_;
     SettingsTransfer transfer_;
     SystemIntegration integration_;

@@ -6,6 +6,8 @@
 
 #import <Foundation/Foundation.h>
 
+#include <cstdio>
+
 namespace tarnwick {
 namespace {
 
@@ -28,6 +30,17 @@ public:
     }
     bool move(const std::string &from, const std::string &to) override {
         return !exists(to) && [manager() moveItemAtPath:toNSString(from) toPath:toNSString(to) error:nullptr];
+    }
+    bool rename(const std::string &from, const std::string &to) override {
+        return !exists(to) && std::rename([toNSString(from) fileSystemRepresentation],
+                                  [toNSString(to) fileSystemRepresentation]) == 0;
+    }
+    std::vector<std::string> contents(const std::string &folder) const override {
+        std::vector<std::string> names;
+        for (NSString *name in [manager() contentsOfDirectoryAtPath:toNSString(folder) error:nullptr]) {
+            names.push_back(toString(name));
+        }
+        return names;
     }
     std::optional<PlistValue> propertyList(const std::string &path) const override {
         NSData *bytes = [NSData dataWithContentsOfFile:toNSString(path)];

@@ -27,6 +27,9 @@ public:
         }
         return {toString([folder path]), ""};
     }
+    std::string temporary() const override {
+        return toString([NSTemporaryDirectory() stringByStandardizingPath]);
+    }
     std::string library() const override {
         NSArray *folders = NSSearchPathForDirectoriesInDomains(NSLibraryDirectory, NSUserDomainMask, YES);
         return [folders count] > 0 ? toString([folders objectAtIndex:0]) : std::string();

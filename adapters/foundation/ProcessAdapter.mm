@@ -6,6 +6,8 @@
 #include "adapters/foundation/SystemAdapters.h"
 #include "platform/Process.h"
 
+#include <cerrno>
+#include <csignal>
 #include <cstdlib>
 
 namespace tarnwick {
@@ -14,6 +16,11 @@ namespace {
 class FoundationProcess final : public Process {
 public:
     void exit(int status) override { std::exit(status); }
+    int identifier() const override { return [[NSProcessInfo processInfo] processIdentifier]; }
+    bool isRunning(int identifier) const override {
+        // Another user's process may not be signalled.
+        return ::kill(identifier, 0) == 0 || errno == EPERM;
+    }
     bool isSystemAtLeast(int major, int minor, int patch) const override {
         return tarnwick::isSystemAtLeast(major, minor, patch);
     }

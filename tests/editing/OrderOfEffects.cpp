@@ -71,6 +71,11 @@ Lines forgotten() {
     return {"local remove pendingTemplateFiles"};
 }
 
+Lines held(const std::string& path) {
+    const std::string folder = "/tmp/org.halvane.Tarnwick.undo-100";
+    return {"create folder " + folder, "move " + path + " -> " + folder + "/1"};
+}
+
 Lines publishedTemplates() {
     return published("arrOfCreateNewFile", "enableAllOfCreateNewFiles", false);
 }

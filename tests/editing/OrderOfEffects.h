@@ -48,6 +48,9 @@ inline const std::string templates = "/container/Templates/CreateNewFile/";
 [[nodiscard]] Lines noted();
 [[nodiscard]] Lines forgotten();
 
+/// The first file that is taken away, to where undo finds it.
+[[nodiscard]] Lines held(const std::string& path);
+
 /// What publishing each list asks for. An enable-all flag is written true, and false once more when a record
 /// is off, as some factory templates are.
 [[nodiscard]] Lines publishedTemplates();

@@ -35,9 +35,9 @@ INSTANTIATE_TEST_SUITE_P(Adding, OrderOfEffectsTest,
 INSTANTIATE_TEST_SUITE_P(Removing, OrderOfEffectsTest,
     ::testing::Values(
         Effects{"ATemplate", [](auto& window) { window.remove(RuleCategory::createNewFile, 2); },
-            noted() + stored("arrOfCreateNewFile") +
-                Lines{"reload createNewFile", "remove " + templates + "XML.xml"} + forgotten() +
-                Lines{"select createNewFile 1"} + publishedTemplates()},
+            noted() + stored("arrOfCreateNewFile") + Lines{"reload createNewFile"} +
+                held(templates + "XML.xml") + forgotten() + Lines{"select createNewFile 1"} +
+                publishedTemplates()},
         Effects{"ATarget", [](auto& window) { window.remove(RuleCategory::copyFilesTo, 2); },
             stored("arrOfCopyFilesTo") + Lines{"reload copyFilesTo", "select copyFilesTo 1"} +
                 publishedTargets()},

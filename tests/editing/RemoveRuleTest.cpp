@@ -74,11 +74,12 @@ TEST_F(RemoveRuleTest, ATemplateIsStoredAwayReloadedItsFileDeletedTheNeighbourSe
     editing_.removing.remove(RuleCategory::createNewFile);
     EXPECT_EQ(platform_.log.lines(),
         (std::vector<std::string>{"local set pendingTemplateFiles", "local set arrOfCreateNewFile",
-            "local synchronise", "reload createNewFile",
-            "remove /container/Templates/CreateNewFile/Word.docx", "local remove pendingTemplateFiles",
-            "select createNewFile 2", "local set enableAllOfCreateNewFiles",
-            "local set enableAllOfCreateNewFiles", "shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
-            "shared set arrOfCreateNewFile", "shared synchronise"}));
+            "local synchronise", "reload createNewFile", "create folder /tmp/org.halvane.Tarnwick.undo-100",
+            "move /container/Templates/CreateNewFile/Word.docx -> /tmp/org.halvane.Tarnwick.undo-100/1",
+            "local remove pendingTemplateFiles", "select createNewFile 2",
+            "local set enableAllOfCreateNewFiles", "local set enableAllOfCreateNewFiles",
+            "shared open H7Q2ZK5RX9.org.halvane.Tarnwick", "shared set arrOfCreateNewFile",
+            "shared synchronise"}));
     EXPECT_FALSE(platform_.files.exists("/container/Templates/CreateNewFile/Word.docx"));
 }
 

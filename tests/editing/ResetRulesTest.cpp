@@ -31,11 +31,12 @@ TEST_F(ResetRulesTest, ResettingTheTemplatesPublishesThemWholeLaysOutTheirFolder
         (std::vector<std::string>{"local set pendingTemplateFiles", "local set arrOfCreateNewFile",
             "local synchronise", "shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
             "shared set arrOfCreateNewFile", "shared synchronise",
-            "remove /container/Templates/CreateNewFile", "create folder /container/Templates/CreateNewFile",
-            "local remove pendingTemplateFiles", "reload createNewFile", "disable remove createNewFile",
-            "local set enableAllOfCreateNewFiles", "local set enableAllOfCreateNewFiles",
-            "shared open H7Q2ZK5RX9.org.halvane.Tarnwick", "shared set arrOfCreateNewFile",
-            "shared synchronise"}));
+            "create folder /tmp/org.halvane.Tarnwick.undo-100",
+            "move /container/Templates/CreateNewFile -> /tmp/org.halvane.Tarnwick.undo-100/1",
+            "create folder /container/Templates/CreateNewFile", "local remove pendingTemplateFiles",
+            "reload createNewFile", "disable remove createNewFile", "local set enableAllOfCreateNewFiles",
+            "local set enableAllOfCreateNewFiles", "shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
+            "shared set arrOfCreateNewFile", "shared synchronise"}));
     EXPECT_EQ(platform_.log.linesWith("copy ").size(), 30U);
 }
 

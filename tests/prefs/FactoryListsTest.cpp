@@ -53,11 +53,13 @@ TEST_F(FactoryListsTest, TheTemplateResetStoresPublishesRemovesCreatesAndCopiesI
     platform_.log.clear();
     preferences_.factory.reset(RuleCategory::createNewFile);
     const auto& lines = platform_.log.lines();
-    EXPECT_EQ(std::vector<std::string>(lines.begin(), lines.begin() + 10),
+    EXPECT_EQ(std::vector<std::string>(lines.begin(), lines.begin() + 11),
         (std::vector<std::string>{"local set pendingTemplateFiles", "local set arrOfCreateNewFile",
             "local synchronise", "shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
             "shared set arrOfCreateNewFile", "shared synchronise",
-            "remove /container/Templates/CreateNewFile", "create folder /container/Templates/CreateNewFile",
+            "create folder /tmp/org.halvane.Tarnwick.undo-100",
+            "move /container/Templates/CreateNewFile -> /tmp/org.halvane.Tarnwick.undo-100/1",
+            "create folder /container/Templates/CreateNewFile",
             "copy /resources/TXT.txt -> /container/Templates/CreateNewFile/TXT.txt",
             "copy /resources/txt.png -> /container/Templates/CreateNewFile/txt.png"}));
 }

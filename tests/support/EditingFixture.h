@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editing/RuleEditing.h"
+#include "tests/support/InMemoryStepNames.h"
 #include "tests/support/InMemoryTables.h"
 #include "tests/support/PrefsFixture.h"
 
@@ -30,7 +31,8 @@ protected:
     [[nodiscard]] long rows(RuleCategory category) { return static_cast<long>(list(category).size()); }
 
     InMemoryTables tables_{platform_.log};
-    RuleEditing editing_{platform_.ports(), preferences_, tables_};
+    InMemoryStepNames stepNames_;
+    RuleEditing editing_{platform_.ports(), preferences_, tables_, stepNames_};
 };
 
 } // namespace tarnwick::testing

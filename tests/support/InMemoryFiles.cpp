@@ -61,6 +61,36 @@ bool InMemoryFiles::move(const std::string& from, const std::string& to) {
     return true;
 }
 
+bool InMemoryFiles::rename(const std::string& from, const std::string& to) {
+    log_.add("rename " + from + " -> " + to);
+    if (volumeOf(from) != volumeOf(to) || !canPut(from, to)) {
+        return false;
+    }
+    put(from, to);
+    erase(from);
+    return true;
+}
+
+std::string InMemoryFiles::volumeOf(const std::string& path) const {
+    for (const auto& volume : volumes) {
+        if (path == volume || liesIn(path, volume)) {
+            return volume;
+        }
+    }
+    return "/";
+}
+
+std::vector<std::string> InMemoryFiles::contents(const std::string& folder) const {
+    const auto found = namesIn(folder);
+    std::vector<std::string> names(found.begin(), found.end());
+    for (const auto& path : folders) {
+        if (parentOf(path) == folder) {
+            names.push_back(path.substr(folder.size() + 1));
+        }
+    }
+    return names;
+}
+
 void InMemoryFiles::put(const std::string& from, const std::string& to) {
     const auto moved = [&](const std::string& path) { return to + path.substr(from.size()); };
     for (const auto& folder : std::set(folders)) {

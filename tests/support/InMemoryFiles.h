@@ -12,7 +12,8 @@
 namespace tarnwick::testing {
 
 /// A file tree: paths with their contents; folders are paths of their own. Logs "remove PATH",
-/// "create folder PATH", "copy FROM -> TO", "move FROM -> TO" and "parse PATH", also when they fail.
+/// "create folder PATH", "copy FROM -> TO", "move FROM -> TO", "rename FROM -> TO" and "parse PATH", also
+/// when they fail.
 class InMemoryFiles final : public FileManager {
 public:
     explicit InMemoryFiles(CallLog& log) : log_(log) {}
@@ -21,6 +22,8 @@ public:
     std::set<std::string> folders;
     /// Destinations (or removed or created paths) at which the operation fails.
     std::set<std::string> failing;
+    /// Folders on volumes of their own.
+    std::set<std::string> volumes;
     /// What property-list files hold.
     std::map<std::string, PlistValue> propertyLists;
 
@@ -29,6 +32,8 @@ public:
     bool createFolder(const std::string& path) override;
     bool copy(const std::string& from, const std::string& to) override;
     bool move(const std::string& from, const std::string& to) override;
+    bool rename(const std::string& from, const std::string& to) override;
+    std::vector<std::string> contents(const std::string& folder) const override;
     std::optional<PlistValue> propertyList(const std::string& path) const override;
 
     /// The names of the files directly in a folder, sorted.
@@ -37,6 +42,7 @@ public:
     void erase(const std::string& path);
 
 private:
+    [[nodiscard]] std::string volumeOf(const std::string& path) const;
     [[nodiscard]] bool canPut(const std::string& from, const std::string& to) const;
     void put(const std::string& from, const std::string& to);
     CallLog& log_;
@@ -48,6 +54,7 @@ public:
     std::optional<std::string> container = "/container";
     FolderResult scripts{"/scripts", ""};
     std::string user = "anna";
+    std::string temporaryFolder = "/tmp";
     std::string libraryFolder = "/Users/anna/Library";
     /// The identifier last asked for.
     mutable std::string askedGroup;
@@ -57,6 +64,7 @@ public:
         return container;
     }
     FolderResult applicationScripts() override { return scripts; }
+    std::string temporary() const override { return temporaryFolder; }
     std::string library() const override { return libraryFolder; }
     std::string userName() const override { return user; }
 };

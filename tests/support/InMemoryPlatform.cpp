@@ -5,7 +5,7 @@
 namespace tarnwick::testing {
 
 InMemoryPlatform::InMemoryPlatform() {
-    files.folders = {"/container", "/scripts", "/resources"};
+    files.folders = {"/container", "/scripts", "/resources", "/tmp"};
     addResources();
 }
 
@@ -25,7 +25,7 @@ void InMemoryPlatform::addResources() {
 
 Ports InMemoryPlatform::ports() {
     return {preferences, files, trees, listFiles, folders, bundle, images, panels, workspace, finderSync,
-        userScripts, notifications, runLoop, systemLog, process, clock};
+        userScripts, notifications, runLoop, systemLog, process, clock, undoHistory};
 }
 
 } // namespace tarnwick::testing

@@ -8,6 +8,7 @@
 #include "tests/support/InMemoryPreferences.h"
 #include "tests/support/InMemoryPropertyListFiles.h"
 #include "tests/support/InMemorySystem.h"
+#include "tests/support/InMemoryUndoHistory.h"
 
 namespace tarnwick::testing {
 
@@ -30,6 +31,7 @@ struct InMemoryPlatform {
     InMemorySystemLog systemLog{log};
     InMemoryProcess process{log};
     InMemoryClock clock;
+    InMemoryUndoHistory undoHistory;
 
     InMemoryPlatform();
     [[nodiscard]] Ports ports();

@@ -151,6 +151,9 @@ class InMemoryProcess final : public Process {
 public:
     explicit InMemoryProcess(CallLog& log) : log_(log) {}
     std::vector<int> exits;
+    int number = 100;
+    /// The other processes that are there.
+    std::set<int> others;
     int major = 10;
     int minor = 15;
     int patch = 0;
@@ -158,6 +161,10 @@ public:
     std::string answer;
 
     void exit(int status) override;
+    int identifier() const override { return number; }
+    bool isRunning(int identifier) const override {
+        return identifier == number || others.count(identifier) != 0;
+    }
     bool isSystemAtLeast(int otherMajor, int otherMinor, int otherPatch) const override;
     PlistData output(const std::string& launchPath, const std::vector<std::string>& arguments) override;
 

@@ -1,0 +1,78 @@
+#include "prefs/HeldFiles.h"
+
+#include "platform/FileManager.h"
+#include "platform/KnownFolders.h"
+#include "platform/Process.h"
+
+#include <charconv>
+#include <string_view>
+
+namespace tarnwick {
+namespace {
+
+/// The number of a process follows.
+constexpr std::string_view folderName = "org.halvane.Tarnwick.undo-";
+
+/// The process whose folder has this name; nothing for a folder of anything else.
+std::optional<int> processOf(std::string_view name) {
+    if (!name.starts_with(folderName)) {
+        return std::nullopt;
+    }
+    name.remove_prefix(folderName.size());
+    int process = 0;
+    const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), process);
+    const auto isNumber = error == std::errc() && end == name.data() + name.size() && process > 0;
+    return isNumber ? std::optional(process) : std::nullopt;
+}
+
+} // namespace
+
+std::string HeldFiles::folderOf(int process) const {
+    return folders_.temporary().append("/").append(folderName).append(std::to_string(process));
+}
+
+std::optional<std::string> HeldFiles::newPlace() {
+    const auto folder = folderOf(process_.identifier());
+    if (!files_.createFolder(folder)) {
+        return std::nullopt;
+    }
+    return folder + "/" + std::to_string(++places_);
+}
+
+std::optional<std::string> HeldFiles::take(const std::string& path) {
+    auto place = newPlace();
+    if (place && !files_.move(path, *place)) {
+        return std::nullopt;
+    }
+    return place;
+}
+
+bool HeldFiles::isPlace(const std::string& path) const {
+    const auto place = path.rfind('/');
+    if (place == std::string::npos) {
+        return false;
+    }
+    const auto folder = path.substr(0, place);
+    const auto start = folders_.temporary() + "/";
+    const auto number = std::string_view(path).substr(place + 1);
+    return folder.starts_with(start) && processOf(std::string_view(folder).substr(start.size())) &&
+           !number.empty() && number.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+void HeldFiles::removeAll() {
+    if (const auto folder = folderOf(process_.identifier()); files_.exists(folder)) {
+        files_.remove(folder);
+    }
+}
+
+void HeldFiles::removeAbandoned() {
+    for (const auto& name : files_.contents(folders_.temporary())) {
+        const auto process = processOf(name);
+        // A number may come back: what lies under this process's own is not its own yet.
+        if (process && (*process == process_.identifier() || !process_.isRunning(*process))) {
+            files_.remove(folderOf(*process));
+        }
+    }
+}
+
+} // namespace tarnwick

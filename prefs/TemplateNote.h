@@ -1,0 +1,44 @@
+#pragma once
+
+#include "prefs/TemplateWork.h"
+#include "values/PlistValue.h"
+
+#include <string>
+#include <vector>
+
+namespace tarnwick {
+
+class RuleList;
+
+/// What `LocalPreferences` holds under "pendingTemplateFiles" while work on template files is under way: an
+/// array of strings, first the kind of work.
+///
+/// | words                                   | work                                                        |
+/// |-----------------------------------------|-------------------------------------------------------------|
+/// | "copy", file name ...                   | `TemplatesCopied`                                           |
+/// | "move", old name, new name              | `TemplateMoved`                                             |
+/// | "remove", file name ...                 | `TemplatesRemoved`                                          |
+/// | "put back", file name, its place ...    | `TemplatesPutBack`                                          |
+/// | "lay out"                               | `TemplatesLaidOut`                                          |
+/// | "put back folder", place, file name ... | `TemplateFolderPutBack`, and the files of the changed list  |
+struct TemplateNote {
+    TemplateWork work;
+    /// Of a folder alone: the files of the records that it belongs to, in their order.
+    std::vector<std::string> owners;
+
+    TemplateNote() = default;
+    /// `changed` is the list as the work leaves it.
+    TemplateNote(TemplateWork noted, const RuleList& changed);
+    /// From a stored value; no work when it is none of ours.
+    explicit TemplateNote(const PlistValue& stored);
+
+    /// Empty for work that needs no note.
+    [[nodiscard]] PlistArray words() const;
+    /// The names that the work writes or removes.
+    [[nodiscard]] std::vector<std::string> names() const;
+};
+
+/// The names of the records' files, in order.
+[[nodiscard]] std::vector<std::string> templateFileNames(const RuleList& templates);
+
+} // namespace tarnwick

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "platform/UndoHistory.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace tarnwick::testing {
+
+/// Two stacks of steps, and the user's two menu items.
+class InMemoryUndoHistory final : public UndoHistory {
+public:
+    void registerUndo(std::string_view name, std::function<void()> takeBack) override {
+        if (current_ == Direction::none) {
+            redo_.clear();
+        }
+        (current_ == Direction::undo ? redo_ : undo_).push_back({std::string(name), std::move(takeBack)});
+    }
+    void clear() override {
+        if (current_ != Direction::none) {
+            clearsAfterwards_ = true;
+            return;
+        }
+        undo_.clear();
+        redo_.clear();
+    }
+
+    /// What the user asks for; without a step, nothing happens.
+    void undo() { take(undo_, Direction::undo); }
+    void redo() { take(redo_, Direction::redo); }
+
+    /// The names of the steps, the next one last.
+    [[nodiscard]] std::vector<std::string> undoNames() const { return namesOf(undo_); }
+    [[nodiscard]] std::vector<std::string> redoNames() const { return namesOf(redo_); }
+
+private:
+    struct Step {
+        std::string name;
+        std::function<void()> takeBack;
+    };
+    enum class Direction { none, undo, redo };
+
+    void take(std::vector<Step>& from, Direction direction) {
+        if (from.empty()) {
+            return;
+        }
+        const auto step = std::move(from.back());
+        from.pop_back();
+        current_ = direction;
+        step.takeBack();
+        current_ = Direction::none;
+        if (std::exchange(clearsAfterwards_, false)) {
+            clear();
+        }
+    }
+    static std::vector<std::string> namesOf(const std::vector<Step>& steps) {
+        std::vector<std::string> names;
+        for (const auto& step : steps) {
+            names.push_back(step.name);
+        }
+        return names;
+    }
+
+    std::vector<Step> undo_;
+    std::vector<Step> redo_;
+    Direction current_ = Direction::none;
+    bool clearsAfterwards_ = false;
+};
+
+} // namespace tarnwick::testing
