@@ -1,6 +1,7 @@
 // Missing: observation of single keys of NSUserDefaults, as of GNUstep Base 1.28: setting and removing
 // objects tells no observer, and a value that is equal to the one there but of another kind, such as the
-// number 1 in place of a boolean, is not taken. All typed setters go through these two.
+// number 1 in place of a boolean, is not taken. All typed setters go through these two. Nor does anybody hear
+// of what another program has changed in the domain, which synchronising takes over.
 
 #import <Foundation/Foundation.h>
 
@@ -12,8 +13,40 @@ namespace {
 using SetObject = void (*)(id self, SEL command, id value, NSString *key);
 using RemoveObject = void (*)(id self, SEL command, NSString *key);
 
+using Synchronize = BOOL (*)(id self, SEL command);
+
 SetObject nativeSetObject = nullptr;
 RemoveObject nativeRemoveObject = nullptr;
+Synchronize nativeSynchronize = nullptr;
+
+/// Of the standard defaults; a key that was observed once stays here.
+NSMutableSet *observedKeys() {
+    static NSMutableSet *const keys = [[NSMutableSet alloc] init];
+    return keys;
+}
+
+NSDictionary *observedValues(id defaults) {
+    NSMutableDictionary *values = [NSMutableDictionary dictionary];
+    for (NSString *key in observedKeys()) {
+        if (id value = [defaults objectForKey:key]) {
+            [values setObject:value forKey:key];
+        }
+    }
+    return values;
+}
+
+BOOL synchronize(id self, SEL command) {
+    NSDictionary *before = observedValues(self);
+    const BOOL result = nativeSynchronize(self, command);
+    for (NSString *key in [observedKeys() allObjects]) {
+        if (!TNIsSamePropertyList([before objectForKey:key], [self objectForKey:key])) {
+            // The old value is gone by now; observers are given the new one.
+            [self willChangeValueForKey:key];
+            [self didChangeValueForKey:key];
+        }
+    }
+    return result;
+}
 
 void setObject(id self, SEL command, id value, NSString *key) {
     id before = [self objectForKey:key];
@@ -50,6 +83,15 @@ void removeObject(id self, SEL command, NSString *key) {
 + (void)load {
     nativeSetObject = TNReplaceMethod(self, @selector(setObject:forKey:), setObject);
     nativeRemoveObject = TNReplaceMethod(self, @selector(removeObjectForKey:), removeObject);
+    nativeSynchronize = TNReplaceMethod(self, @selector(synchronize), synchronize);
+}
+
+- (void)addObserver:(NSObject *)observer
+         forKeyPath:(NSString *)keyPath
+            options:(NSKeyValueObservingOptions)options
+            context:(void *)context {
+    [observedKeys() addObject:keyPath];
+    [super addObserver:observer forKeyPath:keyPath options:options context:context];
 }
 
 @end

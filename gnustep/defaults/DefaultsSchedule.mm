@@ -1,6 +1,7 @@
 // Missing: prompt writing of the standard domain, as of GNUstep Base 1.28, which leaves what is not
-// synchronised in memory for half a minute. On macOS every write leaves the process at once. Here a change is
-// on disk a moment later.
+// synchronised in memory for half a minute, and reads what others have written no sooner. On macOS every
+// write leaves the process at once and is seen by the others. Here a change is on disk a moment later, and
+// those of other programs are taken over with it, or when this one becomes active.
 
 #import "gnustep/defaults/DefaultsSchedule.h"
 
@@ -50,5 +51,9 @@ void TNWriteDefaultsPromptly() {
     [[NSNotificationCenter defaultCenter] addObserver:schedule
                                              selector:@selector(defaultsChanged:)
                                                  name:NSUserDefaultsDidChangeNotification
+                                               object:nil];
+    [[NSNotificationCenter defaultCenter] addObserver:schedule
+                                             selector:@selector(write:)
+                                                 name:NSApplicationDidBecomeActiveNotification
                                                object:nil];
 }

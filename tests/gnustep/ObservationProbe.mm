@@ -62,4 +62,23 @@ std::vector<std::string> observedChanges() {
     return changes;
 }
 
+std::vector<std::string> observedChangesByOthers(const std::function<void()> &work) {
+    std::vector<std::string> changes;
+    @autoreleasepool {
+        NSUserDefaults *defaults = [NSUserDefaults standardUserDefaults];
+        [defaults setBool:YES forKey:@"watched"];
+        [defaults synchronize];
+        TNKeyWitness *witness = [[[TNKeyWitness alloc] initWithChanges:&changes] autorelease];
+        [defaults addObserver:witness
+                   forKeyPath:@"watched"
+                      options:NSKeyValueObservingOptionNew
+                      context:nullptr];
+        work();
+        [defaults synchronize];
+        [defaults synchronize];
+        [defaults removeObserver:witness forKeyPath:@"watched"];
+    }
+    return changes;
+}
+
 } // namespace tarnwick::probe

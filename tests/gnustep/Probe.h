@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -40,6 +41,8 @@ bool waitForFile(const std::string& path);
 /// The changes that an observer of a key of the standard domain was told of, as descriptions of the new
 /// values.
 std::vector<std::string> observedChanges();
+/// The same, while `work` changes the domain's file and the program synchronises it afterwards.
+std::vector<std::string> observedChangesByOthers(const std::function<void()>& work);
 
 /// The start-up of a program, in this process, and what the standard domain then holds.
 void startUp();

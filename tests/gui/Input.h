@@ -32,6 +32,8 @@ void pressOptionCommand(Key key);
 void type(const std::string& text);
 /// Loads a table anew, as the program may at any moment.
 void reloadTable(RuleCategory table);
+/// The application gives way to another and comes back.
+void becomeActive();
 /// Sends the controller an action without a control, as a menu item does.
 void sendAction(const std::string& selector);
 

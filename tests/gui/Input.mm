@@ -119,6 +119,13 @@ void reloadTable(RuleCategory table) {
     driving::settle();
 }
 
+void becomeActive() {
+    [NSApp deactivate];
+    settle();
+    [NSApp activateIgnoringOtherApps:YES];
+    settle();
+}
+
 void sendAction(const std::string &selector) {
     [NSApp sendAction:NSSelectorFromString(toNSString(selector)) to:settingsController() from:nil];
     driving::settle();

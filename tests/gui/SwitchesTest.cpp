@@ -86,6 +86,21 @@ TEST(Switches, NoneIsWiderThanItsTitle) {
     }
 }
 
+TEST(Switches, OneThatAnotherProgramChangesReachesTheWindowAndTheSuiteWithTheNextWrite) {
+    ASSERT_EQ(std::system("defaults write org.halvane.Tarnwick soundTipsOfNewFile -bool NO"), 0);
+    clickCheckBox(RuleCategory::createNewFile, 3, "Enable");
+    EXPECT_TRUE(waitUntil([] { return shared("d['soundTipsOfNewFile']") == "False"; }));
+    EXPECT_FALSE(buttonIsOn("Play a sound after creating a file"));
+    clickCheckBox(RuleCategory::createNewFile, 3, "Enable");
+}
+
+TEST(Switches, OneThatAnotherProgramChangesReachesTheSuiteWhenTheApplicationBecomesActive) {
+    ASSERT_EQ(std::system("defaults write org.halvane.Tarnwick soundTipsOfNewFile -bool YES"), 0);
+    becomeActive();
+    EXPECT_TRUE(waitUntil([] { return shared("d['soundTipsOfNewFile']") == "True"; }));
+    EXPECT_TRUE(buttonIsOn("Play a sound after creating a file"));
+}
+
 TEST(Switches, ATerminalSwitchStaysWithTheApplication) {
     clickPageButton(Page::others);
     clickButton("Open Terminal in a new window");
