@@ -56,12 +56,15 @@ TEST_F(AppearanceTest, TheLastSystemBeforeMacOS1015IsWhiteAndALaterMajorVersionI
 
 TEST_F(AppearanceTest, ChangingToDarkAndBackIsFollowedThroughTheNotification) {
     delegate_.applicationWillFinishLaunching();
-    const auto& changed = platform_.notifications.handlers.at("AppleInterfaceThemeChangedNotification");
+    const auto change = [this] {
+        platform_.notifications.post("AppleInterfaceThemeChangedNotification", 0);
+        platform_.notifications.deliver();
+    };
     useStyle("Dark");
-    changed();
+    change();
     EXPECT_EQ(window_.background, dark);
     platform_.preferences.systemWide.clear();
-    changed();
+    change();
     EXPECT_EQ(window_.background, white);
 }
 

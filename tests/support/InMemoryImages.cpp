@@ -18,7 +18,8 @@ ImagePointer InMemoryImages::make(const std::string& text) const {
 }
 
 ImagePointer InMemoryImages::named(std::string_view name) {
-    return missingNames.count(name) != 0 ? nullptr : make("tiff of " + std::string(name));
+    const bool isName = !name.empty() && name.find('/') == std::string_view::npos;
+    return !isName || missingNames.count(name) != 0 ? nullptr : make("tiff of " + std::string(name));
 }
 
 ImagePointer InMemoryImages::fromData(const PlistData& data) {

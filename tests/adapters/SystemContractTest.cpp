@@ -1,0 +1,172 @@
+#include "Contract.h"
+#include "Waiting.h"
+
+#include "adapters/foundation/Adapters.h"
+#include "adapters/foundation/SystemAdapters.h"
+#include "platform/UserScript.h"
+#include "tests/support/InMemoryFiles.h"
+#include "tests/support/InMemorySystem.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <sys/stat.h>
+
+namespace tarnwick::testing {
+namespace {
+
+/// One of the small ports of the system, each in either implementation.
+class System {
+public:
+    explicit System(Implementation implementation)
+        : isReal_(implementation == Implementation::overThePlatform) {}
+
+    SystemLog& log() { return pick<SystemLog>(*realLog_, memoryLog_); }
+    Process& process() { return pick<Process>(*realProcess_, memoryProcess_); }
+    FinderSync& finderSync() { return pick<FinderSync>(*realFinderSync_, memoryFinderSync_); }
+    ApplicationBundle& bundle() { return pick<ApplicationBundle>(*realBundle_, memoryBundle_); }
+    KnownFolders& folders() { return pick<KnownFolders>(*realFolders_, memoryFolders_); }
+    UserScripts& scripts() { return pick<UserScripts>(*realScripts_, memoryScripts_); }
+    Workspace& workspace() { return pick<Workspace>(*realWorkspace_, memoryWorkspace_); }
+
+    /// What has been logged by `work`.
+    std::string logged(const std::function<void()>& work) {
+        if (isReal_) {
+            return standardErrorOf(work);
+        }
+        work();
+        return memoryLog_.lines.back();
+    }
+    /// An installed script that notes its handler, and what it has noted.
+    std::string installScript() {
+        const auto folder = std::string(std::getenv("TARNWICK_TEST_FOLDER"));
+        const auto path = folder + "/script's file.sh";
+        std::ofstream(path) << "printf '%s' \"$1\" >'" << folder << "/noted.new'; mv '" << folder
+                            << "/noted.new' '" << folder << "/noted'\n";
+        memoryScripts_.installed.insert(path);
+        return path;
+    }
+    std::string handlerThatRan() {
+        if (!isReal_) {
+            return memoryScripts_.events.empty() ? "" : memoryScripts_.events.back().parameterText;
+        }
+        const auto path = std::string(std::getenv("TARNWICK_TEST_FOLDER")) + "/noted";
+        std::string handler;
+        runLoopUntil([&] { return static_cast<bool>(std::ifstream(path) >> handler); });
+        return handler;
+    }
+    /// The in-memory process gives what it is told to.
+    void expectOutput(const std::string& output) { memoryProcess_.answer = output; }
+
+private:
+    template <typename Port>
+    Port& pick(Port& real, Port& memory) {
+        return isReal_ ? real : memory;
+    }
+
+    bool isReal_;
+    CallLog calls_;
+    InMemorySystemLog memoryLog_{calls_};
+    InMemoryProcess memoryProcess_{calls_};
+    InMemoryFinderSync memoryFinderSync_{calls_};
+    InMemoryBundle memoryBundle_;
+    InMemoryFolders memoryFolders_;
+    InMemoryUserScripts memoryScripts_{calls_};
+    InMemoryWorkspace memoryWorkspace_{calls_};
+    std::unique_ptr<SystemLog> realLog_ = makeSystemLog();
+    std::unique_ptr<Process> realProcess_ = makeProcess();
+    std::unique_ptr<FinderSync> realFinderSync_ = makeFinderSync();
+    std::unique_ptr<ApplicationBundle> realBundle_ = makeApplicationBundle();
+    std::unique_ptr<KnownFolders> realFolders_ = makeKnownFolders();
+    std::unique_ptr<UserScripts> realScripts_ = makeUserScripts();
+    std::unique_ptr<Workspace> realWorkspace_ = makeWorkspace();
+};
+
+using SystemContract = Contract<System>;
+
+TEST_P(SystemContract, ALineIsLoggedAsItStands) {
+    const std::string line = "100 % of \"%@\" \u8868 %s %n";
+    EXPECT_NE(harness_.logged([&] { harness_.log().write(line); }).find(line), std::string::npos);
+}
+
+TEST_P(SystemContract, AProgramsOutputIsItsBytes) {
+    harness_.expectOutput("one\ntwo");
+    const auto output = harness_.process().output("/bin/sh", {"-c", "printf 'one\\ntwo'"});
+    EXPECT_EQ(std::string(output.bytes(), output.bytes() + output.size()), "one\ntwo");
+}
+
+TEST_P(SystemContract, AnOlderSystemIsNoNewerOne) {
+    EXPECT_TRUE(harness_.process().isSystemAtLeast(10, 0, 0));
+    EXPECT_TRUE(harness_.process().isSystemAtLeast(10, 14, 0));
+    EXPECT_TRUE(harness_.process().isSystemAtLeast(10, 15, 0));
+}
+
+TEST_P(SystemContract, TheExtensionIsEnabledAndItsSettingsMayBeAskedFor) {
+    EXPECT_TRUE(harness_.finderSync().isExtensionEnabled());
+    harness_.finderSync().showExtensionManagementInterface();
+    EXPECT_TRUE(harness_.finderSync().isExtensionEnabled());
+}
+
+TEST_P(SystemContract, ATextThatNoTableHoldsStandsForItself) {
+    EXPECT_EQ(harness_.bundle().localized("no such text, 100 %"), "no such text, 100 %");
+}
+
+TEST_P(SystemContract, TheBundlesFoldersAreAbsoluteWithoutTrailingSlash) {
+    for (const auto& folder : {harness_.bundle().resourceFolder(), harness_.bundle().plugInsFolder()}) {
+        EXPECT_EQ(folder.front(), '/');
+        EXPECT_NE(folder.back(), '/');
+    }
+    EXPECT_FALSE(harness_.bundle().isLoginItem());
+}
+
+TEST_P(SystemContract, TheUsersFoldersAreAbsoluteAndStayTheSame) {
+    auto& folders = harness_.folders();
+    const auto scripts = folders.applicationScripts();
+    const auto container = folders.groupContainer("H7Q2ZK5RX9.org.halvane.Tarnwick");
+    ASSERT_TRUE(scripts.path && container);
+    EXPECT_EQ(scripts.error, "");
+    for (const auto& folder : {*scripts.path, *container, folders.library()}) {
+        EXPECT_EQ(folder.front(), '/') << folder;
+        EXPECT_NE(folder.back(), '/') << folder;
+    }
+    EXPECT_EQ(folders.applicationScripts().path, scripts.path);
+    EXPECT_EQ(folders.groupContainer("H7Q2ZK5RX9.org.halvane.Tarnwick"), container);
+    EXPECT_FALSE(folders.userName().empty());
+}
+
+TEST_P(SystemContract, AScriptThatIsNotThereGivesAReasonInsteadOfATask) {
+    const auto result = harness_.scripts().makeTask("/nowhere/applescript.scpt");
+    EXPECT_FALSE(result.task);
+    EXPECT_FALSE(result.error.empty());
+}
+
+TEST_P(SystemContract, ATaskRunsTheHandlerOfItsEvent) {
+    const auto result = harness_.scripts().makeTask(harness_.installScript());
+    ASSERT_TRUE(result.task);
+    EXPECT_EQ(result.error, "");
+    HandlerCallEvent event;
+    event.parameterText = "openServices";
+    result.task->execute(event);
+    EXPECT_EQ(harness_.handlerThatRan(), "openServices");
+}
+
+TEST_P(SystemContract, AnApplicationThatNobodyKnowsIsNowhere) {
+    const auto& workspace = harness_.workspace();
+    EXPECT_EQ(workspace.applicationPath("org.example.Nobody"), std::nullopt);
+    EXPECT_TRUE(workspace.registeredApplications("org.example.Nobody").paths.empty());
+    EXPECT_FALSE(workspace.registeredApplications("org.example.Nobody").failed);
+    EXPECT_FALSE(workspace.isRunning("org.example.Nobody"));
+}
+
+TEST_P(SystemContract, OpeningWhatCannotBeOpenedIsNotReported) {
+    auto& workspace = harness_.workspace();
+    workspace.openURL("no address at all %%");
+    workspace.openURL("");
+    workspace.launchApplication("/nowhere/Nothing.app");
+    workspace.terminateAll("org.example.Nobody");
+    EXPECT_FALSE(workspace.isRunning("org.example.Nobody"));
+}
+
+TARNWICK_BOTH_IMPLEMENTATIONS(SystemContract);
+
+} // namespace
+} // namespace tarnwick::testing
