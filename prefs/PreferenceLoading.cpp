@@ -24,7 +24,7 @@ void PreferenceLoading::prepareStoresAndFolders() {
     keepUnreadableOriginals(local_, log_);
     keepUnreadableFeatures(shared, local_, log_);
     seedSwitches(shared);
-    if (!local_.containsArray(factsOf(RuleCategory::copyFilesTo).listKey)) {
+    if (!local_.contains(factsOf(RuleCategory::copyFilesTo).listKey)) {
         buildFeatureArray();
     }
     factory_.recoverHeldTemplateFiles(

@@ -42,10 +42,13 @@ TEST_P(UnreadableListTest, WithElementsThatAreNoDictionariesKeepsTheOthers) {
 
 INSTANTIATE_TEST_SUITE_P(Every, UnreadableListTest, ::testing::ValuesIn(allRuleCategories));
 
-TEST_F(UnreadableValuesTest, ATargetListThatIsNoArrayCountsAsAFirstRun) {
+TEST_F(UnreadableValuesTest, ATargetListThatIsNoArrayIsNoFirstRun) {
+    load();
+    const PlistArray features{"enableImagetoIcon"};
+    platform_.preferences.shared.insert_or_assign("arrOfEnableOther", features);
     store("arrOfCopyFilesTo", 7);
     load();
-    EXPECT_EQ(shared("arrOfEnableOther").array()->size(), 11U);
+    EXPECT_EQ(shared("arrOfEnableOther"), PlistValue(features));
 }
 
 TEST_F(UnreadableValuesTest, FieldsOfTheWrongTypeAreKeptAsideAndReadAsMissing) {
