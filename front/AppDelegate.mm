@@ -32,19 +32,19 @@
 }
 
 - (BOOL)application:(NSApplication *)sender openFile:(NSString *)filename {
-    return _delegate->openFile(tarnwick::toString(filename));
+    return _delegate->openFile(tarnwick::described(filename));
 }
 
 - (void)handleInputSourceChange:(NSNotification *)notification {
-    _delegate->handleInputSourceChange(tarnwick::toString([notification description]));
+    _delegate->handleInputSourceChange(tarnwick::described(notification));
 }
 
 - (void)observeValueForKeyPath:(NSString *)keyPath
                       ofObject:(id)object
                         change:(NSDictionary *)change
                        context:(void *)context {
-    _delegate->observeValue(tarnwick::toString(keyPath),
-        tarnwick::toString([[change objectForKey:NSKeyValueChangeNewKey] description]));
+    _delegate->observeValue(
+        tarnwick::toString(keyPath), tarnwick::described([change objectForKey:NSKeyValueChangeNewKey]));
 }
 
 - (void)darkModeChanged:(NSNotification *)notification {

@@ -56,6 +56,24 @@
 
 @end
 
+/// What an edit of a list ends with, and the factory lists. The names are fixed.
+@interface SettingsViewController (Publishing)
+
+/// A value that no property list can hold writes nothing.
+- (void)saveData:(id)value forKey:(NSString *)key;
+- (void)setCreateNewFileToSettings;
+- (void)setCopyFilesToSettings;
+- (void)setCommonPathSettings;
+- (void)setCustomIconToSettings;
+- (void)setOthersToSettings;
+
+- (void)resetArrOfCreateNewFile;
+- (void)resetArrOfCopyFilesTo;
+- (void)resetArrOfCustomIcon;
+- (void)resetArrOfOthers;
+
+@end
+
 /// Files and folders that are dragged in.
 @interface SettingsViewController (Dropping)
 
@@ -69,6 +87,13 @@
 /// Of the switch above the category's table, for what is stored for it; and how many rules are on, in words.
 - (tarnwick::EnableAllState)enableAllStateOf:(tarnwick::RuleCategory)category stored:(BOOL)stored;
 - (NSString *)enabledTextOf:(tarnwick::RuleCategory)category;
+
+/// The view of a cell; an empty one for a column or row that the list does not have.
+- (NSView *)tableViewForCreateNewFile:(NSTableColumn *)column row:(NSInteger)row;
+- (NSView *)tableViewForCopyTo:(NSTableColumn *)column row:(NSInteger)row;
+- (NSView *)tableViewForCommonPath:(NSTableColumn *)column row:(NSInteger)row;
+- (NSView *)tableViewForCustomIcon:(NSTableColumn *)column row:(NSInteger)row;
+- (NSView *)tableViewForOthers:(NSTableColumn *)column row:(NSInteger)row;
 
 @end
 
@@ -87,6 +112,10 @@
 
 - (BOOL)checkScriptInstalled;
 - (void)doInstallScript;
+/// Autoreleased; nil, with a log line, when there is none.
+- (id)repairScriptTask;
+/// What calls a handler of the script, whichever it is; autoreleased.
+- (id)restartFinderEventDescriptor:(NSString *)handlerName;
 - (void)openServicesOfSystemPreferences;
 - (void)initialize;
 

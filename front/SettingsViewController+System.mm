@@ -1,6 +1,7 @@
 #import "front/SettingsViewController+Actions.h"
 
 #import "adapters/foundation/StringConversion.h"
+#import "adapters/foundation/UserScriptObjects.h"
 #import "front/LinkButton.h"
 
 #include "integration/Links.h"
@@ -49,6 +50,15 @@
 
 - (void)doInstallScript {
     _controller->integration().scriptHelper.doInstallScript();
+}
+
+- (id)repairScriptTask {
+    const auto task = _controller->integration().scriptHelper.repairScriptTask();
+    return task ? tarnwick::objectOf(*task) : nil;
+}
+
+- (id)restartFinderEventDescriptor:(NSString *)handlerName {
+    return tarnwick::objectOf(tarnwick::restartFinderEventDescriptor(tarnwick::toString(handlerName)));
 }
 
 - (void)openServicesOfSystemPreferences {

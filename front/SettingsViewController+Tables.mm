@@ -43,8 +43,32 @@ long firstDraggedRow(NSPasteboard *pasteboard) {
 }
 
 - (NSView *)tableView:(NSTableView *)tableView viewForTableColumn:(NSTableColumn *)column row:(NSInteger)row {
+    return [self viewForCategory:[self listOf:tableView] column:column row:row];
+}
+
+- (NSView *)tableViewForCreateNewFile:(NSTableColumn *)column row:(NSInteger)row {
+    return [self viewForCategory:RuleCategory::createNewFile column:column row:row];
+}
+
+- (NSView *)tableViewForCopyTo:(NSTableColumn *)column row:(NSInteger)row {
+    return [self viewForCategory:RuleCategory::copyFilesTo column:column row:row];
+}
+
+- (NSView *)tableViewForCommonPath:(NSTableColumn *)column row:(NSInteger)row {
+    return [self viewForCategory:RuleCategory::commonPath column:column row:row];
+}
+
+- (NSView *)tableViewForCustomIcon:(NSTableColumn *)column row:(NSInteger)row {
+    return [self viewForCategory:RuleCategory::customIcon column:column row:row];
+}
+
+- (NSView *)tableViewForOthers:(NSTableColumn *)column row:(NSInteger)row {
+    return [self viewForCategory:RuleCategory::others column:column row:row];
+}
+
+/// The views of all tables are made alike.
+- (NSView *)viewForCategory:(RuleCategory)category column:(NSTableColumn *)column row:(NSInteger)row {
     const auto identifier = tarnwick::toString([column identifier]);
-    const auto category = [self listOf:tableView];
     const auto &rows = _controller->rows();
     return tarnwick::makeCell(rows.cell(category, identifier, row), category,
         tarnwick::toNSString(rows.label(category, identifier, row)), self);

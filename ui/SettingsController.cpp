@@ -76,6 +76,11 @@ void SettingsController::showPage(Page page) {
     }
 }
 
+void SettingsController::putFactoryListBack(RuleCategory category) {
+    editing_.editor.endEditing();
+    preferences_.factory.reset(category);
+}
+
 void SettingsController::tableClicked(RuleCategory category) {
     const auto row = window_.selectedRow(category);
     const auto& list = preferences_.lists[category];

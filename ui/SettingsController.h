@@ -52,6 +52,14 @@ public:
     void remove(RuleCategory category) { editing_.removing.remove(category); }
     void reset(RuleCategory category) { editing_.resetting.reset(category); }
 
+    /// The enabled records, or one value, for the extension.
+    void publish(RuleCategory category) { preferences_.publisher.publish(category); }
+    void saveData(const PlistValue& value, std::string_view key) {
+        preferences_.publisher.saveData(value, key);
+    }
+    /// The list alone, as `FactoryLists::reset` says: table and extension are left to the caller.
+    void putFactoryListBack(RuleCategory category);
+
     /// The check box of a record's field in a row.
     void set(RuleCategory category, long row, std::string_view field, bool on) {
         editing_.toggling.set(category, row, field, on);

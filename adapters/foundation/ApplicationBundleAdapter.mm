@@ -1,3 +1,4 @@
+#import "adapters/foundation/NSBundle+LoginItem.h"
 #import "adapters/foundation/StringConversion.h"
 
 #include "adapters/foundation/Adapters.h"
@@ -23,7 +24,7 @@ public:
         id version = [bundle() objectForInfoDictionaryKey:@"CFBundleShortVersionString"];
         return [version isKindOfClass:[NSString class]] ? toString(version) : std::string();
     }
-    bool isLoginItem() const override { return tarnwick::isLoginItem(); }
+    bool isLoginItem() const override { return [bundle() isLoginItem]; }
 
 private:
     static NSBundle *bundle() { return [NSBundle mainBundle]; }

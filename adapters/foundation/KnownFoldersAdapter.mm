@@ -23,7 +23,7 @@ public:
                                                                  create:YES
                                                                   error:&error];
         if (!folder) {
-            return {std::nullopt, toString([error description])};
+            return {std::nullopt, described(error)};
         }
         return {toString([folder path]), ""};
     }

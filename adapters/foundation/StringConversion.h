@@ -11,5 +11,7 @@ namespace tarnwick {
 [[nodiscard]] std::string toString(NSString *text);
 /// Never nil; bytes that are not UTF-8 become U+FFFD. Autoreleased.
 [[nodiscard]] NSString *toNSString(std::string_view text);
+/// UTF-8 of what "%@" writes for the object, which may be missing.
+[[nodiscard]] std::string described(id object);
 
 } // namespace tarnwick

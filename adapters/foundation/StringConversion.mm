@@ -97,4 +97,8 @@ NSString *toNSString(std::string_view text) {
     return result ? result : repaired(text);
 }
 
+std::string described(id object) {
+    return toString([NSString stringWithFormat:@"%@", object]);
+}
+
 } // namespace tarnwick

@@ -12,9 +12,4 @@ bool isSystemAtLeast(int, int, int) {
     return true;
 }
 
-/// Linux sessions have no list of login items like the one meant here.
-bool isLoginItem() {
-    return false;
-}
-
 } // namespace tarnwick

@@ -1,9 +1,8 @@
-#import "adapters/foundation/ObjectPointer.h"
 #import "adapters/foundation/StringConversion.h"
+#import "adapters/foundation/UserScriptObjects.h"
 #import "gnustep/defaults/DefaultsFiles.h"
 
 #include "adapters/foundation/SystemAdapters.h"
-#include "platform/UserScript.h"
 
 #import <Foundation/Foundation.h>
 
@@ -22,18 +21,28 @@ NSDictionary *scriptEnvironment() {
     return environment;
 }
 
+NSString *textOf(FourCharacterCode code) {
+    return
+        [NSString stringWithFormat:@"%c%c%c%c", code >> 24, code >> 16 & 0xFF, code >> 8 & 0xFF, code & 0xFF];
+}
+
 /// A POSIX shell script that is given the handler's name.
 class ShellScriptTask final : public UserScriptTask {
 public:
     explicit ShellScriptTask(std::string path) : path_(std::move(path)) {}
 
     void execute(const HandlerCallEvent &event) override {
-        const auto task = ObjectPointer<NSTask>::adopting([[NSTask alloc] init]);
-        [task.get() setLaunchPath:@"/bin/sh"];
-        [task.get()
-            setArguments:[NSArray arrayWithObjects:toNSString(path_), toNSString(event.parameterText), nil]];
-        [task.get() setEnvironment:scriptEnvironment()];
-        [task.get() launch];
+        NSTask *task = object();
+        [task setArguments:[[task arguments] arrayByAddingObject:toNSString(event.parameterText)]];
+        [task launch];
+    }
+
+    [[nodiscard]] NSTask *object() const {
+        NSTask *task = [[[NSTask alloc] init] autorelease];
+        [task setLaunchPath:@"/bin/sh"];
+        [task setArguments:[NSArray arrayWithObject:toNSString(path_)]];
+        [task setEnvironment:scriptEnvironment()];
+        return task;
     }
 
 private:
@@ -51,6 +60,16 @@ public:
 };
 
 } // namespace
+
+id objectOf(UserScriptTask &task) {
+    return dynamic_cast<ShellScriptTask &>(task).object();
+}
+
+id objectOf(const HandlerCallEvent &event) {
+    return [NSDictionary dictionaryWithObjectsAndKeys:textOf(event.eventClass), @"eventClass",
+                         textOf(event.eventIdentifier), @"eventID", toNSString(event.parameterText),
+                         textOf(event.parameterKeyword), nil];
+}
 
 std::unique_ptr<UserScripts> makeUserScripts() {
     return std::make_unique<ShellScripts>();

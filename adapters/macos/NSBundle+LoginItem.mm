@@ -1,4 +1,4 @@
-#import "adapters/macos/NSBundle+LoginItem.h"
+#import "adapters/foundation/NSBundle+LoginItem.h"
 
 #include <memory>
 #include <type_traits>

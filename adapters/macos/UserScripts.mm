@@ -1,8 +1,8 @@
 #import "adapters/foundation/ObjectPointer.h"
 #import "adapters/foundation/StringConversion.h"
+#import "adapters/foundation/UserScriptObjects.h"
 
 #include "adapters/foundation/SystemAdapters.h"
-#include "platform/UserScript.h"
 
 #import <Foundation/Foundation.h>
 
@@ -37,6 +37,8 @@ public:
                          }];
     }
 
+    [[nodiscard]] id object() const { return [[task_.get() retain] autorelease]; }
+
 private:
     ObjectPointer<NSUserAppleScriptTask> task_;
 };
@@ -49,13 +51,21 @@ public:
         auto task = ObjectPointer<NSUserAppleScriptTask>::adopting(
             [[NSUserAppleScriptTask alloc] initWithURL:url error:&error]);
         if (!task.get()) {
-            return {nullptr, toString([error description])};
+            return {nullptr, described(error)};
         }
         return {std::make_unique<AppleScriptTask>(std::move(task)), ""};
     }
 };
 
 } // namespace
+
+id objectOf(UserScriptTask &task) {
+    return dynamic_cast<AppleScriptTask &>(task).object();
+}
+
+id objectOf(const HandlerCallEvent &event) {
+    return appleEvent(event);
+}
 
 std::unique_ptr<UserScripts> makeUserScripts() {
     return std::make_unique<AppleScripts>();

@@ -1,4 +1,3 @@
-#include "integration/TerminalService.h"
 #include "tests/support/IntegrationFixture.h"
 #include "values/Utf8.h"
 
@@ -53,19 +52,6 @@ TEST_F(ToolsTest, CancellingTheShortcutChooserDoesNothing) {
     platform_.log.clear();
     platform_.panels.cancel();
     EXPECT_TRUE(platform_.log.lines().empty());
-}
-
-TEST(TerminalServiceTest, DescribesItsFourValues) {
-    const TerminalService service{"Terminal", "Opens a shell", "New Shell", "org.example.shell"};
-    EXPECT_EQ(service.description(),
-        "<TerminalService: self.applicationName=Terminal, self.serviceDescription=Opens a shell, "
-        "self.serviceName=New Shell, self.identifier=org.example.shell>");
-}
-
-TEST(TerminalServiceTest, DescribesMissingValuesAsThePlatformDoes) {
-    EXPECT_EQ(TerminalService{}.description(), "<TerminalService: self.applicationName=(null), "
-                                               "self.serviceDescription=(null), self.serviceName=(null), "
-                                               "self.identifier=(null)>");
 }
 
 TEST(Utf8Test, AcceptsWellFormedTextOfEveryLength) {

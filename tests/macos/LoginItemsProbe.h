@@ -3,6 +3,7 @@
 namespace tarnwick::standins {
 
 /// The operations of the application's bundle on the login items.
+[[nodiscard]] bool isOwnBundleLoginItem();
 void addOwnBundle();
 void removeOwnBundle();
 

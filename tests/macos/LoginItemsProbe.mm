@@ -1,8 +1,12 @@
 #include "LoginItemsProbe.h"
 
-#import "adapters/macos/NSBundle+LoginItem.h"
+#import "adapters/foundation/NSBundle+LoginItem.h"
 
 namespace tarnwick::standins {
+
+bool isOwnBundleLoginItem() {
+    return [[NSBundle mainBundle] isLoginItem];
+}
 
 void addOwnBundle() {
     [[NSBundle mainBundle] addToLoginItems];

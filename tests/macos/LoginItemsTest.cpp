@@ -9,7 +9,7 @@ class LoginItemsTest : public StandInTest {
 protected:
     static bool isLoginItem() {
         bool result = false;
-        inPool([&result] { result = tarnwick::isLoginItem(); });
+        inPool([&result] { result = isOwnBundleLoginItem(); });
         return result;
     }
     static void add() {

@@ -1,7 +1,15 @@
 #pragma once
 
-#import <CoreServices/CoreServices.h>
 #import <Foundation/Foundation.h>
+
+#if __has_include(<CoreServices/CoreServices.h>)
+#import <CoreServices/CoreServices.h>
+#else
+// Linux has no such list.
+using LSSharedFileListRef = const struct LSSharedFileList *;
+using LSSharedFileListItemRef = const struct LSSharedFileListItem *;
+#define CF_RETURNS_RETAINED
+#endif
 
 /// The bundle as one of the applications that start with the user's session; the names are fixed, also of
 /// what nothing here calls. Failures are ignored.
