@@ -17,6 +17,10 @@ NSArray *commonModes() {
 
 class GNUstepRunLoop final : public RunLoop {
 public:
+    GNUstepRunLoop() {
+        // While the main thread has none yet, what is queued for it would run at once.
+        [NSRunLoop mainRunLoop];
+    }
     void performAfterDelay(double seconds, std::function<void()> work) override {
         [[TNDeferredWork deferredWork:std::move(work)] performSelector:@selector(run:)
                                                             withObject:nil

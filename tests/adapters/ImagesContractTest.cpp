@@ -28,7 +28,7 @@ public:
     }
     /// Where there is a file with that picture.
     std::string file() {
-        const auto path = std::string(std::getenv("TARNWICK_TEST_FOLDER")) + "/picture.png";
+        const auto path = std::string(std::getenv("TARNWICK_USER_FOLDER")) + "/picture.png";
         if (real_) {
             const auto data = bytes();
             std::ofstream(path).write(

@@ -38,7 +38,7 @@ public:
     }
     /// An installed script that notes its handler, and what it has noted.
     std::string installScript() {
-        const auto folder = std::string(std::getenv("TARNWICK_TEST_FOLDER"));
+        const auto folder = std::string(std::getenv("TARNWICK_USER_FOLDER"));
         const auto path = folder + "/script's file.sh";
         std::ofstream(path) << "printf '%s' \"$1\" >'" << folder << "/noted.new'; mv '" << folder
                             << "/noted.new' '" << folder << "/noted'\n";
@@ -49,7 +49,7 @@ public:
         if (!isReal_) {
             return memoryScripts_.events.empty() ? "" : memoryScripts_.events.back().parameterText;
         }
-        const auto path = std::string(std::getenv("TARNWICK_TEST_FOLDER")) + "/noted";
+        const auto path = std::string(std::getenv("TARNWICK_USER_FOLDER")) + "/noted";
         std::string handler;
         runLoopUntil([&] { return static_cast<bool>(std::ifstream(path) >> handler); });
         return handler;

@@ -29,7 +29,7 @@ bool isMainThread() {
 }
 
 std::string standardErrorOf(const std::function<void()> &work) {
-    const auto path = std::string(std::getenv("TARNWICK_TEST_FOLDER")) + "/stderr";
+    const auto path = std::string(std::getenv("TARNWICK_USER_FOLDER")) + "/stderr";
     std::fflush(stderr);
     const int kept = dup(STDERR_FILENO);
     const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);

@@ -121,9 +121,9 @@ void reloadTable(RuleCategory table) {
 
 void becomeActive() {
     [NSApp deactivate];
-    settle();
+    driving::settle();
     [NSApp activateIgnoringOtherApps:YES];
-    settle();
+    driving::settle();
 }
 
 void sendAction(const std::string &selector) {

@@ -87,7 +87,7 @@ TEST(Switches, NoneIsWiderThanItsTitle) {
 }
 
 TEST(Switches, OneThatAnotherProgramChangesReachesTheWindowAndTheSuiteWithTheNextWrite) {
-    ASSERT_EQ(std::system("defaults write org.halvane.Tarnwick soundTipsOfNewFile -bool NO"), 0);
+    ASSERT_EQ(std::system("defaults write org.halvane.Tarnwick soundTipsOfNewFile NO"), 0);
     clickCheckBox(RuleCategory::createNewFile, 3, "Enable");
     EXPECT_TRUE(waitUntil([] { return shared("d['soundTipsOfNewFile']") == "False"; }));
     EXPECT_FALSE(buttonIsOn("Play a sound after creating a file"));
@@ -95,7 +95,7 @@ TEST(Switches, OneThatAnotherProgramChangesReachesTheWindowAndTheSuiteWithTheNex
 }
 
 TEST(Switches, OneThatAnotherProgramChangesReachesTheSuiteWhenTheApplicationBecomesActive) {
-    ASSERT_EQ(std::system("defaults write org.halvane.Tarnwick soundTipsOfNewFile -bool YES"), 0);
+    ASSERT_EQ(std::system("defaults write org.halvane.Tarnwick soundTipsOfNewFile YES"), 0);
     becomeActive();
     EXPECT_TRUE(waitUntil([] { return shared("d['soundTipsOfNewFile']") == "True"; }));
     EXPECT_TRUE(buttonIsOn("Play a sound after creating a file"));
