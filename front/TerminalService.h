@@ -2,8 +2,8 @@
 
 #import <Foundation/Foundation.h>
 
-/// One text service that an application offers; any of the four may be missing. The names are fixed: what
-/// works with services uses them, although nothing here does.
+/// One text service that an application offers; any of the four may be missing. The names are fixed, ahead of
+/// its first caller.
 @interface TerminalService : NSObject {
 @private
     NSString *_applicationName;

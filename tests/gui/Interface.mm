@@ -133,7 +133,7 @@ std::string serviceDescription(const std::vector<std::string> &values) {
 }
 
 TextSize measured(const char *text, double pointSize) {
-    const NSSize size = sizeOfText(text ? toNSString(text) : nil, pointSize);
+    const NSSize size = textSize(text ? toNSString(text) : nil, pointSize);
     return {size.width, size.height};
 }
 
