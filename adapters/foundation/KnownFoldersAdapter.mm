@@ -28,7 +28,8 @@ public:
         return {toString([folder path]), ""};
     }
     std::string temporary() const override {
-        return toString([NSTemporaryDirectory() stringByStandardizingPath]);
+        const auto path = toString(NSTemporaryDirectory());
+        return path.ends_with('/') ? path.substr(0, path.size() - 1) : path;
     }
     std::string library() const override {
         NSArray *folders = NSSearchPathForDirectoriesInDomains(NSLibraryDirectory, NSUserDomainMask, YES);

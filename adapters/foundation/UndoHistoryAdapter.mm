@@ -47,8 +47,8 @@ public:
         : manager_(ObjectPointer<NSUndoManager>::retaining(manager)),
           target_(ObjectPointer<TNUndoTarget>::adopting([[TNUndoTarget alloc] init])) {
         [manager setGroupsByEvent:NO];
-        for (NSString *name in
-            @[ NSUndoManagerDidUndoChangeNotification, NSUndoManagerDidRedoChangeNotification ]) {
+        for (NSString *name :
+            {NSUndoManagerDidUndoChangeNotification, NSUndoManagerDidRedoChangeNotification}) {
             [[NSNotificationCenter defaultCenter] addObserver:target_.get()
                                                      selector:@selector(stepIsOver:)
                                                          name:name

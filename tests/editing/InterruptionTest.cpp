@@ -38,6 +38,7 @@ public:
         platform_.preferences.shared = remains.shared;
         platform_.files.files = remains.files;
         platform_.files.folders = remains.folders;
+        platform_.process.number = 101;
     }
 
     void TestBody() override {}
@@ -46,6 +47,15 @@ public:
     [[nodiscard]] RuleEditing& editing() { return editing_; }
     void choose(const std::vector<std::string>& paths) { platform_.panels.confirm(paths); }
     void select(long row) { tables_.table(RuleCategory::createNewFile).selected = row; }
+    void undo() { platform_.undoHistory.undo(); }
+    void redo() { platform_.undoHistory.redo(); }
+    /// The temporary folder lies on a volume of its own.
+    void keepTemporaryFilesElsewhere() { platform_.files.volumes.insert("/tmp"); }
+    [[nodiscard]] bool isAnythingHeld() const { return !platform_.files.contents("/tmp").empty(); }
+    [[nodiscard]] std::string contentOf(const std::string& name) const {
+        const auto found = platform_.files.files.find(templates + "/" + name);
+        return found == platform_.files.files.end() ? "" : found->second;
+    }
     void addFile(const std::string& path) { platform_.files.files[path] = "content of " + path; }
 
     /// What would remain, had the program been killed at each step of `work`, the end included.
@@ -128,6 +138,42 @@ void launchWithLetters(Window& window) {
     addLetters(window);
 }
 
+void removeLetter(Window& window) {
+    window.select(15);
+    window.editing().removing.remove(RuleCategory::createNewFile);
+}
+
+void renameLetter(Window& window) {
+    window.editing().textEditing.endEditing("NewFileDisplayName", 15, "Renamed");
+}
+
+void resetTemplates(Window& window) {
+    window.editing().resetting.reset(RuleCategory::createNewFile);
+}
+
+/// A launch with letters in which `edit` was made, and taken back.
+template <void (*edit)(Window&)>
+void launchAndEdit(Window& window) {
+    launchWithLetters(window);
+    edit(window);
+}
+template <void (*edit)(Window&)>
+void launchAndTakeBack(Window& window) {
+    launchAndEdit<edit>(window);
+    window.undo();
+}
+template <void (*edit)(Window&)>
+void launchAndEditElsewhere(Window& window) {
+    window.keepTemporaryFilesElsewhere();
+    launchAndEdit<edit>(window);
+}
+void undo(Window& window) {
+    window.undo();
+}
+void redo(Window& window) {
+    window.redo();
+}
+
 class InterruptionTest : public ::testing::TestWithParam<std::tuple<Work, Keeping>> {};
 
 TEST_P(InterruptionTest, TheNextStartLeavesNoTemplateFileToNobodyAndNoRecordWithoutItsFile) {
@@ -144,6 +190,10 @@ TEST_P(InterruptionTest, TheNextStartLeavesNoTemplateFileToNobodyAndNoRecordWith
         EXPECT_EQ(next.strangers(), std::set<std::string>()) << moment;
         EXPECT_EQ(next.missing(), std::set<std::string>()) << moment;
         EXPECT_FALSE(next.isNotePending()) << moment;
+        EXPECT_FALSE(next.isAnythingHeld()) << moment;
+        EXPECT_TRUE(
+            next.contentOf("Memo.md").empty() || next.contentOf("Memo.md") == "content of /home/Memo.md")
+            << moment;
         const auto list = next.storedTemplates();
         EXPECT_TRUE(list == before || list == after) << moment;
     }
@@ -159,17 +209,24 @@ INSTANTIATE_TEST_SUITE_P(Of, InterruptionTest,
                     window.launch();
                 },
                 addLetters},
-            Work{"Removing", launchWithLetters,
+            Work{"Removing", launchWithLetters, removeLetter},
+            Work{"Renaming", launchWithLetters, renameLetter},
+            Work{"Resetting", launchWithLetters, resetTemplates},
+            Work{"UndoingAnAddition", launchWithLetters, undo},
+            Work{"RedoingAnAddition",
                 [](Window& window) {
-                    window.select(15);
-                    window.editing().removing.remove(RuleCategory::createNewFile);
-                }},
-            Work{"Renaming", launchWithLetters,
-                [](Window& window) {
-                    window.editing().textEditing.endEditing("NewFileDisplayName", 15, "Renamed");
-                }},
-            Work{"Resetting", launchWithLetters,
-                [](Window& window) { window.editing().resetting.reset(RuleCategory::createNewFile); }}),
+                    launchWithLetters(window);
+                    window.undo();
+                },
+                redo},
+            Work{"UndoingARemoval", launchAndEdit<removeLetter>, undo},
+            Work{"UndoingARemovalElsewhere", launchAndEditElsewhere<removeLetter>, undo},
+            Work{"RedoingARemoval", launchAndTakeBack<removeLetter>, redo},
+            Work{"UndoingARename", launchAndEdit<renameLetter>, undo},
+            Work{"RedoingARename", launchAndTakeBack<renameLetter>, redo},
+            Work{"UndoingAReset", launchAndEdit<resetTemplates>, undo},
+            Work{"UndoingAResetElsewhere", launchAndEditElsewhere<resetTemplates>, undo},
+            Work{"RedoingAReset", launchAndTakeBack<resetTemplates>, redo}),
         ::testing::Values(Keeping::atOnce, Keeping::whenSynchronised)),
     [](const auto& info) {
         return std::string(std::get<Work>(info.param).name) + nameOf(std::get<Keeping>(info.param));

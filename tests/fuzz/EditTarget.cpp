@@ -20,6 +20,7 @@ public:
             step();
         }
         check();
+        goBackAndForth();
         fuzz::require(!::testing::Test::HasFailure(), "screen, stores and files are as the model has them");
     }
 

@@ -62,6 +62,7 @@ RandomWalk::RandomWalk(Start start, std::function<long(long below)> pick) : pick
     }
     model_.layOutFiles();
     launch();
+    start_ = moment();
 }
 
 void RandomWalk::describeFactory() {

@@ -4,7 +4,9 @@
 #include "tests/support/SettingsFixture.h"
 
 #include <functional>
+#include <map>
 #include <ostream>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -18,8 +20,8 @@ inline void PrintTo(Start start, std::ostream* stream) {
     *stream << (start == Start::fresh ? "fresh" : "used");
 }
 
-/// Edits through the controller, each also done to the model. What is edited, and how, is asked of `pick`,
-/// which gives a number from 0 to below its argument.
+/// Edits through the controller, each also done to the model, and steps back and forth. What is edited, and
+/// how, is asked of `pick`, which gives a number from 0 to below its argument.
 class RandomWalk : public SettingsFixture {
 protected:
     RandomWalk(Start start, std::function<long(long below)> pick);
@@ -27,8 +29,24 @@ protected:
     void step();
     /// The lists on the screen, both stores and the template folder are what the model says.
     void check() const;
+    /// Takes back all that can be taken back, which leads to what was at the start, and repeats all of it.
+    void goBackAndForth();
 
 private:
+    /// What undo and redo lead to: the lists, and all that lies in the container.
+    struct Moment {
+        PerCategory<RuleModel::Records> lists;
+        std::set<std::string> templateFiles;
+        std::map<std::string, std::string> files;
+    };
+    [[nodiscard]] Moment moment() const;
+    void expectMoment(const Moment& expected) const;
+    /// An edit is a step exactly when it changes a record or a file.
+    void asStep(const std::function<void()>& edit);
+    void undo();
+    void redo();
+    void takeStep(std::vector<Moment>& from, std::vector<Moment>& to, const std::function<void()>& take);
+
     void describeFactory();
     void useForLong();
 
@@ -64,6 +82,11 @@ private:
     PerCategory<bool> stored_{true, false, false, true, true};
     PerCategory<bool> published_{true, true, false, true, true};
     int names_ = 0;
+    /// Of the templates.
+    int resets_ = 0;
+    Moment start_ = moment();
+    std::vector<Moment> undo_;
+    std::vector<Moment> redo_;
 };
 
 } // namespace tarnwick::testing

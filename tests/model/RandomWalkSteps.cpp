@@ -16,25 +16,30 @@ constexpr std::array<const char*, 4> extensions{"txt", "docx", "gz", ""};
 
 void RandomWalk::step() {
     const auto category = allRuleCategories[static_cast<std::size_t>(pick(5))];
-    switch (pick(10)) {
+    switch (pick(14)) {
     case 0:
-        return add(category);
+        return asStep([=, this] { add(category); });
     case 1:
-        return remove(category);
+        return asStep([=, this] { remove(category); });
     case 2:
-        return pick(12) == 0 ? reset(category) : enableAll(category);
+        return asStep([=, this] { pick(12) == 0 ? reset(category) : enableAll(category); });
     case 3:
     case 4:
-        return toggle(category);
+        return asStep([=, this] { toggle(category); });
     case 5:
     case 6:
-        return drop(category);
+        return asStep([=, this] { drop(category); });
     case 7:
-        return rename(category);
+        return asStep([=, this] { rename(category); });
     case 8:
-        return editNote();
-    default:
+        return asStep([this] { editNote(); });
+    case 9:
         return choosePath();
+    case 10:
+    case 11:
+        return undo();
+    default:
+        return redo();
     }
 }
 
@@ -94,6 +99,7 @@ void RandomWalk::reset(RuleCategory category) {
     if (haveReset[category]) {
         controller_.reset(category);
         noteSaved(category, model_.reset(category));
+        resets_ += category == RuleCategory::createNewFile ? 1 : 0;
     }
 }
 
@@ -146,14 +152,16 @@ void RandomWalk::choosePath() {
     controller_.selectPath(row);
     if (flip()) {
         // The list may change while the chooser is open.
-        remove(RuleCategory::copyFilesTo);
+        asStep([this] { remove(RuleCategory::copyFilesTo); });
     }
     if (pick(4) == 0) {
         return platform_.panels.cancel();
     }
     const auto path = "/chosen/" + freshName();
-    platform_.panels.confirm({path});
-    noteSaved(RuleCategory::copyFilesTo, model_.choosePath(row, path));
+    asStep([&] {
+        platform_.panels.confirm({path});
+        noteSaved(RuleCategory::copyFilesTo, model_.choosePath(row, path));
+    });
 }
 
 } // namespace tarnwick::testing

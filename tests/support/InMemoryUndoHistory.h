@@ -30,6 +30,8 @@ public:
     void undo() { take(undo_, Direction::undo); }
     void redo() { take(redo_, Direction::redo); }
 
+    [[nodiscard]] std::size_t undoCount() const { return undo_.size(); }
+    [[nodiscard]] std::size_t redoCount() const { return redo_.size(); }
     /// The names of the steps, the next one last.
     [[nodiscard]] std::vector<std::string> undoNames() const { return namesOf(undo_); }
     [[nodiscard]] std::vector<std::string> redoNames() const { return namesOf(redo_); }

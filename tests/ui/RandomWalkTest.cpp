@@ -27,6 +27,7 @@ TEST_P(RandomWalkTest, KeepsScreenStoresAndTemplateFilesAsTheModelHasThem) {
             FAIL() << "at step " << number;
         }
     }
+    goBackAndForth();
 }
 
 std::string seedOf(const ::testing::TestParamInfo<std::tuple<Start, unsigned>>& info) {

@@ -14,7 +14,14 @@ typedef TN_ENUM(NSUInteger, NSBackingStoreType){NSBackingStoreBuffered = 2};
 extern "C" NSString *const NSWindowDidUpdateNotification;
 extern "C" NSString *const NSWindowWillCloseNotification;
 
+@class NSWindow;
+@protocol NSWindowDelegate <NSObject>
+@optional
+- (nullable NSUndoManager *)windowWillReturnUndoManager:(NSWindow *)window;
+@end
+
 @interface NSWindow : NSResponder
+@property (nullable, assign) id<NSWindowDelegate> delegate;
 @property (copy) NSString *title;
 @property (nullable, strong) __kindof NSView *contentView;
 @property NSSize contentMinSize;

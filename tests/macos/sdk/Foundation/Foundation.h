@@ -10,6 +10,7 @@
 #import "NSProcesses.h"
 #import "NSSerialization.h"
 #import "NSString.h"
+#import "NSUndoManager.h"
 #import "NSUserDefaults.h"
 #import "NSValue.h"
 #import <Scripting/NSScripting.h>

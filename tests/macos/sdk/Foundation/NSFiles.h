@@ -12,6 +12,7 @@ extern "C" {
 NSArray<NSString *> *NSSearchPathForDirectoriesInDomains(
     NSSearchPathDirectory directory, NSSearchPathDomainMask domains, BOOL expandTilde);
 NSString *NSUserName(void);
+NSString *NSTemporaryDirectory(void);
 }
 
 @interface NSURL : NSObject <NSCopying>
@@ -31,6 +32,8 @@ NSString *NSUserName(void);
     withIntermediateDirectories:(BOOL)intermediate
                      attributes:(nullable NSDictionary<NSString *, id> *)attributes
                           error:(NSError *_Nullable *_Nullable)error;
+- (nullable NSArray<NSString *> *)contentsOfDirectoryAtPath:(NSString *)path
+                                                      error:(NSError *_Nullable *_Nullable)error;
 - (nullable NSURL *)URLForDirectory:(NSSearchPathDirectory)directory
                            inDomain:(NSSearchPathDomainMask)domain
                   appropriateForURL:(nullable NSURL *)url

@@ -14,6 +14,7 @@ typedef struct {
 
 @interface NSProcessInfo : NSObject
 @property (class, readonly, strong) NSProcessInfo *processInfo;
+@property (readonly) int processIdentifier;
 - (BOOL)isOperatingSystemAtLeastVersion:(NSOperatingSystemVersion)version TN_SINCE(10.10);
 @end
 

@@ -12,6 +12,7 @@ enum : NSStringEncoding { NSUTF8StringEncoding = 4 };
 
 @interface NSString : NSObject <NSCopying>
 @property (readonly) NSUInteger length;
+@property (readonly) const char *fileSystemRepresentation;
 - (unichar)characterAtIndex:(NSUInteger)index;
 - (nullable instancetype)initWithBytes:(const void *)bytes
                                 length:(NSUInteger)length
