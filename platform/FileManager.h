@@ -4,7 +4,6 @@
 
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace tarnwick {
 
@@ -26,8 +25,6 @@ public:
     /// Moves at once and as a whole, so that an interruption leaves nothing half done; fails where that takes
     /// a copy, as from one volume to another. Never overwrites either.
     virtual bool rename(const std::string& from, const std::string& to) = 0;
-    /// The names of what lies directly in a folder, in no order; empty when it cannot be read.
-    [[nodiscard]] virtual std::vector<std::string> contents(const std::string& folder) const = 0;
     /// The value in a property-list file of any format; nothing when it cannot be read or is malformed.
     [[nodiscard]] virtual std::optional<PlistValue> propertyList(const std::string& path) const = 0;
 };

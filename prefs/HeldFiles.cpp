@@ -1,6 +1,7 @@
 #include "prefs/HeldFiles.h"
 
 #include "platform/FileManager.h"
+#include "platform/FileTrees.h"
 #include "platform/KnownFolders.h"
 #include "platform/Process.h"
 
@@ -66,7 +67,7 @@ void HeldFiles::removeAll() {
 }
 
 void HeldFiles::removeAbandoned() {
-    for (const auto& name : files_.contents(folders_.temporary())) {
+    for (const auto& name : trees_.namesIn(folders_.temporary())) {
         const auto process = processOf(name);
         // A number may come back: what lies under this process's own is not its own yet.
         if (process && (*process == process_.identifier() || !process_.isRunning(*process))) {

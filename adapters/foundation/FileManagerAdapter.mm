@@ -35,13 +35,6 @@ public:
         return !exists(to) && std::rename([toNSString(from) fileSystemRepresentation],
                                   [toNSString(to) fileSystemRepresentation]) == 0;
     }
-    std::vector<std::string> contents(const std::string &folder) const override {
-        std::vector<std::string> names;
-        for (NSString *name in [manager() contentsOfDirectoryAtPath:toNSString(folder) error:nullptr]) {
-            names.push_back(toString(name));
-        }
-        return names;
-    }
     std::optional<PlistValue> propertyList(const std::string &path) const override {
         NSData *bytes = [NSData dataWithContentsOfFile:toNSString(path)];
         if (!bytes) {

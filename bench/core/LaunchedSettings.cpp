@@ -18,4 +18,25 @@ LaunchedSettings::LaunchedSettings(std::size_t records, std::size_t imageBytes) 
     forgetCalls();
 }
 
+void LaunchedSettings::switchAll(bool on) {
+    platform_.preferences.userSets(factsOf(RuleCategory::customIcon).enableAllKey, on);
+    controller_.enableAll(RuleCategory::customIcon);
+}
+
+void LaunchedSettings::removeRow(long row) {
+    window_.table(RuleCategory::customIcon).selected = row;
+    controller_.remove(RuleCategory::customIcon);
+}
+
+void LaunchedSettings::addPicture() {
+    platform_.images.pictureFiles["/home/Blue.png"] = "tiff of blue";
+    controller_.add(RuleCategory::customIcon);
+    platform_.panels.confirm({"/home/Blue.png"});
+}
+
+void LaunchedSettings::forgetCalls() {
+    forgetLog();
+    forgetSteps();
+}
+
 } // namespace tarnwick::bench

@@ -13,8 +13,16 @@ class LaunchedSettings {
 public:
     LaunchedSettings(std::size_t records, std::size_t imageBytes);
     [[nodiscard]] SettingsController& controller() { return controller_; }
-    /// The platform's log grows with every call; forgotten after each operation.
-    void forgetCalls() { platform_.log.clear(); }
+    /// What else the window asks for, on the list of icons.
+    void switchAll(bool on);
+    void removeRow(long row);
+    void addPicture();
+
+    /// The platform's log and the kept steps grow with every call; forgotten after each operation.
+    void forgetCalls();
+    void forgetLog() { platform_.log.clear(); }
+    void forgetSteps() { platform_.undoHistory.clear(); }
+    [[nodiscard]] std::size_t steps() const { return platform_.undoHistory.undoCount(); }
 
 private:
     testing::InMemoryPlatform platform_;

@@ -51,7 +51,7 @@ public:
     void redo() { platform_.undoHistory.redo(); }
     /// The temporary folder lies on a volume of its own.
     void keepTemporaryFilesElsewhere() { platform_.files.volumes.insert("/tmp"); }
-    [[nodiscard]] bool isAnythingHeld() const { return !platform_.files.contents("/tmp").empty(); }
+    [[nodiscard]] bool isAnythingHeld() const { return !platform_.trees.namesIn("/tmp").empty(); }
     [[nodiscard]] std::string contentOf(const std::string& name) const {
         const auto found = platform_.files.files.find(templates + "/" + name);
         return found == platform_.files.files.end() ? "" : found->second;

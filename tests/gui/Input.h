@@ -27,6 +27,8 @@ void scrollToRow(RuleCategory table, long row);
 void press(Key key);
 /// With the Command key.
 void pressCommand(char key);
+/// With the Shift and Command keys.
+void pressShiftCommand(char key);
 /// With the Option and Command keys.
 void pressOptionCommand(Key key);
 void type(const std::string& text);

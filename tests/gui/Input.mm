@@ -106,6 +106,11 @@ void pressCommand(char key) {
     pressKey([NSString stringWithFormat:@"%c", key], NSEventModifierFlagCommand);
 }
 
+void pressShiftCommand(char key) {
+    pressKey([[NSString stringWithFormat:@"%c", key] uppercaseString],
+        NSEventModifierFlagShift | NSEventModifierFlagCommand);
+}
+
 void pressOptionCommand(Key key) {
     pressKey(charactersOf(key), NSEventModifierFlagOption | NSEventModifierFlagCommand);
 }

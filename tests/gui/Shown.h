@@ -7,6 +7,16 @@
 /// What the window shows.
 namespace tarnwick::gui {
 
+struct MenuItemFacts {
+    std::string title;
+    bool isEnabled = false;
+
+    bool operator==(const MenuItemFacts&) const = default;
+};
+/// The items of the Edit menu as they are when it opens.
+[[nodiscard]] MenuItemFacts undoItem();
+[[nodiscard]] MenuItemFacts redoItem();
+
 [[nodiscard]] int shownPage();
 [[nodiscard]] long rowCount(RuleCategory table);
 /// -1 when no row is selected.

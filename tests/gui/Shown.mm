@@ -14,7 +14,27 @@ NSButton *buttonTitled(const std::string &title) {
     return visibleButton([settingsWindow() contentView], toNSString(title));
 }
 
+MenuItemFacts itemFor(SEL action) {
+    for (NSMenuItem *submenu in [[NSApp mainMenu] itemArray]) {
+        [[submenu submenu] update];
+        for (NSMenuItem *item in [[submenu submenu] itemArray]) {
+            if ([item action] && sel_isEqual([item action], action)) {
+                return {toString([item title]), static_cast<bool>([item isEnabled])};
+            }
+        }
+    }
+    return {"(no such item)", false};
+}
+
 } // namespace
+
+MenuItemFacts undoItem() {
+    return itemFor(@selector(undo:));
+}
+
+MenuItemFacts redoItem() {
+    return itemFor(@selector(redo:));
+}
 
 int shownPage() {
     NSTabView *tabView = [settingsController() tabView];

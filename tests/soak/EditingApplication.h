@@ -19,6 +19,9 @@ int runApplication(int argc, char* argv[], std::function<bool()> edit);
 void selectRow(RuleCategory category, long row);
 /// Every open panel that is begun from now on is left with OK and these paths.
 void answerPanelsWith(const std::vector<std::string>& paths);
+/// The items of the Edit menu.
+void undo();
+void redo();
 /// As a switch of the window writes it.
 void userSets(std::string_view key, bool on);
 [[nodiscard]] std::string userName();

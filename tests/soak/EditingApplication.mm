@@ -107,6 +107,14 @@ void answerPanelsWith(const std::vector<std::string> &paths) {
     answer = urls;
 }
 
+void undo() {
+    [[[[application->controller() tabView] window] undoManager] undo];
+}
+
+void redo() {
+    [[[[application->controller() tabView] window] undoManager] redo];
+}
+
 void userSets(std::string_view key, bool on) {
     [[NSUserDefaults standardUserDefaults] setBool:on forKey:toNSString(key)];
 }

@@ -69,8 +69,7 @@ void RandomEdits::useGivenName() {
     controller().textEdited("OthersNote", 0, name);
 }
 
-void RandomEdits::editOneOf(RuleCategory category) {
-    ++count_;
+void RandomEdits::editAtRandom(RuleCategory category) {
     switch (pick(8)) {
     case 0:
     case 1:
@@ -192,6 +191,7 @@ void RandomEdits::reset(RuleCategory category) {
     if (!haveReset[category] || model_.factory[RuleCategory::createNewFile].empty()) {
         return;
     }
+    templateResets_ += category == RuleCategory::createNewFile ? 1 : 0;
     perform("reset", category, true, model_.reset(category), [&] { controller().reset(category); });
 }
 

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <random>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,9 @@ private:
     /// With a file "name" beside the stores, that is what the first row of every list is called.
     void useGivenName();
     void editOneOf(RuleCategory category);
+    void editAtRandom(RuleCategory category);
+    /// Takes a step back, or repeats one; without one, nothing.
+    void stepBackOrForth();
     void add(RuleCategory category);
     void remove(RuleCategory category);
     void toggle(RuleCategory category);
@@ -34,6 +38,15 @@ private:
     void editNote();
     void choosePath();
     void reset(RuleCategory category);
+
+    /// What a step of undo or redo leads to.
+    struct Past {
+        RuleCategory category;
+        RuleModel::Records records;
+        std::set<std::string> files;
+    };
+    void takeStep(const char* name, std::vector<Past>& from, std::vector<Past>& to, void (*take)());
+    [[nodiscard]] Past present(RuleCategory category) { return {category, list(category), model_.files}; }
 
     /// What is chosen to be added: it makes the item, has the model add it, and gives its path; empty: none.
     std::string makeItem(RuleCategory category);
@@ -72,6 +85,9 @@ private:
     std::string lists_;
     long count_ = 0;
     long names_ = 0;
+    long templateResets_ = 0;
+    std::vector<Past> undo_;
+    std::vector<Past> redo_;
 };
 
 } // namespace tarnwick::soak

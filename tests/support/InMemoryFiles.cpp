@@ -80,17 +80,6 @@ std::string InMemoryFiles::volumeOf(const std::string& path) const {
     return "/";
 }
 
-std::vector<std::string> InMemoryFiles::contents(const std::string& folder) const {
-    const auto found = namesIn(folder);
-    std::vector<std::string> names(found.begin(), found.end());
-    for (const auto& path : folders) {
-        if (parentOf(path) == folder) {
-            names.push_back(path.substr(folder.size() + 1));
-        }
-    }
-    return names;
-}
-
 void InMemoryFiles::put(const std::string& from, const std::string& to) {
     const auto moved = [&](const std::string& path) { return to + path.substr(from.size()); };
     for (const auto& folder : std::set(folders)) {

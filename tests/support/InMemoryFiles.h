@@ -33,7 +33,6 @@ public:
     bool copy(const std::string& from, const std::string& to) override;
     bool move(const std::string& from, const std::string& to) override;
     bool rename(const std::string& from, const std::string& to) override;
-    std::vector<std::string> contents(const std::string& folder) const override;
     std::optional<PlistValue> propertyList(const std::string& path) const override;
 
     /// The names of the files directly in a folder, sorted.

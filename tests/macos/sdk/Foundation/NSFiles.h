@@ -32,8 +32,6 @@ NSString *NSTemporaryDirectory(void);
     withIntermediateDirectories:(BOOL)intermediate
                      attributes:(nullable NSDictionary<NSString *, id> *)attributes
                           error:(NSError *_Nullable *_Nullable)error;
-- (nullable NSArray<NSString *> *)contentsOfDirectoryAtPath:(NSString *)path
-                                                      error:(NSError *_Nullable *_Nullable)error;
 - (nullable NSURL *)URLForDirectory:(NSSearchPathDirectory)directory
                            inDomain:(NSSearchPathDomainMask)domain
                   appropriateForURL:(nullable NSURL *)url
