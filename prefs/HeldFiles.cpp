@@ -5,7 +5,6 @@
 #include "platform/KnownFolders.h"
 #include "platform/Process.h"
 
-#include <charconv>
 #include <string_view>
 
 namespace tarnwick {
@@ -13,6 +12,8 @@ namespace {
 
 /// The number of a process follows.
 constexpr std::string_view folderName = "org.halvane.Tarnwick.undo-";
+/// No system counts further.
+constexpr int greatestProcess = 1'000'000'000;
 
 /// The process whose folder has this name; nothing for a folder of anything else.
 std::optional<int> processOf(std::string_view name) {
@@ -21,9 +22,13 @@ std::optional<int> processOf(std::string_view name) {
     }
     name.remove_prefix(folderName.size());
     int process = 0;
-    const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), process);
-    const auto isNumber = error == std::errc() && end == name.data() + name.size() && process > 0;
-    return isNumber ? std::optional(process) : std::nullopt;
+    for (const auto digit : name) {
+        if (digit < '0' || digit > '9' || process > greatestProcess / 10) {
+            return std::nullopt;
+        }
+        process = process * 10 + (digit - '0');
+    }
+    return process > 0 ? std::optional(process) : std::nullopt;
 }
 
 } // namespace

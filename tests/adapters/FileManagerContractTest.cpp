@@ -122,6 +122,27 @@ TEST_P(FileManagerContract, NothingIsEverOverwritten) {
     EXPECT_EQ(files->read(at("b")), "2");
 }
 
+TEST_P(FileManagerContract, ARenamedFolderTakesItsContentsAlong) {
+    manager().createFolder(at("one/two"));
+    files->write(at("one/two/a"), "1");
+    EXPECT_TRUE(manager().rename(at("one"), at("\u8868")));
+    EXPECT_FALSE(manager().exists(at("one")));
+    EXPECT_EQ(files->read(at("\u8868/two/a")), "1");
+}
+
+TEST_P(FileManagerContract, RenamingNeitherOverwritesNorMakesAnything) {
+    files->write(at("a"), "1");
+    files->write(at("b"), "2");
+    manager().createFolder(at("empty"));
+    EXPECT_FALSE(manager().rename(at("a"), at("b")));
+    EXPECT_FALSE(manager().rename(at("one"), at("empty")));
+    EXPECT_FALSE(manager().rename(at("one"), at("two")));
+    EXPECT_FALSE(manager().rename(at("a"), at("no folder/a")));
+    EXPECT_EQ(files->read(at("a")), "1");
+    EXPECT_EQ(files->read(at("b")), "2");
+    EXPECT_FALSE(manager().exists(at("two")));
+}
+
 TEST_P(FileManagerContract, NamesOfAnyScriptWork) {
     const auto name = at("\u8868\u683c \U0001F5C2 e\u0301.txt");
     files->write(name, "1");

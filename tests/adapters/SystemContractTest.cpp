@@ -124,13 +124,24 @@ TEST_P(SystemContract, TheUsersFoldersAreAbsoluteAndStayTheSame) {
     const auto container = folders.groupContainer("H7Q2ZK5RX9.org.halvane.Tarnwick");
     ASSERT_TRUE(scripts.path && container);
     EXPECT_EQ(scripts.error, "");
-    for (const auto& folder : {*scripts.path, *container, folders.library()}) {
+    for (const auto& folder : {*scripts.path, *container, folders.library(), folders.temporary()}) {
         EXPECT_EQ(folder.front(), '/') << folder;
         EXPECT_NE(folder.back(), '/') << folder;
     }
     EXPECT_EQ(folders.applicationScripts().path, scripts.path);
     EXPECT_EQ(folders.groupContainer("H7Q2ZK5RX9.org.halvane.Tarnwick"), container);
+    EXPECT_EQ(folders.temporary(), folders.temporary());
     EXPECT_FALSE(folders.userName().empty());
+}
+
+TEST_P(SystemContract, AProcessIsThereUntilItEnds) {
+    auto& process = harness_.process();
+    EXPECT_GT(process.identifier(), 0);
+    EXPECT_TRUE(process.isRunning(process.identifier()));
+    harness_.expectOutput("4194000");
+    const auto output = process.output("/bin/sh", {"-c", "printf $$"});
+    const auto ended = std::atoi(std::string(output.bytes(), output.bytes() + output.size()).c_str());
+    EXPECT_TRUE(runLoopUntil([&] { return !process.isRunning(ended); }));
 }
 
 TEST_P(SystemContract, AScriptThatIsNotThereGivesAReasonInsteadOfATask) {
