@@ -25,6 +25,7 @@ enum class StepKind {
     enableAll,
     disableAll,
     reset,
+    importSettings,
 };
 
 /// What a step is called. Implementations: the user's language, in memory.

@@ -110,6 +110,10 @@ CommandAction actionOf(Command command) {
         return {
             @selector(exportSettings:), controllers
         };
+    case Command::importSettings:
+        return {
+            @selector(importSettings:), controllers
+        };
     case Command::closeWindow:
         return {
             @selector(performClose:), anyones

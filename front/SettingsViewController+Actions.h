@@ -132,6 +132,7 @@
 /// Presses the add button of the page that is shown; the page of further apps has none.
 - (void)addRuleOfCurrentPage:(id)sender;
 - (void)exportSettings:(id)sender;
+- (void)importSettings:(id)sender;
 /// One place up or down in the list of the page that is shown.
 - (void)moveSelectedRuleUp:(id)sender;
 - (void)moveSelectedRuleDown:(id)sender;

@@ -29,6 +29,10 @@ using tarnwick::MoveDirection;
     _controller->exportSettings();
 }
 
+- (void)importSettings:(id)sender {
+    _controller->importSettings();
+}
+
 - (void)moveSelectedRule:(MoveDirection)direction {
     if (const auto category = [self shownCategory]) {
         _controller->moveSelectedRule(*category, direction);

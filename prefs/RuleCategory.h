@@ -45,6 +45,8 @@ struct RuleCategoryFacts {
     bool isNeverEmpty = false;
     /// Its records have files of their own in the template folder.
     bool hasTemplateFiles = false;
+    /// Each of its records bears a picture.
+    bool hasPictures = false;
     /// Its records bear an "Action", some of which are fixed or protected.
     bool hasActions = false;
     /// Whose records are counted for a drop below the last row.
@@ -77,6 +79,7 @@ inline constexpr PerCategory<RuleCategoryFacts> ruleCategoryFacts{
         .nameMark = field::modified,
         .allowedType = "png",
         .isNeverEmpty = true,
+        .hasPictures = true,
         .countedAtDrop = RuleCategory::customIcon},
     RuleCategoryFacts{.listKey = "arrOfOthers",
         .enableAllKey = "enableAllOfOthers",
@@ -86,6 +89,7 @@ inline constexpr PerCategory<RuleCategoryFacts> ruleCategoryFacts{
         .choosesWithoutExtensions = true,
         .takesDrops = false,
         .isNeverEmpty = true,
+        .hasPictures = true,
         .hasActions = true,
         // Not its own, on purpose.
         .countedAtDrop = RuleCategory::customIcon},

@@ -10,6 +10,7 @@
 #include "prefs/RuleList.h"
 #include "prefs/TemplateNote.h"
 #include "values/PathText.h"
+#include "values/PlistDigest.h"
 
 #include <algorithm>
 #include <utility>
@@ -243,7 +244,7 @@ void TemplateFiles::recoverHeld(const RuleList& templates) {
         }
         settle({});
     } else if (const auto* heldFolder = std::get_if<TemplateFolderPutBack>(&noted.work)) {
-        if (noted.owners == templateFileNames(templates) && replaceFromHeld(heldFolder->place, *folder)) {
+        if (noted.owner == digestOf(templates.toPlist()) && replaceFromHeld(heldFolder->place, *folder)) {
             log_.write("the template folder is put back after an interruption");
         }
         settle({});

@@ -1,7 +1,7 @@
 #include "prefs/TemplateNote.h"
 
-#include "prefs/GroupContainer.h"
 #include "prefs/RuleList.h"
+#include "values/PlistDigest.h"
 
 #include <optional>
 #include <string_view>
@@ -59,7 +59,7 @@ std::optional<std::vector<std::string>> texts(const PlistValue& stored) {
 
 TemplateNote::TemplateNote(TemplateWork noted, const RuleList& changed) : work(std::move(noted)) {
     if (std::holds_alternative<TemplateFolderPutBack>(work)) {
-        owners = templateFileNames(changed);
+        owner = digestOf(changed.toPlist());
     }
 }
 
@@ -80,9 +80,9 @@ TemplateNote::TemplateNote(const PlistValue& stored) {
         work = fromNamesAndPlaces(*words);
     } else if (first == layingOut) {
         work = TemplatesLaidOut();
-    } else if (first == puttingFolderBack && !words->empty()) {
+    } else if (first == puttingFolderBack && words->size() == 2) {
         work = TemplateFolderPutBack{words->front()};
-        owners.assign(words->begin() + 1, words->end());
+        owner = words->back();
     }
 }
 
@@ -100,9 +100,7 @@ PlistArray TemplateNote::words() const {
         return wordsOf(puttingBack, namesAndPlaces(*putBack));
     }
     if (const auto* folder = std::get_if<TemplateFolderPutBack>(&work)) {
-        auto others = owners;
-        others.insert(others.begin(), folder->place);
-        return wordsOf(puttingFolderBack, others);
+        return wordsOf(puttingFolderBack, {folder->place, owner});
     }
     return std::holds_alternative<TemplatesLaidOut>(work) ? wordsOf(layingOut, {}) : PlistArray();
 }
@@ -122,15 +120,6 @@ std::vector<std::string> TemplateNote::names() const {
         for (const auto& file : putBack->files) {
             names.push_back(file.name);
         }
-    }
-    return names;
-}
-
-std::vector<std::string> templateFileNames(const RuleList& templates) {
-    std::vector<std::string> names;
-    names.reserve(templates.size());
-    for (const auto& record : templates) {
-        names.push_back(templateFileName(record));
     }
     return names;
 }

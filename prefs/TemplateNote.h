@@ -20,11 +20,11 @@ class RuleList;
 /// | "remove", file name ...                 | `TemplatesRemoved`                                          |
 /// | "put back", file name, its place ...    | `TemplatesPutBack`                                          |
 /// | "lay out"                               | `TemplatesLaidOut`                                          |
-/// | "put back folder", place, file name ... | `TemplateFolderPutBack`, and the files of the changed list  |
+/// | "put back folder", place, digest        | `TemplateFolderPutBack`, and the digest of the changed list |
 struct TemplateNote {
     TemplateWork work;
-    /// Of a folder alone: the files of the records that it belongs to, in their order.
-    std::vector<std::string> owners;
+    /// Of a folder alone: the digest of the list that it belongs to.
+    std::string owner;
 
     TemplateNote() = default;
     /// `changed` is the list as the work leaves it.
@@ -37,8 +37,5 @@ struct TemplateNote {
     /// The names that the work writes or removes.
     [[nodiscard]] std::vector<std::string> names() const;
 };
-
-/// The names of the records' files, in order.
-[[nodiscard]] std::vector<std::string> templateFileNames(const RuleList& templates);
 
 } // namespace tarnwick

@@ -19,26 +19,6 @@ constexpr std::array flagFields{
 constexpr std::array textFields{
     field::displayName, field::extension, field::realPath, field::action, field::note};
 
-bool isReadableRecord(const PlistValue& element) {
-    const auto* fields = element.dictionary();
-    if (!fields) {
-        return false;
-    }
-    return std::all_of(fields->begin(), fields->end(), [](const auto& entry) {
-        const auto& [key, value] = entry;
-        const auto isIn = [&key = key](const auto& keys) {
-            return std::find(keys.begin(), keys.end(), key) != keys.end();
-        };
-        if (isIn(flagFields)) {
-            return flagValue(value).has_value();
-        }
-        if (isIn(textFields)) {
-            return value.string() != nullptr;
-        }
-        return key != field::icon || value.data() != nullptr;
-    });
-}
-
 bool isReadableList(const PlistValue& stored) {
     const auto* elements = stored.array();
     return elements && std::all_of(elements->begin(), elements->end(), isReadableRecord);
@@ -77,6 +57,26 @@ void keepOriginal(
 }
 
 } // namespace
+
+bool isReadableRecord(const PlistValue& element) {
+    const auto* fields = element.dictionary();
+    if (!fields) {
+        return false;
+    }
+    return std::all_of(fields->begin(), fields->end(), [](const auto& entry) {
+        const auto& [key, value] = entry;
+        const auto isIn = [&key = key](const auto& keys) {
+            return std::find(keys.begin(), keys.end(), key) != keys.end();
+        };
+        if (isIn(flagFields)) {
+            return flagValue(value).has_value();
+        }
+        if (isIn(textFields)) {
+            return value.string() != nullptr;
+        }
+        return key != field::icon || value.data() != nullptr;
+    });
+}
 
 void keepUnreadableOriginals(LocalPreferences& local, SystemLog& log) {
     for (const auto& facts : ruleCategoryFacts) {

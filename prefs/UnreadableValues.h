@@ -3,8 +3,12 @@
 namespace tarnwick {
 
 class LocalPreferences;
+class PlistValue;
 class SharedPreferences;
 class SystemLog;
+
+/// Whether an element of a stored list is a record of which each field is of a kind that is read.
+[[nodiscard]] bool isReadableRecord(const PlistValue& element);
 
 /// Keeps what cannot be read before anything overwrites it: for each list key whose
 /// stored value is not an array, or holds an element or a field of the wrong type, the original goes under

@@ -2,6 +2,7 @@
 
 #include "platform/ApplicationBundle.h"
 #include "ui/CountText.h"
+#include "ui/ShortenedText.h"
 
 #include <string_view>
 
@@ -39,23 +40,10 @@ std::string_view formatOf(StepKind kind, bool isNamed) {
         return "Disable All";
     case StepKind::reset:
         return "Reset List";
+    case StepKind::importSettings:
+        return "Import of Settings";
     }
     return {};
-}
-
-/// A code point of UTF-8 goes on in such bytes.
-bool continuesCodePoint(char byte) {
-    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
-}
-
-std::string shortened(std::string name) {
-    std::size_t codePoints = 0;
-    for (std::size_t place = 0; place < name.size(); ++place) {
-        if (!continuesCodePoint(name[place]) && ++codePoints > longestName) {
-            return name.substr(0, place) + "\u2026";
-        }
-    }
-    return name;
 }
 
 } // namespace
@@ -67,8 +55,8 @@ std::string LocalizedStepNames::nameOf(
         return format;
     }
     const auto name = cells_.shownName(list, *row);
-    return filled(format,
-        {name.empty() ? filled(bundle_.localized("row %@"), {std::to_string(*row + 1)}) : shortened(name)});
+    return filled(format, {name.empty() ? filled(bundle_.localized("row %@"), {std::to_string(*row + 1)})
+                                        : shortened(name, longestName)});
 }
 
 } // namespace tarnwick

@@ -25,6 +25,7 @@ constexpr std::array fileMenu{
     MenuItemLayout{"Add\u2026", Command::addRule, u'n'},
     separator,
     MenuItemLayout{"Export Settings\u2026", Command::exportSettings},
+    MenuItemLayout{"Import Settings\u2026", Command::importSettings},
     separator,
     MenuItemLayout{"Close Window", Command::closeWindow, u'w'},
 };

@@ -18,6 +18,7 @@ enum class Command {
     quit,
     addRule,
     exportSettings,
+    importSettings,
     closeWindow,
     undo,
     redo,

@@ -26,8 +26,8 @@ SettingsController::SettingsController(const Ports& ports, SettingsWindow& windo
     : stores_(ports.preferences), bundle_(ports.bundle), workspace_(ports.workspace), runLoop_(ports.runLoop),
       log_(ports.log), window_(window), preferences_(ports),
       stepNames_(ports.folders, ports.bundle, ports.images),
-      editing_(ports, preferences_, window, stepNames_), transfer_(ports, preferences_, editing_.editor),
-      integration_(ports, preferences_),
+      editing_(ports, preferences_, window, stepNames_),
+      transfer_(ports, preferences_, editing_.editor, window, stepNames_), integration_(ports, preferences_),
       rows_(preferences_.lists, ports.folders, ports.bundle, ports.images) {}
 
 void SettingsController::awakeFromNib() {

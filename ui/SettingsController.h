@@ -81,6 +81,7 @@ public:
     void selectPath(long row) { editing_.pathChoosing.selectPath(row); }
 
     void exportSettings() { transfer_.exportSettings(); }
+    void importSettings() { transfer_.importSettings(); }
 
     /// What the window asks of the system around the program.
     [[nodiscard]] SystemIntegration& integration() { return integration_; }

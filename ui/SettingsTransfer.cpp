@@ -7,6 +7,8 @@
 #include "platform/Ports.h"
 #include "platform/PropertyListFiles.h"
 #include "prefs/Preferences.h"
+#include "transfer/UnderstandSettings.h"
+#include "ui/ImportTexts.h"
 
 #include <optional>
 #include <utility>
@@ -16,22 +18,47 @@ namespace {
 
 constexpr std::string_view fileType = "plist";
 
+ImportFault faultOf(ListFileFault fault) {
+    switch (fault) {
+    case ListFileFault::unreadable:
+        break;
+    case ListFileFault::notRegular:
+        return ImportFault::notRegular;
+    case ListFileFault::tooLarge:
+        return ImportFault::tooLarge;
+    case ListFileFault::empty:
+        return ImportFault::empty;
+    case ListFileFault::foreign:
+        return ImportFault::foreign;
+    case ListFileFault::damaged:
+        return ImportFault::damaged;
+    }
+    return ImportFault::unreadable;
+}
+
 } // namespace
 
-SettingsTransfer::SettingsTransfer(const Ports& ports, const Preferences& preferences, ListEditor& editor)
+SettingsTransfer::SettingsTransfer(const Ports& ports, Preferences& preferences, ListEditor& editor,
+    RuleTables& tables, const StepNames& names)
     : exporting_(preferences.local, ports.files, ports.trees, ports.folders, ports.bundle, ports.clock),
-      panels_(ports.panels), files_(ports.listFiles), bundle_(ports.bundle), clock_(ports.clock),
-      editor_(editor) {}
+      importing_(preferences.local, ports.trees, preferences.held, editor, tables, names),
+      lists_(preferences.lists), panels_(ports.panels), files_(ports.listFiles), images_(ports.images),
+      bundle_(ports.bundle), clock_(ports.clock), editor_(editor) {}
 
 void SettingsTransfer::exportSettings() {
+    exportSettings([] {});
+}
+
+void SettingsTransfer::exportSettings(std::function<void()> then) {
     editor_.endEditing();
     const SavePanelRequest request{
         .name = "Tarnwick Settings " + clock_.today() + "." + std::string(fileType),
         .fileType = std::string(fileType)};
-    panels_.choosePlace(request, [this](const std::optional<std::string>& path) {
+    panels_.choosePlace(request, [this, then = std::move(then)](const std::optional<std::string>& path) {
         if (path) {
             exportTo(*path);
         }
+        then();
     });
 }
 
@@ -59,6 +86,53 @@ void SettingsTransfer::exportTo(const std::string& path) {
                 "The settings were exported without these template files, which cannot be read:"),
             std::move(names));
     }
+}
+
+void SettingsTransfer::importSettings() {
+    editor_.endEditing();
+    panels_.choose({.allowedFileTypes = {std::string(fileType)}, .prompt = bundle_.localized("Import")},
+        [this](const OpenPanelAnswer& answer) {
+            if (answer.confirmed && !answer.paths.empty()) {
+                importFrom(answer.paths.front());
+            }
+        });
+}
+
+void SettingsTransfer::importFrom(const std::string& path) {
+    const auto content = files_.read(path);
+    if (const auto* fault = std::get_if<ListFileFault>(&content)) {
+        refuse(faultOf(*fault));
+        return;
+    }
+    auto understood = understandSettings(*std::get_if<PlistValue>(&content), images_);
+    if (const auto* fault = std::get_if<ImportFault>(&understood)) {
+        refuse(*fault);
+        return;
+    }
+    ask(std::make_shared<const ImportPlan>(std::move(*std::get_if<ImportPlan>(&understood))));
+}
+
+void SettingsTransfer::ask(const std::shared_ptr<const ImportPlan>& plan) {
+    // What is being edited counts among what there is, and an edit that went on would end in another rule.
+    editor_.endEditing();
+    const auto present =
+        PerCategory<std::size_t>::madeBy([this](RuleCategory category) { return lists_[category].size(); });
+    const auto answer = panels_.runAlert({.style = AlertStyle::warning,
+        .messageText = bundle_.localized("Import these settings?"),
+        .informativeText = importSummary(*plan, present, bundle_),
+        .buttons = {bundle_.localized("Import"), bundle_.localized("Cancel"),
+            bundle_.localized("Export First\u2026")}});
+    if (answer == alertFirstButton) {
+        if (!importing_.apply(*plan)) {
+            refuse(ImportFault::notStored);
+        }
+    } else if (answer == alertFirstButton + 2) {
+        exportSettings([this, plan] { ask(plan); });
+    }
+}
+
+void SettingsTransfer::refuse(ImportFault fault) {
+    say(bundle_.localized("Nothing was imported, and nothing has changed."), faultText(fault, bundle_));
 }
 
 void SettingsTransfer::say(std::string message, std::string information) {
