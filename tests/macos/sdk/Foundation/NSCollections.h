@@ -23,22 +23,23 @@ typedef struct {
 - (BOOL)containsObject:(ObjectType)object;
 + (instancetype)array;
 + (instancetype)arrayWithObject:(ObjectType)object;
+- (instancetype)initWithObjects:(const ObjectType _Nonnull[_Nullable])objects count:(NSUInteger)count;
 @end
 
 @interface NSMutableArray<ObjectType> : NSArray <ObjectType>
-+ (instancetype)arrayWithCapacity:(NSUInteger)count;
 - (void)addObject:(ObjectType)object;
 @end
 
 @interface NSDictionary<KeyType, ObjectType> : NSObject <NSCopying, NSFastEnumeration>
 @property (readonly) NSUInteger count;
 - (nullable ObjectType)objectForKey:(KeyType)key;
-+ (instancetype)dictionaryWithObject:(ObjectType)object forKey:(KeyType)key;
+- (instancetype)initWithObjects:(const ObjectType _Nonnull[_Nullable])objects
+                        forKeys:(const id<NSCopying> _Nonnull[_Nullable])keys
+                          count:(NSUInteger)count;
 + (instancetype)dictionaryWithObjectsAndKeys:(id)first, ... __attribute__((sentinel(0, 1)));
 @end
 
 @interface NSMutableDictionary<KeyType, ObjectType> : NSDictionary <KeyType, ObjectType>
-+ (instancetype)dictionaryWithCapacity:(NSUInteger)count;
 - (void)setObject:(ObjectType)object forKey:(KeyType)key;
 @end
 

@@ -28,6 +28,7 @@ __attribute__((objc_root_class))
 + (instancetype)alloc;
 + (Class)class;
 - (Class)class;
++ (BOOL)instancesRespondToSelector:(SEL)selector;
 - (instancetype)init;
 - (void)dealloc;
 - (id)copy;
@@ -55,7 +56,7 @@ extern "C" NSString *const NSKeyValueChangeNewKey;
 @end
 
 __attribute__((objc_exception))
-@interface NSException : NSObject <NSCopying>
+@interface NSException : NSObject<NSCopying>
 @property (readonly, copy) NSString *name;
 @end
 
@@ -64,7 +65,7 @@ __attribute__((objc_exception))
 
 @interface NSDate : NSObject <NSCopying>
 @property (readonly) NSTimeInterval timeIntervalSinceReferenceDate;
-+ (instancetype)dateWithTimeIntervalSinceReferenceDate:(NSTimeInterval)seconds;
+- (instancetype)initWithTimeIntervalSinceReferenceDate:(NSTimeInterval)seconds;
 @end
 
 extern "C" void NSLog(NSString *format, ...) __attribute__((format(__NSString__, 1, 2)));

@@ -1,6 +1,7 @@
 #pragma once
 
 #import "NSObject.h"
+#import "NSRange.h"
 
 #pragma clang assume_nonnull begin
 
@@ -14,10 +15,10 @@ enum : NSStringEncoding { NSUTF8StringEncoding = 4 };
 @property (readonly) NSUInteger length;
 @property (readonly) const char *fileSystemRepresentation;
 - (unichar)characterAtIndex:(NSUInteger)index;
+- (void)getCharacters:(unichar *)buffer range:(NSRange)range;
 - (nullable instancetype)initWithBytes:(const void *)bytes
                                 length:(NSUInteger)length
                               encoding:(NSStringEncoding)encoding;
-- (nullable NSData *)dataUsingEncoding:(NSStringEncoding)encoding allowLossyConversion:(BOOL)lossy;
 + (instancetype)stringWithCharacters:(const unichar *)characters length:(NSUInteger)length;
 + (instancetype)stringWithFormat:(NSString *)format, ... __attribute__((format(__NSString__, 1, 2)));
 - (NSString *)stringByAppendingString:(NSString *)other;
@@ -27,6 +28,7 @@ enum : NSStringEncoding { NSUTF8StringEncoding = 4 };
 @interface NSMutableString : NSString
 + (instancetype)string;
 - (void)appendString:(NSString *)other;
+- (void)deleteCharactersInRange:(NSRange)range;
 @end
 
 @interface NSAttributedString : NSObject <NSCopying>

@@ -1,0 +1,12 @@
+#pragma once
+
+#import <objc/objc.h>
+
+typedef struct _NSRange {
+    NSUInteger location;
+    NSUInteger length;
+} NSRange;
+
+inline NSRange NSMakeRange(NSUInteger location, NSUInteger length) {
+    return {location, length};
+}
