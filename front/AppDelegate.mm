@@ -31,6 +31,11 @@
     return _delegate->applicationShouldTerminateAfterLastWindowClosed();
 }
 
+/// What macOS keeps of a window for the next start holds no objects of ours.
+- (BOOL)applicationSupportsSecureRestorableState:(NSApplication *)application {
+    return YES;
+}
+
 - (BOOL)application:(NSApplication *)sender openFile:(NSString *)filename {
     return _delegate->openFile(tarnwick::described(filename));
 }

@@ -1,5 +1,7 @@
 #import "front/CellContainerView.h"
 
+#import "front/CellControls.h"
+
 #include <algorithm>
 
 @implementation CellContainerView
@@ -12,6 +14,19 @@
             [view setFrame:frame];
         }
     }
+}
+
+/// Sent by the row, to views that have the method alone.
+- (void)setBackgroundStyle:(NSBackgroundStyle)style {
+    for (NSView *view in [self subviews]) {
+        if ([view isKindOfClass:[CellTextField class]]) {
+            [static_cast<CellTextField *>(view) setBackgroundStyle:style];
+        }
+    }
+}
+
+- (BOOL)mouseDownCanMoveWindow {
+    return NO;
 }
 
 /// A field that is taken away while it is being edited stores nothing: its row may be another one by now.

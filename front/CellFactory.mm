@@ -3,6 +3,7 @@
 #import "adapters/foundation/ImageAccess.h"
 #import "adapters/foundation/StringConversion.h"
 #import "front/CellContainerView.h"
+#import "front/CellControls.h"
 #import "front/Selectors.h"
 
 #include "ui/CellView.h"
@@ -15,10 +16,12 @@ NSRect rectOf(const Frame &frame) {
 }
 
 NSTextField *makeTextField(const TextFieldCell &cell, id controller) {
-    NSTextField *field = [[[NSTextField alloc] init] autorelease];
+    NSTextField *field = [[[CellTextField alloc] init] autorelease];
     [field setBezeled:NO];
     [field setDrawsBackground:NO];
     [field setEditable:cell.editable];
+    // Else a drag across it would select its text, not take its row along.
+    [field setSelectable:cell.editable];
     [[field cell] setLineBreakMode:NSLineBreakByTruncatingTail];
     if (cell.alignment == TextAlignment::centred) {
         [field setAlignment:NSTextAlignmentCenter];
@@ -45,7 +48,7 @@ NSButton *makeCheckBox(const CheckBoxCell &cell, RuleCategory category, id contr
 }
 
 NSImageView *makeImageView(const ImageCell &cell) {
-    NSImageView *view = [[[NSImageView alloc] init] autorelease];
+    NSImageView *view = [[[CellImageView alloc] init] autorelease];
     [view setImageScaling:NSImageScaleProportionallyDown];
     [view setImage:imageOf(cell.image)];
     return view;

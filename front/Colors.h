@@ -10,4 +10,8 @@ namespace tarnwick {
     return [NSColor colorWithDeviceRed:colour.red green:colour.green blue:colour.blue alpha:colour.alpha];
 }
 
+/// Gives the view's layer the colour as it is in the view's appearance just now; no layer follows an
+/// appearance by itself.
+void setLayerBackground(NSView *view, NSColor *color);
+
 } // namespace tarnwick

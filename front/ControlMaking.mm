@@ -8,7 +8,6 @@ namespace tarnwick {
 namespace {
 
 constexpr CGFloat minimumButtonWidth = 84;
-constexpr CGFloat buttonPadding = 32;
 constexpr CGFloat buttonHeight = 28;
 
 } // namespace
@@ -33,7 +32,7 @@ NSTextField *makeLabel(NSString *text, NSFont *font, NSColor *color, bool wraps)
 }
 
 NSColor *secondaryTextColor() {
-    return [NSColor disabledControlTextColor];
+    return [NSColor secondaryLabelColor];
 }
 
 NSButton *makePushButton(NSString *title, id target, SEL action) {
@@ -47,9 +46,9 @@ void preparePushButton(NSButton *button, NSString *title, id target, SEL action)
     [button setTitle:title];
     [button setTarget:target];
     [button setAction:action];
-    NSDictionary *attributes = [NSDictionary dictionaryWithObject:[button font] forKey:NSFontAttributeName];
-    const CGFloat width = [title sizeWithAttributes:attributes].width + buttonPadding;
-    [button setFrameSize:NSMakeSize(std::max(minimumButtonWidth, width), buttonHeight)];
+    // How much room a title needs at its sides differs from system to system.
+    [button sizeToFit];
+    [button setFrameSize:NSMakeSize(std::max(minimumButtonWidth, NSWidth([button frame])), buttonHeight)];
 }
 
 NSImage *resourceImage(std::string_view name) {

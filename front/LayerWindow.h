@@ -17,8 +17,6 @@ public:
     void activateApplication() override;
 
 private:
-    void setLayerBackground(NSColor* color);
-
     NSWindow* window_;
 };
 

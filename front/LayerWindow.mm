@@ -2,8 +2,6 @@
 
 #import "front/Colors.h"
 
-#import <QuartzCore/QuartzCore.h>
-
 namespace tarnwick {
 
 void LayerWindow::setMovableByBackground(bool movable) {
@@ -11,21 +9,16 @@ void LayerWindow::setMovableByBackground(bool movable) {
 }
 
 void LayerWindow::setBackground(const Colour &colour) {
-    setLayerBackground(colorOf(colour));
+    setLayerBackground([window_ contentView], colorOf(colour));
 }
 
 void LayerWindow::setTextBackground() {
-    setLayerBackground([NSColor textBackgroundColor]);
+    setLayerBackground([window_ contentView], [NSColor textBackgroundColor]);
 }
 
 void LayerWindow::activateApplication() {
     [window_ makeKeyAndOrderFront:nil];
     [NSApp activateIgnoringOtherApps:YES];
-}
-
-void LayerWindow::setLayerBackground(NSColor *color) {
-    [[[window_ contentView] layer] setBackgroundColor:[color CGColor]];
-    [[window_ contentView] setNeedsDisplay:YES];
 }
 
 } // namespace tarnwick

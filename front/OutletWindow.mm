@@ -7,8 +7,6 @@
 
 #include "ui/WindowLayout.h"
 
-#import <QuartzCore/QuartzCore.h>
-
 namespace tarnwick {
 namespace {
 
@@ -84,9 +82,7 @@ void OutletWindow::showPage(Page page) {
 }
 
 void OutletWindow::setPageButtonBackground(Page page, const Colour &colour) {
-    NSButton *button = [controller_ buttonOf:page];
-    [[button layer] setBackgroundColor:[colorOf(colour) CGColor]];
-    [button setNeedsDisplay:YES];
+    setLayerBackground([controller_ buttonOf:page], colorOf(colour));
 }
 
 void OutletWindow::hideRestartButton() {

@@ -113,6 +113,10 @@ RuleTableView *makeTable(
     for (const auto &facts : columnsOf(*layout.category)) {
         [table addTableColumn:makeColumn(facts)];
     }
+    if (@available(macOS 11.0, *)) {
+        // Others make room for themselves at the sides of the rows, beyond the width of the columns.
+        [table setStyle:NSTableViewStylePlain];
+    }
     [table setRowHeight:rowHeight];
     [table setIntercellSpacing:NSMakeSize(0, 0)];
     [table setAllowsMultipleSelection:NO];

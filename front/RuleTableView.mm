@@ -17,6 +17,11 @@ NSControl *controlIn(NSView *cell, Class wanted) {
     return nil;
 }
 
+/// A table has the steps of a drag in which it decides; which of the others it has is said nowhere.
+bool tablesHave(SEL step) {
+    return [NSTableView instancesRespondToSelector:step];
+}
+
 } // namespace
 
 @implementation RuleTableView
@@ -84,12 +89,17 @@ NSControl *controlIn(NSView *cell, Class wanted) {
 - (void)draggingExited:(id<NSDraggingInfo>)info {
     // Without a drag to tell about, both have ended theirs.
     [_fileDropView draggingExited:info];
-    [super draggingExited:info];
+    if (tablesHave(@selector(draggingExited:))) {
+        [super draggingExited:info];
+    }
 }
 
 - (BOOL)prepareForDragOperation:(id<NSDraggingInfo>)info {
     NSView *view = [self fileDropViewFor:info];
-    return view ? [view prepareForDragOperation:info] : [super prepareForDragOperation:info];
+    if (view) {
+        return [view prepareForDragOperation:info];
+    }
+    return !tablesHave(@selector(prepareForDragOperation:)) || [super prepareForDragOperation:info];
 }
 
 - (BOOL)performDragOperation:(id<NSDraggingInfo>)info {
@@ -99,7 +109,9 @@ NSControl *controlIn(NSView *cell, Class wanted) {
 
 - (void)concludeDragOperation:(id<NSDraggingInfo>)info {
     [_fileDropView concludeDragOperation:info];
-    [super concludeDragOperation:info];
+    if (tablesHave(@selector(concludeDragOperation:))) {
+        [super concludeDragOperation:info];
+    }
 }
 
 - (NSControl *)selectedControlInColumn:(NSString *)identifier ofClass:(Class)wanted {

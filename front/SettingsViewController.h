@@ -15,13 +15,13 @@ class OutletWindow;
 @class LinkButton;
 
 /// The controller of the settings window as AppKit sees it: carries the exact selectors that controls, tables
-/// and text fields send, whose names are fixed, and hands each to the core in one line. Whoever builds the
-/// window sets its outlets; they live as long as the view. A missing one makes the step that needs it do
-/// nothing.
+/// and text fields send, whose names are fixed, and hands each to the core in one line. Loading its view sets
+/// its outlets; they live as long as the view. A missing one makes the step that needs it do nothing.
 @interface SettingsViewController : NSViewController {
 @private
     std::unique_ptr<tarnwick::OutletWindow> _window;
     std::unique_ptr<tarnwick::SettingsController> _controller;
+    CGFloat _minimumWidth;
 
     NSTextField *_version;
     NSTabView *_tabView;
@@ -70,6 +70,9 @@ class OutletWindow;
 
 /// Refuses to run, and ends the process, when the application was started as a login item.
 - (instancetype)initWithPorts:(const tarnwick::Ports &)ports;
+
+/// The least that the view needs; known once the view is loaded.
+- (CGFloat)minimumWidth;
 
 - (void)start;
 - (void)appChanged:(NSNotification *)notification;

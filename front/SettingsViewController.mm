@@ -3,6 +3,7 @@
 #import "adapters/foundation/PlistConversion.h"
 #import "adapters/foundation/StringConversion.h"
 #import "front/OutletWindow.h"
+#import "front/SettingsWindowBuilder.h"
 
 #include "app/LoginItemRefusal.h"
 #include "platform/Ports.h"
@@ -42,6 +43,14 @@ using tarnwick::RuleCategory;
 - (void)dealloc {
     [_tipOfkillFinder release];
     [super dealloc];
+}
+
+- (void)loadView {
+    [self setView:tarnwick::makeSettingsView(self, _minimumWidth)];
+}
+
+- (CGFloat)minimumWidth {
+    return _minimumWidth;
 }
 
 - (void)awakeFromNib {

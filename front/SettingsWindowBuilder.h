@@ -6,8 +6,12 @@
 
 namespace tarnwick {
 
-/// Builds the settings window with all its pages, gives the controller its view and its outlets, and restores
-/// where the user last had the window. The caller owns the window.
+/// Builds what is in the window: the sidebar and all pages, with the controller's outlets. Autoreleased.
+/// `minimumWidth` becomes what the texts of all pages need.
+[[nodiscard]] NSView *makeSettingsView(SettingsViewController *controller, CGFloat &minimumWidth);
+
+/// Builds the window around the controller's view, and restores where the user last had it. The caller owns
+/// the window.
 [[nodiscard]] NSWindow *newSettingsWindow(SettingsViewController *controller);
 
 } // namespace tarnwick

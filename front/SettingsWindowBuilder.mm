@@ -19,6 +19,8 @@ namespace {
 NSTabView *makePages(NSRect frame, SettingsViewController *controller, CGFloat &neededWidth) {
     NSTabView *tabView = [[[NSTabView alloc] initWithFrame:frame] autorelease];
     [tabView setTabViewType:NSNoTabsNoBorder];
+    // The window's own colour is behind it.
+    [tabView setDrawsBackground:NO];
     [tabView setAutoresizingMask:NSViewWidthSizable | NSViewHeightSizable];
     for (const auto page : allPages) {
         const auto &layout = layoutOf(page);
@@ -41,34 +43,42 @@ NSView *makeSeparator(CGFloat height) {
 
 } // namespace
 
+NSView *makeSettingsView(SettingsViewController *controller, CGFloat &minimumWidth) {
+    const CGFloat pagesLeft = sidebarWidth + 1;
+    NSView *view = [[[NSView alloc] initWithFrame:NSMakeRect(0, 0, windowWidth, windowHeight)] autorelease];
+    [view setWantsLayer:YES];
+    [view addSubview:makeSidebar(windowHeight, controller)];
+    [view addSubview:makeSeparator(windowHeight)];
+    CGFloat pagesWidth = windowMinimumWidth - pagesLeft;
+    NSTabView *pages =
+        makePages(NSMakeRect(pagesLeft, 0, windowWidth - pagesLeft, windowHeight), controller, pagesWidth);
+    [view addSubview:pages];
+    [controller setTabView:pages];
+    // Some languages need more room than others.
+    minimumWidth = pagesLeft + std::ceil(pagesWidth);
+    return view;
+}
+
 NSWindow *newSettingsWindow(SettingsViewController *controller) {
-    const NSRect frame = NSMakeRect(0, 0, windowWidth, windowHeight);
+    NSView *view = [controller view];
     NSWindow *window =
-        [[NSWindow alloc] initWithContentRect:frame
+        [[NSWindow alloc] initWithContentRect:[view frame]
                                     styleMask:NSWindowStyleMaskTitled | NSWindowStyleMaskClosable |
                                               NSWindowStyleMaskMiniaturizable | NSWindowStyleMaskResizable
                                       backing:NSBackingStoreBuffered
                                         defer:YES];
     [window setReleasedWhenClosed:NO];
     [window setTitle:localizedText("Tarnwick")];
-
-    NSView *content = [[[NSView alloc] initWithFrame:frame] autorelease];
-    [content setWantsLayer:YES];
-    [content addSubview:makeSidebar(windowHeight, controller)];
-    [content addSubview:makeSeparator(windowHeight)];
-    const CGFloat pagesLeft = sidebarWidth + 1;
-    CGFloat pagesWidth = windowMinimumWidth - pagesLeft;
-    NSTabView *pages =
-        makePages(NSMakeRect(pagesLeft, 0, windowWidth - pagesLeft, windowHeight), controller, pagesWidth);
-    [content addSubview:pages];
-    [controller setTabView:pages];
-
-    [window setContentView:content];
-    // Some languages need more room than others.
-    const CGFloat minimumWidth = pagesLeft + std::ceil(pagesWidth);
+    [window setCollectionBehavior:NSWindowCollectionBehaviorFullScreenNone];
+    if (@available(macOS 10.12, *)) {
+        [window setTabbingMode:NSWindowTabbingModeDisallowed];
+    }
+    // The order is made anew whenever another page is shown.
+    [window setAutorecalculatesKeyViewLoop:NO];
+    [window setContentView:view];
+    const CGFloat minimumWidth = [controller minimumWidth];
     [window setContentMinSize:NSMakeSize(minimumWidth, windowMinimumHeight)];
     [window setContentSize:NSMakeSize(std::max<CGFloat>(windowWidth, minimumWidth), windowHeight)];
-    [controller setView:content];
     [window center];
     [window setFrameAutosaveName:@"Settings"];
     return window;

@@ -6,15 +6,17 @@
 
 #include "ui/WindowLayout.h"
 
-/// The sidebar's ground, a shade apart from that of the pages.
+/// The sidebar's ground: the window's colour, a shade nearer to that of the text.
 @interface SidebarView : NSView
 @end
 
 @implementation SidebarView
 
 - (void)drawRect:(NSRect)rect {
-    [[NSColor windowBackgroundColor] set];
-    NSRectFill(rect);
+    constexpr CGFloat shade = 0.04;
+    [[[NSColor controlTextColor] colorWithAlphaComponent:shade] set];
+    // What is to be drawn may reach beyond a view that does not clip, as none does from macOS 14 on.
+    NSRectFillUsingOperation([self bounds], NSCompositingOperationSourceOver);
 }
 
 @end

@@ -5,6 +5,8 @@
 
 #import <AppKit/AppKit.h>
 
+#import "TNConstants.h"
+
 @class CALayer;
 
 // Layers.mm
@@ -19,6 +21,18 @@
 @interface NSView (TNIdentifiers)
 - (void)setIdentifier:(NSString *)identifier;
 - (NSString *)identifier;
+@end
+
+// Appearance.mm
+@interface NSView (TNAppearance)
+/// The system's, light or dark, in every view.
+- (NSAppearance *)effectiveAppearance;
+@end
+
+// WindowTabs.mm
+@interface NSWindow (TNTabs)
+/// Without effect: no window has tabs.
+- (void)setTabbingMode:(NSWindowTabbingMode)mode;
 @end
 
 // Accessibility.mm

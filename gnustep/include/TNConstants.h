@@ -18,6 +18,17 @@ static const NSUInteger NSEventModifierFlagShift = NSShiftKeyMask;
 static const NSUInteger NSEventModifierFlagOption = NSAlternateKeyMask;
 static const NSUInteger NSEventModifierFlagCommand = NSCommandKeyMask;
 
+/// Not for a screen of its own: no window here ever is.
+static const NSWindowCollectionBehavior NSWindowCollectionBehaviorFullScreenNone = 1 << 9;
+
+/// See WindowTabs.mm.
+typedef NSInteger NSWindowTabbingMode;
+static const NSWindowTabbingMode NSWindowTabbingModeDisallowed = 2;
+
+/// See TNTableView+Drawing.mm.
+typedef NSInteger NSTableViewStyle;
+static const NSTableViewStyle NSTableViewStylePlain = 4;
+
 static const NSCompositingOperation NSCompositingOperationClear = NSCompositeClear;
 static const NSCompositingOperation NSCompositingOperationSourceOver = NSCompositeSourceOver;
 

@@ -4,6 +4,8 @@
 
 #import <AppKit/AppKit.h>
 
+#import "TNConstants.h"
+
 #include <map>
 #include <vector>
 
@@ -41,6 +43,11 @@
 /// The field being edited in this table; nil when there is none.
 - (NSTextField *)editedField;
 - (NSView *)cellAtColumn:(NSInteger)column row:(NSInteger)row;
+@end
+
+@interface TNTableView (Drawing)
+/// Without effect: rows are always plain, without room at their sides.
+- (void)setStyle:(NSTableViewStyle)style;
 @end
 
 @interface TNTableView (Dragging)

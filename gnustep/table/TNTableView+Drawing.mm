@@ -7,6 +7,9 @@
 
 @implementation TNTableView (Drawing)
 
+- (void)setStyle:(NSTableViewStyle)style {
+}
+
 - (void)setGridStyleMask:(NSTableViewGridLineStyle)mask {
     [super setGridStyleMask:mask];
     [self setDrawsGrid:mask != NSTableViewGridNone];

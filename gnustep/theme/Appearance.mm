@@ -38,6 +38,17 @@ void redisplay(NSView *view) {
 
 } // namespace
 
+@implementation NSView (TNAppearance)
+
+- (NSAppearance *)effectiveAppearance {
+    // Made without a reference to give away: they stay.
+    static NSAppearance *const light = [NSAppearance appearanceNamed:NSAppearanceNameAqua];
+    static NSAppearance *const dark = [NSAppearance appearanceNamed:NSAppearanceNameDarkAqua];
+    return chosenAppearance() == TNThemeAppearance::dark ? dark : light;
+}
+
+@end
+
 @interface TNApplication (TNAppearance)
 @end
 

@@ -77,7 +77,7 @@ NSBezierPath *TNThemeHairline(NSRect rect, CGFloat radius) {
 }
 
 - (GSThemeMargins)buttonMarginsForCell:(NSCell *)cell style:(int)style state:(GSThemeControlState)state {
-    return {.left = 8, .right = 8, .top = 3, .bottom = 3};
+    return {.left = 10, .right = 10, .top = 3, .bottom = 3};
 }
 
 /// The default button is filled instead of bearing an arrow.

@@ -92,6 +92,7 @@ NSColorList *TNThemeMakeColorList() {
         {@"selectedMenuItemTextColor", colors.accentText},
         {@"selectedTextBackgroundColor", colors.selectedRow},
         {@"selectedTextColor", colors.text},
+        {@"secondaryLabelColor", colors.secondaryText},
         {@"shadowColor", colors.border},
         {@"textBackgroundColor", colors.surface},
         {@"textColor", colors.text},

@@ -1,5 +1,5 @@
-// Missing: `viewDidLoad` of NSViewController, as of GNUstep GUI 0.29. Sent when a controller gets its first
-// view, from an interface file or by `setView:`.
+// Missing: `viewDidLoad` of NSViewController, as of GNUstep GUI 0.29. Sent when a controller that was asked
+// for its view has loaded it, from an interface file or in `loadView`; not for a view that it was just given.
 
 #import "TNAdditions.h"
 
@@ -7,21 +7,17 @@
 
 namespace {
 
-using SetView = void (*)(id self, SEL command, NSView *view);
-SetView nativeSetView = nullptr;
+using View = NSView *(*)(id self, SEL command);
+View nativeView = nullptr;
 
-bool hasView(id controller) {
-    // Asking for the view would load it.
+NSView *view(id self, SEL command) {
     Ivar variable = class_getInstanceVariable([NSViewController class], "view");
-    return object_getIvar(controller, variable) != nil;
-}
-
-void setView(id self, SEL command, NSView *view) {
-    const bool isFirst = view && !hasView(self);
-    nativeSetView(self, command, view);
-    if (isFirst) {
+    const bool isToLoad = object_getIvar(self, variable) == nil;
+    NSView *loaded = nativeView(self, command);
+    if (isToLoad && loaded) {
         [self viewDidLoad];
     }
+    return loaded;
 }
 
 } // namespace
@@ -29,7 +25,7 @@ void setView(id self, SEL command, NSView *view) {
 @implementation NSViewController (TNViewDidLoad)
 
 + (void)load {
-    nativeSetView = TNReplaceMethod(self, @selector(setView:), setView);
+    nativeView = TNReplaceMethod(self, @selector(view), view);
 }
 
 - (void)viewDidLoad {

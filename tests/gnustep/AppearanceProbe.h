@@ -8,6 +8,8 @@ namespace tarnwick::probe {
 /// The share of the pixels that differ from the background, 0 to 1, in a tab view of the kind that has
 /// neither tabs nor border.
 double inkOfBareTabView();
+/// What is seen, 0 to 1, where a tab view stands in front of something black.
+double brightnessOfTabView(bool toldToDrawNone);
 /// How dark a ticked check box without title is, 0 to 1.
 double darknessOfCheckBox(bool enabled);
 enum class CheckBox { off, on, mixed, onAfterMixed };

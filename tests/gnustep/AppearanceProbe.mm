@@ -3,6 +3,7 @@
 #include "Probe.h"
 
 #import <AppKit/AppKit.h>
+#import <QuartzCore/QuartzCore.h>
 
 #include <algorithm>
 #include <cmath>
@@ -14,11 +15,15 @@ namespace {
 constexpr double side = 40;
 
 /// A window with just this view, which is displayed, and the view's pixels.
-NSBitmapImageRep *pixelsOf(NSView *view) {
+NSBitmapImageRep *pixelsOf(NSView *view, NSColor *behind = nil) {
     NSWindow *window = [[NSWindow alloc] initWithContentRect:NSMakeRect(50, 50, 200, 100)
                                                    styleMask:NSWindowStyleMaskBorderless
                                                      backing:NSBackingStoreBuffered
                                                        defer:NO];
+    if (behind) {
+        [[window contentView] setWantsLayer:YES];
+        [[[window contentView] layer] setBackgroundColor:[behind CGColor]];
+    }
     [[window contentView] addSubview:view];
     [window orderFront:nil];
     [window display];
@@ -64,6 +69,18 @@ NSButton *makeCheckBox(CheckBox state) {
 }
 
 } // namespace
+
+double brightnessOfTabView(bool toldToDrawNone) {
+    @autoreleasepool {
+        startUp();
+        NSTabView *tabs = [[[NSTabView alloc] initWithFrame:NSMakeRect(10, 10, 150, 80)] autorelease];
+        [tabs setTabViewType:NSNoTabsNoBorder];
+        if (toldToDrawNone) {
+            [tabs setDrawsBackground:NO];
+        }
+        return brightness(colorAt(pixelsOf(tabs, [NSColor blackColor]), 75, 40));
+    }
+}
 
 double inkOfBareTabView() {
     @autoreleasepool {

@@ -4,8 +4,13 @@
 
 using namespace tarnwick::probe;
 
-TEST(Appearance, ATabViewWithoutTabsAndBorderDrawsNothing) {
+TEST(Appearance, ATabViewWithoutTabsAndBorderDrawsNeither) {
     EXPECT_EQ(inkOfBareTabView(), 0);
+}
+
+TEST(Appearance, ATabViewHidesWhatIsBehindItUntilItIsToldNotTo) {
+    EXPECT_GT(brightnessOfTabView(false), 0.9);
+    EXPECT_EQ(brightnessOfTabView(true), 0);
 }
 
 TEST(Appearance, ADisabledCheckBoxIsPaler) {

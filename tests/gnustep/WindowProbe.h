@@ -14,6 +14,7 @@ struct WindowResult {
     std::string panelFolder;
     bool panelBeganAtOnce = false;
     int viewDidLoadCalls = 0;
+    int viewDidLoadCallsForAGivenView = -1;
     std::string identifier;
     /// The brightness of a pixel in the middle of the layered view and in its corner, 0 to 1.
     double layerMiddle = -1;

@@ -42,6 +42,10 @@ BOOL pressButton(NSView *view, NSString *title) {
 
 @implementation TNCountingController
 
+- (void)loadView {
+    [self setView:[[[NSView alloc] initWithFrame:NSMakeRect(0, 0, 400, 200)] autorelease]];
+}
+
 - (void)viewDidLoad {
     [super viewDidLoad];
     ++calls;
@@ -88,16 +92,17 @@ BOOL pressButton(NSView *view, NSString *title) {
     [[layered layer] setCornerRadius:20];
     field = [[NSTextField alloc] initWithFrame:NSMakeRect(150, 60, 100, 24)];
     [field setIdentifier:@"name"];
-    NSView *content = [[[NSView alloc] initWithFrame:NSMakeRect(0, 0, 400, 200)] autorelease];
+    controller = [[TNCountingController alloc] initWithNibName:nil bundle:nil];
+    NSView *content = [controller view];
     [content setWantsLayer:YES];
     [[content layer] setBackgroundColor:[[NSColor whiteColor] CGColor]];
     for (NSView *view in [NSArray arrayWithObjects:button, standard, layered, field, nil]) {
         [content addSubview:view];
     }
     [window setContentView:content];
-    controller = [[TNCountingController alloc] initWithNibName:nil bundle:nil];
-    [controller setView:content];
-    [controller setView:content];
+    TNCountingController *other = [[[TNCountingController alloc] initWithNibName:nil bundle:nil] autorelease];
+    [other setView:[[[NSView alloc] initWithFrame:NSZeroRect] autorelease]];
+    result.viewDidLoadCallsForAGivenView = other->calls;
 }
 
 - (void)applicationDidFinishLaunching:(NSNotification *)notification {

@@ -12,6 +12,7 @@ TEST(Window, HandlesClicksPanelsLayersAndReturnAsOnMacOS) {
     EXPECT_EQ(result.panelAnswer, 1);
     EXPECT_EQ(result.panelFolder, "/usr");
     EXPECT_EQ(result.viewDidLoadCalls, 1);
+    EXPECT_EQ(result.viewDidLoadCallsForAGivenView, 0);
     EXPECT_EQ(result.identifier, "name");
     EXPECT_NEAR(result.layerMiddle, 0, 0.01);
     EXPECT_NEAR(result.layerCorner, 1, 0.01);

@@ -1,4 +1,5 @@
 #include "tests/gui/Driver.h"
+#include "tests/gui/Input.h"
 #include "tests/gui/Look.h"
 
 #include <gtest/gtest.h>
@@ -38,6 +39,31 @@ TEST(Appearance, TheOpenWindowFollowsTheSystemToDarkAndBack) {
     EXPECT_TRUE(waitUntil([] { return brightnessOfPage() == 1; }));
     EXPECT_TRUE(waitUntil([] { return brightnessOfSidebar() > 0.9; }));
     EXPECT_EQ(brightnessOfEmptyCheckBox(), lightCheckBox);
+}
+
+TEST(Appearance, TheColourOfTheWindowIsSeenOnEveryPageAndInTheSidebar) {
+    constexpr Colour green{0, 1, 0, 1};
+    constexpr double shade = 0.06;
+    for (const auto page : allPages) {
+        clickPageButton(page);
+        colourTheWindow(green);
+        settle();
+        EXPECT_EQ(colourOfPage(), green) << static_cast<int>(page);
+        const auto sidebar = colourOfSidebar();
+        EXPECT_LT(sidebar.red, shade);
+        EXPECT_GT(sidebar.green, 1 - shade);
+        EXPECT_LT(sidebar.blue, shade);
+    }
+    announceAppearance();
+    EXPECT_TRUE(waitUntil([] { return brightnessOfPage() == 1; }));
+}
+
+TEST(Appearance, ColoursBehindViewsAreThoseOfTheViewsAppearance) {
+    EXPECT_EQ(appearanceForLayers(), "NSAppearanceNameAqua");
+    turnDark();
+    EXPECT_TRUE(waitUntil([] { return appearanceForLayers() == "NSAppearanceNameDarkAqua"; }));
+    turnLight();
+    EXPECT_TRUE(waitUntil([] { return appearanceForLayers() == "NSAppearanceNameAqua"; }));
 }
 
 } // namespace

@@ -2,11 +2,31 @@
 
 #include "tests/gui/SettingsWindow.h"
 
+#import "adapters/foundation/StringConversion.h"
+#import "front/Colors.h"
+#import "front/LayerWindow.h"
+
 #include "ui/WindowLayout.h"
 
 #import <AppKit/AppKit.h>
 
 #include <algorithm>
+
+/// Remembers the appearance that was being drawn with when it was asked for its value.
+@interface AskedColor : NSColor {
+@public
+    NSAppearance *asked;
+}
+@end
+
+@implementation AskedColor
+
+- (CGColorRef)CGColor {
+    asked = [NSAppearance currentAppearance];
+    return [[NSColor whiteColor] CGColor];
+}
+
+@end
 
 namespace tarnwick::gui {
 namespace {
@@ -33,12 +53,29 @@ Brightness brightness(NSBitmapImageRep *pixels) {
 }
 
 /// What is on the screen, without drawing it again.
-Brightness brightnessIn(NSRect rect) {
+NSBitmapImageRep *pixelsIn(NSRect rect) {
     NSView *content = [settingsWindow() contentView];
     [content lockFocus];
     NSBitmapImageRep *pixels = [[[NSBitmapImageRep alloc] initWithFocusedViewRect:rect] autorelease];
     [content unlockFocus];
-    return brightness(pixels);
+    return pixels;
+}
+
+Brightness brightnessIn(NSRect rect) {
+    return brightness(pixelsIn(rect));
+}
+
+Colour colourIn(NSRect rect) {
+    NSColor *color = [[pixelsIn(rect) colorAtX:1 y:1] colorUsingColorSpaceName:NSDeviceRGBColorSpace];
+    return {[color redComponent], [color greenComponent], [color blueComponent], [color alphaComponent]};
+}
+
+NSRect cornerOfPage() {
+    return NSMakeRect(NSWidth([[settingsWindow() contentView] bounds]) - 8, 4, 4, 4);
+}
+
+NSRect cornerOfSidebar() {
+    return NSMakeRect(4, 4, 4, 4);
 }
 
 } // namespace
@@ -55,14 +92,44 @@ void announceAppearance() {
 
 double brightnessOfPage() {
     @autoreleasepool {
-        return brightnessIn(NSMakeRect(NSWidth([[settingsWindow() contentView] bounds]) - 8, 4, 4, 4))
-            .average;
+        return brightnessIn(cornerOfPage()).average;
     }
 }
 
 double brightnessOfSidebar() {
     @autoreleasepool {
-        return brightnessIn(NSMakeRect(4, 4, 4, 4)).average;
+        return brightnessIn(cornerOfSidebar()).average;
+    }
+}
+
+void colourTheWindow(const Colour &colour) {
+    @autoreleasepool {
+        LayerWindow(settingsWindow()).setBackground(colour);
+    }
+}
+
+Colour colourOfPage() {
+    @autoreleasepool {
+        return colourIn(cornerOfPage());
+    }
+}
+
+Colour colourOfSidebar() {
+    @autoreleasepool {
+        return colourIn(cornerOfSidebar());
+    }
+}
+
+std::string appearanceForLayers() {
+    @autoreleasepool {
+        NSView *view = [[[NSView alloc] initWithFrame:NSZeroRect] autorelease];
+        AskedColor *color = [[[AskedColor alloc] init] autorelease];
+        NSAppearance *other = [NSAppearance appearanceNamed:@"Another"];
+        [NSAppearance setCurrentAppearance:other];
+        setLayerBackground(view, color);
+        const bool isBack = [NSAppearance currentAppearance] == other;
+        [NSAppearance setCurrentAppearance:nil];
+        return isBack ? toString([color->asked name]) : "not that of the drawing any more";
     }
 }
 

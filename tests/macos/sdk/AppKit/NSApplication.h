@@ -14,6 +14,7 @@ extern "C" NSString *const NSApplicationWillTerminateNotification;
 - (void)applicationDidFinishLaunching:(NSNotification *)notification;
 - (void)applicationWillTerminate:(NSNotification *)notification;
 - (BOOL)applicationShouldTerminateAfterLastWindowClosed:(NSApplication *)sender;
+- (BOOL)applicationSupportsSecureRestorableState:(NSApplication *)application TN_SINCE(12.0);
 - (BOOL)application:(NSApplication *)sender openFile:(NSString *)filename;
 @end
 

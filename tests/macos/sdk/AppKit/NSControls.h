@@ -19,7 +19,10 @@ typedef TN_ENUM(NSUInteger, NSCellImagePosition){NSImageLeft = 2};
 typedef TN_ENUM(NSUInteger, NSButtonType){NSButtonTypeSwitch = 3};
 typedef TN_ENUM(NSUInteger, NSBezelStyle){NSBezelStyleRounded = 1};
 
+typedef TN_ENUM(NSInteger, NSBackgroundStyle){NSBackgroundStyleLight = 0};
+
 @interface NSCell : NSObject <NSCopying>
+@property NSBackgroundStyle backgroundStyle;
 @property (copy) NSString *stringValue;
 @property NSTextAlignment alignment;
 @property NSLineBreakMode lineBreakMode;

@@ -18,7 +18,7 @@ typedef TN_ENUM(NSInteger, NSTextAlignment) {
 typedef TN_ENUM(NSUInteger, NSLineBreakMode){NSLineBreakByWordWrapping = 0, NSLineBreakByTruncatingTail = 4};
 
 extern "C" {
-void NSRectFill(NSRect rect);
+void NSRectFillUsingOperation(NSRect rect, NSCompositingOperation operation);
 extern NSString *const NSFontAttributeName;
 extern NSString *const NSForegroundColorAttributeName;
 extern NSString *const NSParagraphStyleAttributeName;
@@ -26,13 +26,17 @@ extern NSString *const NSParagraphStyleAttributeName;
 
 @interface NSColor : NSObject <NSCopying>
 @property (class, readonly, strong) NSColor *controlTextColor;
-@property (class, readonly, strong) NSColor *disabledControlTextColor;
 @property (class, readonly, strong) NSColor *keyboardFocusIndicatorColor;
+@property (class, readonly, strong) NSColor *secondaryLabelColor;
 @property (class, readonly, strong) NSColor *textBackgroundColor;
-@property (class, readonly, strong) NSColor *windowBackgroundColor;
 @property (readonly) CGColorRef CGColor;
 + (NSColor *)colorWithDeviceRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha;
+- (NSColor *)colorWithAlphaComponent:(CGFloat)alpha;
 - (void)set;
+@end
+
+@interface NSAppearance : NSObject
+@property (class, nullable, strong) NSAppearance *currentAppearance;
 @end
 
 @interface NSBezierPath : NSObject
@@ -69,10 +73,6 @@ extern NSString *const NSParagraphStyleAttributeName;
           fromRect:(NSRect)from
          operation:(NSCompositingOperation)operation
           fraction:(CGFloat)fraction;
-@end
-
-@interface NSString (NSStringDrawing)
-- (NSSize)sizeWithAttributes:(nullable NSDictionary<NSString *, id> *)attributes;
 @end
 
 #pragma clang assume_nonnull end

@@ -27,6 +27,7 @@
 @interface NSViewController : NSResponder
 @property (strong) NSView *view;
 - (nullable instancetype)initWithNibName:(nullable NSString *)name bundle:(nullable NSBundle *)bundle;
+- (void)loadView;
 - (void)viewDidLoad TN_SINCE(10.10);
 @end
 

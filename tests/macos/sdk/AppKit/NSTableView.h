@@ -12,6 +12,8 @@ typedef TN_ENUM(NSUInteger, NSTableViewColumnAutoresizingStyle){
 typedef TN_OPTIONS(NSUInteger, NSTableColumnResizingOptions){
     NSTableColumnNoResizing = 0, NSTableColumnAutoresizingMask = 1, NSTableColumnUserResizingMask = 2};
 
+typedef TN_ENUM(NSInteger, NSTableViewStyle){NSTableViewStylePlain = 4};
+
 @interface NSTableHeaderCell : NSCell
 @end
 
@@ -59,6 +61,7 @@ typedef TN_OPTIONS(NSUInteger, NSTableColumnResizingOptions){
 @property (readonly) NSInteger clickedRow;
 @property (readonly) NSInteger clickedColumn;
 @property CGFloat rowHeight;
+@property NSTableViewStyle style TN_SINCE(11.0);
 @property NSSize intercellSpacing;
 @property BOOL allowsMultipleSelection;
 @property BOOL allowsEmptySelection;

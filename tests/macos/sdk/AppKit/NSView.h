@@ -30,6 +30,8 @@ typedef TN_OPTIONS(NSUInteger, NSAutoresizingMaskOptions){
 @property (getter=isHidden) BOOL hidden;
 @property BOOL wantsLayer;
 @property (nullable, strong) CALayer *layer;
+@property (readonly, strong) NSAppearance *effectiveAppearance;
+@property (readonly) BOOL mouseDownCanMoveWindow;
 @property (nullable, copy) NSString *toolTip;
 @property (readonly) NSInteger tag;
 @property (nullable, assign) NSView *nextKeyView;
@@ -56,6 +58,7 @@ typedef TN_ENUM(NSUInteger, NSTabViewType){NSNoTabsNoBorder = 6};
 
 @interface NSTabView : NSView
 @property NSTabViewType tabViewType;
+@property BOOL drawsBackground;
 @property (nullable, readonly, strong) NSTabViewItem *selectedTabViewItem;
 - (void)addTabViewItem:(NSTabViewItem *)item;
 - (void)selectTabViewItem:(nullable NSTabViewItem *)item;

@@ -10,6 +10,8 @@ typedef TN_OPTIONS(NSUInteger, NSWindowStyleMask){
     NSWindowStyleMaskMiniaturizable = 4,
     NSWindowStyleMaskResizable = 8,
 };
+typedef TN_OPTIONS(NSUInteger, NSWindowCollectionBehavior){NSWindowCollectionBehaviorFullScreenNone = 1 << 9};
+typedef TN_ENUM(NSInteger, NSWindowTabbingMode){NSWindowTabbingModeDisallowed = 2};
 typedef TN_ENUM(NSUInteger, NSBackingStoreType){NSBackingStoreBuffered = 2};
 extern "C" NSString *const NSWindowDidUpdateNotification;
 extern "C" NSString *const NSWindowWillCloseNotification;
@@ -25,6 +27,9 @@ extern "C" NSString *const NSWindowWillCloseNotification;
 @property (copy) NSString *title;
 @property (nullable, strong) __kindof NSView *contentView;
 @property NSSize contentMinSize;
+@property NSWindowCollectionBehavior collectionBehavior;
+@property NSWindowTabbingMode tabbingMode TN_SINCE(10.12);
+@property BOOL autorecalculatesKeyViewLoop;
 @property (getter=isReleasedWhenClosed) BOOL releasedWhenClosed;
 @property (getter=isMovableByWindowBackground) BOOL movableByWindowBackground;
 @property (nullable, readonly, assign) NSResponder *firstResponder;

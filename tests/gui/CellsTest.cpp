@@ -1,0 +1,31 @@
+#include "tests/gui/Cells.h"
+#include "tests/gui/Input.h"
+
+#include <gtest/gtest.h>
+
+namespace tarnwick::gui {
+namespace {
+
+constexpr auto list = RuleCategory::createNewFile;
+
+TEST(Cells, ATextTakesTheBackgroundStyleOfItsRow) {
+    clickPageButton(Page::createNewFile);
+    EXPECT_EQ(backgroundStylesOfText(list, 0, "NewFileDisplayName"), "10");
+    EXPECT_EQ(backgroundStylesOfText(list, 0, "Extension"), "10");
+}
+
+TEST(Cells, ADragInARowDoesNotMoveTheWindow) {
+    clickPageButton(Page::createNewFile);
+    for (const auto* column : {"NewFileDisplayName", "Extension", "NewFileIcon"}) {
+        EXPECT_FALSE(cellMovesWindow(list, 0, column)) << column;
+    }
+}
+
+TEST(Cells, OnlyATextThatCanBeEditedCanBeSelected) {
+    clickPageButton(Page::createNewFile);
+    EXPECT_TRUE(cellTextIsSelectable(list, 0, "NewFileDisplayName"));
+    EXPECT_FALSE(cellTextIsSelectable(list, 0, "Extension"));
+}
+
+} // namespace
+} // namespace tarnwick::gui
