@@ -3,7 +3,7 @@
 #import <AppKit/AppKit.h>
 
 /// Holds a cell's one control. When the table gives the cell its place, a text field is made to end where the
-/// column ends, so that a long text is truncated instead of cut off. In a selected row it tells the field
-/// what it stands on.
+/// column ends, so that a long text is truncated instead of cut off. In a selected row it tells the
+/// control what that stands on.
 @interface CellContainerView : NSView
 @end

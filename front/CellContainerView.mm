@@ -1,7 +1,5 @@
 #import "front/CellContainerView.h"
 
-#import "front/CellControls.h"
-
 #include <algorithm>
 
 @implementation CellContainerView
@@ -19,8 +17,8 @@
 /// Sent by the row, to views that have the method alone.
 - (void)setBackgroundStyle:(NSBackgroundStyle)style {
     for (NSView *view in [self subviews]) {
-        if ([view isKindOfClass:[CellTextField class]]) {
-            [static_cast<CellTextField *>(view) setBackgroundStyle:style];
+        if ([view isKindOfClass:[NSControl class]]) {
+            [[static_cast<NSControl *>(view) cell] setBackgroundStyle:style];
         }
     }
 }

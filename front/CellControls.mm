@@ -2,11 +2,6 @@
 
 @implementation CellTextField
 
-/// Sent by the row when this is the cell itself, else by the container.
-- (void)setBackgroundStyle:(NSBackgroundStyle)style {
-    [[self cell] setBackgroundStyle:style];
-}
-
 - (BOOL)mouseDownCanMoveWindow {
     return NO;
 }

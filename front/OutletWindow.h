@@ -34,6 +34,7 @@ public:
 
 private:
     [[nodiscard]] NSTableView *table(RuleCategory category) const;
+    [[nodiscard]] NSTableView *editedTable() const;
 
     SettingsViewController *controller_;
 };

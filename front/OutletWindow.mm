@@ -24,21 +24,35 @@ NSTableView *OutletWindow::table(RuleCategory category) const {
     return [controller_ tableOf:category];
 }
 
-/// The keyboard goes back to the table.
-void OutletWindow::endEditing() {
-    NSWindow *window = [[controller_ tabView] window];
-    id editor = [window firstResponder];
+/// The one in which a field is being edited; nil when there is none.
+NSTableView *OutletWindow::editedTable() const {
+    id editor = [[[controller_ tabView] window] firstResponder];
     if (![editor isKindOfClass:[NSText class]] || ![editor isFieldEditor] ||
         ![[editor delegate] isKindOfClass:[NSTextField class]]) {
-        return;
+        return nil;
     }
-    if (NSTableView *edited = tableAround(static_cast<NSTextField *>([editor delegate]))) {
-        [window makeFirstResponder:edited];
+    return tableAround(static_cast<NSTextField *>([editor delegate]));
+}
+
+/// The keyboard goes back to the table.
+void OutletWindow::endEditing() {
+    if (NSTableView *edited = editedTable()) {
+        [[edited window] makeFirstResponder:edited];
     }
 }
 
+/// An edit that is just ending changes the list before its field is done; the field stays until then.
 void OutletWindow::reload(RuleCategory category) {
-    [table(category) reloadData];
+    NSTableView *reloaded = table(category);
+    if (!reloaded || reloaded != editedTable()) {
+        [reloaded reloadData];
+        return;
+    }
+    [reloaded performSelector:@selector(reloadData)
+                   withObject:nil
+                   afterDelay:0
+                      inModes:[NSArray arrayWithObjects:NSDefaultRunLoopMode, NSModalPanelRunLoopMode,
+                                       NSEventTrackingRunLoopMode, nil]];
 }
 
 long OutletWindow::selectedRow(RuleCategory category) const {

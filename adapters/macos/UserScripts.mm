@@ -31,10 +31,13 @@ public:
     explicit AppleScriptTask(ObjectPointer<NSUserAppleScriptTask> task) : task_(std::move(task)) {}
 
     void execute(const HandlerCallEvent &event) override {
-        [task_.get() executeWithAppleEvent:appleEvent(event)
-                         completionHandler:^(NSAppleEventDescriptor *, NSError *){
-                             // What the script gives or fails with is nobody's business.
-                         }];
+        NSUserAppleScriptTask *task = task_.get();
+        [task executeWithAppleEvent:appleEvent(event)
+                  completionHandler:^(NSAppleEventDescriptor *, NSError *) {
+                      // What the script gives or fails with is nobody's business; but the task, of which
+                      // nobody says who keeps it meanwhile, is to be there until then.
+                      (void)task;
+                  }];
     }
 
     [[nodiscard]] id object() const { return [[task_.get() retain] autorelease]; }

@@ -28,10 +28,14 @@ dispatch_queue_t dispatch_get_global_queue(long identifier, unsigned long flags)
 
 void dispatch_async(dispatch_queue_t queue, dispatch_block_t block) {
     record(@"dispatch_async(%s)", queue->name);
-    waiting().push_back(Block_copy(block));
+    runLater(block);
 }
 
 namespace tarnwick::standins {
+
+void runLater(dispatch_block_t work) {
+    waiting().push_back(Block_copy(work));
+}
 
 void drainQueues() {
     for (dispatch_block_t block : std::exchange(waiting(), {})) {

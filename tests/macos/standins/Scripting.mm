@@ -101,6 +101,11 @@ NSString *textOf(DescType code) {
     return self;
 }
 
+- (void)dealloc {
+    record(@"task freed");
+    [super dealloc];
+}
+
 @end
 
 @implementation NSUserAppleScriptTask
@@ -109,8 +114,10 @@ NSString *textOf(DescType code) {
             completionHandler:(NSUserAppleScriptTaskCompletionHandler)handler {
     record(@"executeWithAppleEvent(%@)", [event description]);
     if (handler) {
-        record(@"completion with an error");
-        handler(nil, [NSError errorWithDomain:@"script" code:1 userInfo:nil]);
+        runLater(^{
+            record(@"completion with an error");
+            handler(nil, [NSError errorWithDomain:@"script" code:1 userInfo:nil]);
+        });
     }
 }
 

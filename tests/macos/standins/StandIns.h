@@ -75,5 +75,7 @@ typedef struct {
 
 namespace tarnwick::standins {
 void record(NSString *format, ...) __attribute__((format(__NSString__, 1, 2)));
+/// The system's own work, for drainQueues() to run.
+void runLater(dispatch_block_t work);
 } // namespace tarnwick::standins
 #endif

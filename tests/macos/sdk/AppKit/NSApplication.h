@@ -7,6 +7,8 @@
 @class NSMenu;
 
 extern "C" NSString *const NSApplicationWillTerminateNotification;
+extern "C" NSString *const NSEventTrackingRunLoopMode;
+extern "C" NSString *const NSModalPanelRunLoopMode;
 
 @protocol NSApplicationDelegate <NSObject>
 @optional

@@ -36,7 +36,12 @@ __attribute__((objc_root_class))
 
 @interface NSObject (NSDelayedPerforming)
 - (void)performSelector:(SEL)selector withObject:(nullable id)argument afterDelay:(NSTimeInterval)delay;
+- (void)performSelector:(SEL)selector
+             withObject:(nullable id)argument
+             afterDelay:(NSTimeInterval)delay
+                inModes:(NSArray *)modes;
 @end
+extern "C" NSString *const NSDefaultRunLoopMode;
 
 @interface NSObject (NSKeyValueObserving)
 - (void)observeValueForKeyPath:(nullable NSString *)keyPath
