@@ -21,6 +21,7 @@
                             object:(nullable id)object
                              queue:(nullable NSOperationQueue *)queue
                         usingBlock:(void (^)(NSNotification *notification))block;
+- (void)postNotificationName:(NSString *)name object:(nullable id)object;
 - (void)removeObserver:(id)observer;
 @end
 
