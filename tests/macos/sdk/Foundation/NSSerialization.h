@@ -8,6 +8,7 @@
 
 typedef TN_OPTIONS(NSUInteger, NSPropertyListMutabilityOptions){NSPropertyListImmutable = 0};
 typedef NSPropertyListMutabilityOptions NSPropertyListReadOptions;
+typedef NSUInteger NSPropertyListWriteOptions;
 typedef TN_ENUM(NSUInteger, NSPropertyListFormat){NSPropertyListXMLFormat_v1_0 = 100};
 
 @interface NSPropertyListSerialization : NSObject
@@ -15,6 +16,10 @@ typedef TN_ENUM(NSUInteger, NSPropertyListFormat){NSPropertyListXMLFormat_v1_0 =
                             options:(NSPropertyListReadOptions)options
                              format:(nullable NSPropertyListFormat *)format
                               error:(NSError *_Nullable *_Nullable)error;
++ (nullable NSData *)dataWithPropertyList:(id)list
+                                   format:(NSPropertyListFormat)format
+                                  options:(NSPropertyListWriteOptions)options
+                                    error:(NSError *_Nullable *_Nullable)error;
 @end
 
 @interface NSKeyedArchiver : NSObject
