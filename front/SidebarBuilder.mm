@@ -14,9 +14,11 @@
 
 - (void)drawRect:(NSRect)rect {
     constexpr CGFloat shade = 0.04;
-    [[[NSColor controlTextColor] colorWithAlphaComponent:shade] set];
+    // As it is just now: the system's own colours do not take another alpha everywhere.
+    NSColor *text = [[NSColor controlTextColor] colorUsingColorSpace:[NSColorSpace deviceRGBColorSpace]];
+    [[text colorWithAlphaComponent:shade] set];
     // What is to be drawn may reach beyond a view that does not clip, as none does from macOS 14 on.
-    NSRectFillUsingOperation([self bounds], NSCompositingOperationSourceOver);
+    [NSBezierPath fillRect:[self bounds]];
 }
 
 @end

@@ -35,8 +35,10 @@ TEST(Appearance, TheOpenWindowFollowsTheSystemToDarkAndBack) {
     EXPECT_TRUE(waitUntil([] { return brightnessOfSidebar() < 0.2; }));
     EXPECT_TRUE(waitUntil([] { return brightestOfPageTitles() > 0.8; }));
     EXPECT_LT(brightnessOfEmptyCheckBox(), 0.6 * lightCheckBox);
+    EXPECT_EQ(appearanceForLayers(), "NSAppearanceNameDarkAqua");
     turnLight();
     EXPECT_TRUE(waitUntil([] { return brightnessOfPage() == 1; }));
+    EXPECT_EQ(appearanceForLayers(), "NSAppearanceNameAqua");
     EXPECT_TRUE(waitUntil([] { return brightnessOfSidebar() > 0.9; }));
     EXPECT_EQ(brightnessOfEmptyCheckBox(), lightCheckBox);
 }
@@ -56,14 +58,6 @@ TEST(Appearance, TheColourOfTheWindowIsSeenOnEveryPageAndInTheSidebar) {
     }
     announceAppearance();
     EXPECT_TRUE(waitUntil([] { return brightnessOfPage() == 1; }));
-}
-
-TEST(Appearance, ColoursBehindViewsAreThoseOfTheViewsAppearance) {
-    EXPECT_EQ(appearanceForLayers(), "NSAppearanceNameAqua");
-    turnDark();
-    EXPECT_TRUE(waitUntil([] { return appearanceForLayers() == "NSAppearanceNameDarkAqua"; }));
-    turnLight();
-    EXPECT_TRUE(waitUntil([] { return appearanceForLayers() == "NSAppearanceNameAqua"; }));
 }
 
 } // namespace

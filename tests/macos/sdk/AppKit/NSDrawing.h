@@ -18,11 +18,14 @@ typedef TN_ENUM(NSInteger, NSTextAlignment) {
 typedef TN_ENUM(NSUInteger, NSLineBreakMode){NSLineBreakByWordWrapping = 0, NSLineBreakByTruncatingTail = 4};
 
 extern "C" {
-void NSRectFillUsingOperation(NSRect rect, NSCompositingOperation operation);
 extern NSString *const NSFontAttributeName;
 extern NSString *const NSForegroundColorAttributeName;
 extern NSString *const NSParagraphStyleAttributeName;
 }
+
+@interface NSColorSpace : NSObject
+@property (class, readonly, strong) NSColorSpace *deviceRGBColorSpace;
+@end
 
 @interface NSColor : NSObject <NSCopying>
 @property (class, readonly, strong) NSColor *controlTextColor;
@@ -31,6 +34,7 @@ extern NSString *const NSParagraphStyleAttributeName;
 @property (class, readonly, strong) NSColor *textBackgroundColor;
 @property (readonly) CGColorRef CGColor;
 + (NSColor *)colorWithDeviceRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha;
+- (nullable NSColor *)colorUsingColorSpace:(NSColorSpace *)space;
 - (NSColor *)colorWithAlphaComponent:(CGFloat)alpha;
 - (void)set;
 @end
@@ -42,6 +46,7 @@ extern NSString *const NSParagraphStyleAttributeName;
 @interface NSBezierPath : NSObject
 @property CGFloat lineWidth;
 + (NSBezierPath *)bezierPathWithRoundedRect:(NSRect)rect xRadius:(CGFloat)xRadius yRadius:(CGFloat)yRadius;
++ (void)fillRect:(NSRect)rect;
 - (void)stroke;
 @end
 
