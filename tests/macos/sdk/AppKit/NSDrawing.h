@@ -80,4 +80,8 @@ extern NSString *const NSParagraphStyleAttributeName;
           fraction:(CGFloat)fraction;
 @end
 
+@interface NSString (NSStringDrawing)
+- (NSSize)sizeWithAttributes:(nullable NSDictionary<NSString *, id> *)attributes;
+@end
+
 #pragma clang assume_nonnull end

@@ -23,6 +23,7 @@ typedef struct {
 - (BOOL)containsObject:(ObjectType)object;
 + (instancetype)array;
 + (instancetype)arrayWithObject:(ObjectType)object;
++ (instancetype)arrayWithObjects:(const ObjectType _Nonnull[_Nonnull])objects count:(NSUInteger)count;
 + (instancetype)arrayWithObjects:(ObjectType)first, ... __attribute__((sentinel(0, 1)));
 - (instancetype)initWithObjects:(const ObjectType _Nonnull[_Nullable])objects count:(NSUInteger)count;
 @end
