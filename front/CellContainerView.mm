@@ -14,7 +14,6 @@
     }
 }
 
-/// Sent by the row, to views that have the method alone.
 - (void)setBackgroundStyle:(NSBackgroundStyle)style {
     for (NSView *view in [self subviews]) {
         if ([view isKindOfClass:[NSControl class]]) {
