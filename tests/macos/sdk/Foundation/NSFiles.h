@@ -37,8 +37,6 @@ NSString *NSTemporaryDirectory(void);
                   appropriateForURL:(nullable NSURL *)url
                              create:(BOOL)create
                               error:(NSError *_Nullable *_Nullable)error;
-- (nullable NSArray<NSString *> *)contentsOfDirectoryAtPath:(NSString *)path
-                                                      error:(NSError *_Nullable *_Nullable)error;
 - (nullable NSURL *)containerURLForSecurityApplicationGroupIdentifier:(NSString *)identifier;
 @end
 

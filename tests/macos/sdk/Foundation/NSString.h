@@ -21,8 +21,6 @@ enum : NSStringEncoding { NSUTF8StringEncoding = 4 };
                               encoding:(NSStringEncoding)encoding;
 + (instancetype)stringWithCharacters:(const unichar *)characters length:(NSUInteger)length;
 + (instancetype)stringWithFormat:(NSString *)format, ... __attribute__((format(__NSString__, 1, 2)));
-@property (readonly) const char *fileSystemRepresentation;
-@property (readonly, copy) NSString *stringByStandardizingPath;
 - (NSString *)stringByAppendingString:(NSString *)other;
 - (NSString *)stringByAppendingPathComponent:(NSString *)other;
 @end
