@@ -53,16 +53,19 @@ std::optional<std::string> HeldFiles::take(const std::string& path) {
     return place;
 }
 
-bool HeldFiles::isPlace(const std::string& path) const {
-    const auto place = path.rfind('/');
-    if (place == std::string::npos) {
+bool HeldFiles::isPlace(std::string_view path) const {
+    const auto start = folders_.temporary().append("/");
+    if (!path.starts_with(start)) {
         return false;
     }
-    const auto folder = path.substr(0, place);
-    const auto start = folders_.temporary() + "/";
-    const auto number = std::string_view(path).substr(place + 1);
-    return folder.starts_with(start) && processOf(std::string_view(folder).substr(start.size())) &&
-           !number.empty() && number.find_first_not_of("0123456789") == std::string_view::npos;
+    path.remove_prefix(start.size());
+    const auto end = path.find('/');
+    if (end == std::string_view::npos) {
+        return false;
+    }
+    const auto number = path.substr(end + 1);
+    return processOf(path.substr(0, end)) && !number.empty() &&
+           number.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
 void HeldFiles::removeAll() {

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace tarnwick {
 
@@ -23,7 +24,7 @@ public:
     /// then it is where it was.
     [[nodiscard]] std::optional<std::string> take(const std::string& path);
     /// Whether this is a place of this process or of an earlier one.
-    [[nodiscard]] bool isPlace(const std::string& path) const;
+    [[nodiscard]] bool isPlace(std::string_view path) const;
 
     /// When the process ends: nothing is left of the folder.
     void removeAll();

@@ -28,8 +28,11 @@ public:
         return {toString([folder path]), ""};
     }
     std::string temporary() const override {
-        const auto path = toString(NSTemporaryDirectory());
-        return path.ends_with('/') ? path.substr(0, path.size() - 1) : path;
+        auto path = toString(NSTemporaryDirectory());
+        if (path.ends_with('/')) {
+            path.pop_back();
+        }
+        return path;
     }
     std::string library() const override {
         NSArray *folders = NSSearchPathForDirectoriesInDomains(NSLibraryDirectory, NSUserDomainMask, YES);
