@@ -10,7 +10,8 @@ namespace {
 constexpr CGFloat lineTolerance = 8;
 
 bool takesKeys(NSView *view) {
-    return [view isKindOfClass:[NSButton class]] || [view isKindOfClass:[NSTableView class]];
+    return [view isKindOfClass:[NSButton class]] || [view isKindOfClass:[NSTableView class]] ||
+           ([view isKindOfClass:[NSTextField class]] && [static_cast<NSTextField *>(view) isEditable]);
 }
 
 /// Everything below the view that takes keys; what is hidden does not, nor what stands in a table's cells.

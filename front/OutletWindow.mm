@@ -3,7 +3,7 @@
 #import "adapters/foundation/StringConversion.h"
 #import "front/Colors.h"
 #import "front/KeyViewLoop.h"
-#import "front/SettingsViewController.h"
+#import "front/SettingsViewController+Finding.h"
 
 #include "ui/WindowLayout.h"
 
@@ -89,7 +89,9 @@ void OutletWindow::showPage(Page page) {
     if (!tabView) {
         return;
     }
+    [controller_ takeFindBarAway];
     [tabView selectTabViewItem:[tabView tabViewItemAtIndex:static_cast<NSInteger>(page)]];
+    [controller_ placeFindBar];
     linkKeyViews(tabView);
     const auto category = layoutOf(page).category;
     [[tabView window] makeFirstResponder:category ? table(*category) : nil];

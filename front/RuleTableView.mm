@@ -1,8 +1,12 @@
 #import "front/RuleTableView.h"
 
+#import "front/SettingsViewController+Finding.h"
+
 NSString *const RuleTableViewDidReloadNotification = @"RuleTableViewDidReload";
 
 namespace {
+
+constexpr unichar escape = 0x1B;
 
 /// The first control of the wanted class in a cell, the cell itself included; nil when there is none.
 NSControl *controlIn(NSView *cell, Class wanted) {
@@ -20,6 +24,16 @@ NSControl *controlIn(NSView *cell, Class wanted) {
 /// A table has the steps of a drag in which it decides; which of the others it has is said nowhere.
 bool tablesHave(SEL step) {
     return [NSTableView instancesRespondToSelector:step];
+}
+
+/// Whether the key was typed, and not pressed to have something done.
+bool isTyped(NSEvent *event) {
+    constexpr NSUInteger commands = NSEventModifierFlagCommand | NSEventModifierFlagControl;
+    NSString *characters = [event characters];
+    const unichar first = [characters length] > 0 ? [characters characterAtIndex:0] : 0;
+    const bool isFunctionKey = first >= 0xF700 && first <= 0xF8FF;
+    return ([event modifierFlags] & commands) == 0 && first >= ' ' && first != NSDeleteCharacter &&
+           !isFunctionKey;
 }
 
 } // namespace
@@ -144,6 +158,10 @@ bool tablesHave(SEL step) {
 }
 
 - (void)keyDown:(NSEvent *)event {
+    if (isTyped(event) && [static_cast<SettingsViewController *>([self target]) table:self
+                                                                        takesTypedKey:event]) {
+        return;
+    }
     NSString *characters = [event charactersIgnoringModifiers];
     const unichar key = [characters length] == 1 ? [characters characterAtIndex:0] : 0;
     switch (key) {
@@ -160,6 +178,9 @@ bool tablesHave(SEL step) {
         return;
     case ' ':
         [self toggleSelectedSwitch];
+        return;
+    case escape:
+        [NSApp sendAction:@selector(closeFindBar:) to:[self target] from:self];
         return;
     default:
         [super keyDown:event];

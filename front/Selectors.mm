@@ -1,6 +1,7 @@
 #import "front/Selectors.h"
 
 #import "front/SettingsViewController+Actions.h"
+#import "front/SettingsViewController+Finding.h"
 
 /// Actions that the responder chain answers without any header saying so.
 @protocol UndoActions
@@ -141,6 +142,18 @@ CommandAction actionOf(Command command) {
     case Command::selectAll:
         return {
             @selector(selectAll:), anyones
+        };
+    case Command::find:
+        return {
+            @selector(showFindBar:), controllers
+        };
+    case Command::findNext:
+        return {
+            @selector(findNextRule:), controllers
+        };
+    case Command::findPrevious:
+        return {
+            @selector(findPreviousRule:), controllers
         };
     case Command::moveUp:
         return {

@@ -129,6 +129,9 @@
 /// What the menus need beyond the actions of the window.
 @interface SettingsViewController (Menus)
 
+/// The category of the page that is shown; nothing on the page of further apps.
+- (std::optional<tarnwick::RuleCategory>)shownCategory;
+
 /// Presses the add button of the page that is shown; the page of further apps has none.
 - (void)addRuleOfCurrentPage:(id)sender;
 - (void)exportSettings:(id)sender;

@@ -1,6 +1,7 @@
 #import "front/SettingsViewController+Actions.h"
 
 #import "front/Selectors.h"
+#import "front/SettingsViewController+Finding.h"
 
 #include "ui/WindowLayout.h"
 
@@ -8,7 +9,6 @@ using tarnwick::MoveDirection;
 
 @implementation SettingsViewController (Menus)
 
-/// The category of the page that is shown; nothing on the page of further apps.
 - (std::optional<tarnwick::RuleCategory>)shownCategory {
     const NSInteger shown = [_tabView indexOfTabViewItem:[_tabView selectedTabViewItem]];
     for (const auto page : tarnwick::allPages) {
@@ -65,6 +65,12 @@ using tarnwick::MoveDirection;
     }
     if (sel_isEqual(action, @selector(moveSelectedRuleDown:))) {
         return [self canMoveSelectedRule:MoveDirection::down];
+    }
+    if (sel_isEqual(action, @selector(showFindBar:))) {
+        return [self canShowFindBar];
+    }
+    if (sel_isEqual(action, @selector(findNextRule:)) || sel_isEqual(action, @selector(findPreviousRule:))) {
+        return [self canFindAgain];
     }
     return YES;
 }

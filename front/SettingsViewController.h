@@ -12,6 +12,7 @@ namespace tarnwick {
 class OutletWindow;
 } // namespace tarnwick
 
+@class FindBar;
 @class LinkButton;
 
 /// The controller of the settings window as AppKit sees it: carries the exact selectors that controls, tables
@@ -44,6 +45,9 @@ class OutletWindow;
     NSButton *_restartFinderButton;
     NSButton *_helpButton;
     NSTextField *_tipOfkillFinder;
+    /// Made when it is first needed.
+    FindBar *_findBar;
+    BOOL _isFinding;
 }
 
 @property (nonatomic, assign) NSTextField *Version;

@@ -41,6 +41,7 @@ using tarnwick::RuleCategory;
 }
 
 - (void)dealloc {
+    [_findBar release];
     [_tipOfkillFinder release];
     [super dealloc];
 }

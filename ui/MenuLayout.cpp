@@ -39,6 +39,10 @@ constexpr std::array editMenu{
     MenuItemLayout{"Paste Text", Command::paste, u'v'},
     MenuItemLayout{"Select All", Command::selectAll, u'a'},
     separator,
+    MenuItemLayout{"Find\u2026", Command::find, u'f'},
+    MenuItemLayout{"Find Next", Command::findNext, u'g'},
+    MenuItemLayout{"Find Previous", Command::findPrevious, u'g', KeyModifiers::shiftCommand},
+    separator,
     MenuItemLayout{"Move Up", Command::moveUp, upArrowKey, KeyModifiers::optionCommand},
     MenuItemLayout{"Move Down", Command::moveDown, downArrowKey, KeyModifiers::optionCommand},
 };

@@ -39,6 +39,7 @@ constexpr Column nameColumn(RuleCategory category, double width, const Frame& fr
         .cell = &RuleCells::name,
         .frame = frame,
         .flexible = true,
+        .isSearched = true,
         .role = ColumnRole::name};
 }
 
@@ -48,7 +49,8 @@ constexpr Column pathColumn{.identifier = "realPath",
     .label = "Folder of %@",
     .cell = &RuleCells::path,
     .frame = wideFrame,
-    .flexible = true};
+    .flexible = true,
+    .isSearched = true};
 
 constexpr std::array createNewFileColumns{
     enableColumn("Enable", checkBoxFrame),
@@ -59,7 +61,8 @@ constexpr std::array createNewFileColumns{
         .width = 110,
         .label = "Extension of %@",
         .cell = &RuleCells::extension,
-        .frame = nameFrame},
+        .frame = nameFrame,
+        .isSearched = true},
     Column{.identifier = "EnableMainMenu",
         .title = "Main Menu",
         .width = 92,
@@ -106,7 +109,8 @@ constexpr std::array othersColumns{
         .label = "Note of %@",
         .cell = &RuleCells::note,
         .frame = nameFrame,
-        .flexible = true},
+        .flexible = true,
+        .isSearched = true},
 };
 
 constexpr PerCategory<std::span<const Column>> columns{

@@ -30,6 +30,8 @@ struct Column {
     bool flexible = false;
     /// Over contents that stand in the middle of the column.
     bool centredTitle = false;
+    /// Its cells show a text that can be found.
+    bool isSearched = false;
     ColumnRole role = ColumnRole::none;
 };
 

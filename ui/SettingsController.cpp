@@ -28,7 +28,8 @@ SettingsController::SettingsController(const Ports& ports, SettingsWindow& windo
       stepNames_(ports.folders, ports.bundle, ports.images),
       editing_(ports, preferences_, window, stepNames_),
       transfer_(ports, preferences_, editing_.editor, window, stepNames_), integration_(ports, preferences_),
-      rows_(preferences_.lists, ports.folders, ports.bundle, ports.images) {}
+      rows_(preferences_.lists, ports.folders, ports.bundle, ports.images),
+      finding_(preferences_.lists, rows_, ports.bundle, editing_.editor, window) {}
 
 void SettingsController::awakeFromNib() {
     preferences_.loading.prepareStoresAndFolders();

@@ -3,6 +3,7 @@
 #include "editing/RuleEditing.h"
 #include "integration/SystemIntegration.h"
 #include "prefs/Preferences.h"
+#include "ui/Finding.h"
 #include "ui/LocalizedStepNames.h"
 #include "ui/Page.h"
 #include "ui/RuleRows.h"
@@ -83,6 +84,9 @@ public:
     void exportSettings() { transfer_.exportSettings(); }
     void importSettings() { transfer_.importSettings(); }
 
+    /// Finding a rule by its texts.
+    [[nodiscard]] Finding& finding() { return finding_; }
+
     /// What the window asks of the system around the program.
     [[nodiscard]] SystemIntegration& integration() { return integration_; }
 
@@ -100,6 +104,7 @@ private:
     SettingsTransfer transfer_;
     SystemIntegration integration_;
     RuleRows rows_;
+    Finding finding_;
 };
 
 } // namespace tarnwick

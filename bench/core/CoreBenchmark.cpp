@@ -10,6 +10,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace tarnwick::bench {
 namespace {
@@ -127,6 +128,67 @@ void buildRows(benchmark::State& state) {
     }
 }
 BENCHMARK(buildRows)->Apply(lists);
+
+/// What every row has, in two forms, so that each is another text than the one before.
+constexpr std::array<std::string_view, 2> wanted{"NUMBER 1", "number 1"};
+
+/// A text typed into the find bar that every row has: all rows are looked through, and counted.
+void search(benchmark::State& state) {
+    LaunchedSettings settings(recordsOf(state), imageBytesOf(state));
+    auto& finding = settings.controller().finding();
+    std::size_t turn = 0;
+    for (auto unused : state) {
+        finding.lookFor(category, wanted[turn]);
+        benchmark::DoNotOptimize(finding.count(category));
+        turn = 1 - turn;
+        settings.forgetCalls();
+    }
+}
+BENCHMARK(search)->Apply(lists);
+
+/// On to the next row.
+void searchStep(benchmark::State& state) {
+    LaunchedSettings settings(recordsOf(state), imageBytesOf(state));
+    auto& finding = settings.controller().finding();
+    finding.lookFor(category, wanted[0]);
+    for (auto unused : state) {
+        finding.step(category, SearchStep::next);
+        benchmark::DoNotOptimize(finding.count(category));
+        settings.forgetCalls();
+    }
+}
+BENCHMARK(searchStep)->Apply(lists);
+
+/// The same after the list has changed, which is no part of the time: every row is folded anew.
+void searchStepAfterChange(benchmark::State& state) {
+    LaunchedSettings settings(recordsOf(state), imageBytesOf(state));
+    auto& finding = settings.controller().finding();
+    finding.lookFor(category, wanted[0]);
+    bool on = false;
+    for (auto unused : state) {
+        state.PauseTiming();
+        settings.controller().set(category, middleRow(state), field::enable, on);
+        on = !on;
+        settings.forgetCalls();
+        state.ResumeTiming();
+        finding.step(category, SearchStep::next);
+        benchmark::DoNotOptimize(finding.count(category));
+    }
+}
+BENCHMARK(searchStepAfterChange)->Apply(lists);
+
+/// What cannot be left out of a search: the bytes of every name looked through for those of a text.
+void scan(benchmark::State& state) {
+    const auto list = testing::makeLongList(recordsOf(state), imageBytesOf(state));
+    for (auto unused : state) {
+        std::size_t found = 0;
+        for (const auto& record : list) {
+            found += record.text(field::displayName).find(wanted[1]) != std::string_view::npos ? 1 : 0;
+        }
+        benchmark::DoNotOptimize(found);
+    }
+}
+BENCHMARK(scan)->Apply(lists);
 
 } // namespace
 } // namespace tarnwick::bench

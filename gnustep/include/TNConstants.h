@@ -15,6 +15,7 @@ static const NSEventType NSEventTypeKeyDown = NSKeyDown;
 static const NSEventType NSEventTypeApplicationDefined = NSApplicationDefined;
 
 static const NSUInteger NSEventModifierFlagShift = NSShiftKeyMask;
+static const NSUInteger NSEventModifierFlagControl = NSControlKeyMask;
 static const NSUInteger NSEventModifierFlagOption = NSAlternateKeyMask;
 static const NSUInteger NSEventModifierFlagCommand = NSCommandKeyMask;
 

@@ -19,6 +19,8 @@ struct ControlFacts {
 [[nodiscard]] std::vector<ControlFacts> visibleControls();
 /// The controls that the Tab key visits, beginning with the first page button, until it is back there.
 [[nodiscard]] std::vector<ControlFacts> tabOrder();
+/// The control that has the keyboard, also while its text is being edited.
+[[nodiscard]] ControlFacts keyboardControl();
 /// Presses Tab until the control with this label has the keyboard; false when none of them is it.
 [[nodiscard]] bool tabTo(const std::string& label);
 

@@ -76,6 +76,10 @@ std::vector<ControlFacts> visibleControls() {
     return found;
 }
 
+ControlFacts keyboardControl() {
+    return controlFacts(keyboardView());
+}
+
 bool tabTo(const std::string &label) {
     constexpr int more = 40;
     for (int presses = 0; presses < more; ++presses) {

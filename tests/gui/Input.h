@@ -32,6 +32,8 @@ void pressShiftCommand(char key);
 /// With the Option and Command keys.
 void pressOptionCommand(Key key);
 void type(const std::string& text);
+/// The same without looking at anything in between, as fast as a person types on an idle machine.
+void typeFast(const std::string& text);
 /// Loads a table anew, as the program may at any moment.
 void reloadTable(RuleCategory table);
 /// The application gives way to another and comes back.

@@ -119,6 +119,14 @@ void type(const std::string &text) {
     driving::type(settingsWindow(), toNSString(text));
 }
 
+void typeFast(const std::string &text) {
+    NSString *characters = toNSString(text);
+    for (NSUInteger index = 0; index < [characters length]; ++index) {
+        driving::postKey(settingsWindow(), [characters substringWithRange:NSMakeRange(index, 1)]);
+    }
+    driving::settle();
+}
+
 void reloadTable(RuleCategory table) {
     [tableOf(table) reloadData];
     driving::settle();

@@ -25,6 +25,10 @@ struct MenuItemFacts {
 [[nodiscard]] std::string cellText(RuleCategory table, long row, const std::string& column);
 [[nodiscard]] bool cellIsOn(RuleCategory table, long row, const std::string& column);
 [[nodiscard]] bool cellIsEnabled(RuleCategory table, long row, const std::string& column);
+/// How high the part of the table is that can be seen.
+[[nodiscard]] double shownHeight(RuleCategory table);
+/// Whether all of the row can be seen.
+[[nodiscard]] bool rowIsInSight(RuleCategory table, long row);
 /// How many rows have controls just now.
 [[nodiscard]] long builtRows(RuleCategory table);
 [[nodiscard]] bool removeButtonIsEnabled(RuleCategory table);

@@ -70,6 +70,15 @@ long builtRows(RuleCategory table) {
     return count;
 }
 
+double shownHeight(RuleCategory table) {
+    return NSHeight([[tableOf(table) enclosingScrollView] frame]);
+}
+
+bool rowIsInSight(RuleCategory table, long row) {
+    NSTableView *view = tableOf(table);
+    return NSContainsRect([view visibleRect], [view rectOfRow:row]);
+}
+
 bool removeButtonIsEnabled(RuleCategory table) {
     return [[settingsController() removeButtonOf:table] isEnabled];
 }

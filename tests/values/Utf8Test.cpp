@@ -63,5 +63,36 @@ TEST(Utf8FormsTest, ACharacterThatIsCutOffIsNotValid) {
     }
 }
 
+TEST(Utf8CharactersTest, AreTakenOffOneByOne) {
+    const std::string text = "a\u00FC\u3001\U0001F600";
+    std::string_view rest = text;
+    std::string again;
+    for (const char32_t expected : {U'a', U'\u00FC', U'\u3001', U'\U0001F600'}) {
+        EXPECT_EQ(takeCharacter(rest), expected);
+        appendUtf8(again, expected);
+    }
+    EXPECT_EQ(rest, "");
+    EXPECT_EQ(again, text);
+}
+
+TEST(Utf8CharactersTest, AreNotTakenWhereThereIsNone) {
+    std::string_view malformed = "\xE3\x80z";
+    EXPECT_EQ(takeCharacter(malformed), std::nullopt);
+    EXPECT_EQ(malformed.size(), 3U);
+}
+
+TEST(Utf8CharactersTest, AreWrittenAsTheyAreRead) {
+    for (char32_t character = 0; character <= 0x10FFFF; character += 7) {
+        if (character >= 0xD800 && character <= 0xDFFF) {
+            continue;
+        }
+        std::string text;
+        appendUtf8(text, character);
+        std::string_view rest = text;
+        ASSERT_EQ(takeCharacter(rest), character);
+        ASSERT_TRUE(rest.empty()) << static_cast<std::uint32_t>(character);
+    }
+}
+
 } // namespace
 } // namespace tarnwick::testing

@@ -6,6 +6,7 @@
 
 typedef TN_OPTIONS(NSUInteger, NSEventModifierFlags){
     NSEventModifierFlagShift = 1 << 17,
+    NSEventModifierFlagControl = 1 << 18,
     NSEventModifierFlagOption = 1 << 19,
     NSEventModifierFlagCommand = 1 << 20,
 };
@@ -23,7 +24,10 @@ enum : unichar {
 };
 
 @interface NSEvent : NSObject <NSCopying>
+@property (nullable, readonly, copy) NSString *characters;
 @property (nullable, readonly, copy) NSString *charactersIgnoringModifiers;
+@property (readonly) NSEventModifierFlags modifierFlags;
+@property (readonly) NSTimeInterval timestamp;
 @end
 
 #pragma clang assume_nonnull end

@@ -53,6 +53,8 @@ typedef TN_ENUM(NSInteger, NSTableViewStyle){NSTableViewStylePlain = 4};
     dropOperation:(NSTableViewDropOperation)operation;
 @end
 
+extern "C" NSString *const NSTableViewSelectionDidChangeNotification;
+
 @interface NSTableView : NSControl
 @property (nullable, assign) id<NSTableViewDataSource> dataSource;
 @property (nullable, assign) id<NSTableViewDelegate> delegate;

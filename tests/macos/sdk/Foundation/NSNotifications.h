@@ -23,6 +23,7 @@
                         usingBlock:(void (^)(NSNotification *notification))block;
 - (void)postNotificationName:(NSString *)name object:(nullable id)object;
 - (void)removeObserver:(id)observer;
+- (void)removeObserver:(id)observer name:(nullable NSString *)name object:(nullable id)object;
 @end
 
 @interface NSDistributedNotificationCenter : NSNotificationCenter
