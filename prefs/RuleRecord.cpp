@@ -47,6 +47,9 @@ std::optional<bool> flagValue(const PlistValue& value) {
     if (const auto* number = value.real()) {
         return *number != 0;
     }
+    if (value.largeInteger()) {
+        return true;
+    }
     if (const auto* text = value.string()) {
         return textIsTrue(*text);
     }

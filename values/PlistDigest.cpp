@@ -31,6 +31,9 @@ public:
         case PlistValue::Kind::integer:
             addBytes(*value.integer());
             break;
+        case PlistValue::Kind::largeInteger:
+            addBytes(value.largeInteger()->number);
+            break;
         case PlistValue::Kind::real:
             addNumber(*value.real());
             break;

@@ -43,13 +43,20 @@ struct PlistDate {
     bool operator==(const PlistDate& other) const;
 };
 
+/// An integer beyond all signed ones, from 2^63 to 2^64 - 1. The program itself has none, but keeps those
+/// that it finds.
+struct PlistLargeInteger {
+    std::uint64_t number = 0;
+    bool operator==(const PlistLargeInteger& other) const { return number == other.number; }
+};
+
 /// A property-list value: dictionary, array, string, integer, real, boolean, date or data.
 ///
 /// Integer and boolean are different kinds and stay different through every store. Values are immutable;
 /// copying a dictionary or an array shares its contents.
 class PlistValue {
 public:
-    enum class Kind { dictionary, array, string, integer, real, boolean, date, data };
+    enum class Kind { dictionary, array, string, integer, real, boolean, date, data, largeInteger };
 
     PlistValue(PlistDictionary dictionary);
     PlistValue(PlistArray array);
@@ -62,6 +69,7 @@ public:
     PlistValue(bool flag) : value_(flag) {}
     PlistValue(PlistDate date) : value_(date) {}
     PlistValue(PlistData data) : value_(std::move(data)) {}
+    PlistValue(PlistLargeInteger number) : value_(number) {}
     /// A pointer is never a boolean.
     PlistValue(const void*) = delete;
 
@@ -80,6 +88,9 @@ public:
     [[nodiscard]] const bool* boolean() const { return std::get_if<bool>(&value_); }
     [[nodiscard]] const PlistDate* date() const { return std::get_if<PlistDate>(&value_); }
     [[nodiscard]] const PlistData* data() const { return std::get_if<PlistData>(&value_); }
+    [[nodiscard]] const PlistLargeInteger* largeInteger() const {
+        return std::get_if<PlistLargeInteger>(&value_);
+    }
 
     /// The dictionary itself, shared; null when the value is of another kind.
     [[nodiscard]] std::shared_ptr<const PlistDictionary> sharedDictionary() const;
@@ -91,7 +102,7 @@ public:
 private:
     // Containers are shared: a copied list refers to the records of the original.
     std::variant<std::shared_ptr<const PlistDictionary>, std::shared_ptr<const PlistArray>, std::string,
-        std::int64_t, double, bool, PlistDate, PlistData>
+        std::int64_t, double, bool, PlistDate, PlistData, PlistLargeInteger>
         value_;
 };
 

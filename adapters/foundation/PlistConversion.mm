@@ -4,6 +4,7 @@
 
 #include <array>
 #include <functional>
+#include <limits>
 #include <memory>
 #include <vector>
 
@@ -72,6 +73,11 @@ PlistValue toPlistNumber(NSNumber *number) {
     if (type == *@encode(float) || type == *@encode(double)) {
         return PlistValue([number doubleValue]);
     }
+    const std::uint64_t bits = [number unsignedLongLongValue];
+    const bool isUnsigned = type == *@encode(unsigned long) || type == *@encode(unsigned long long);
+    if (isUnsigned && bits > std::numeric_limits<std::int64_t>::max()) {
+        return PlistValue(PlistLargeInteger{bits});
+    }
     return PlistValue(static_cast<std::int64_t>([number longLongValue]));
 }
 
@@ -116,6 +122,9 @@ public:
         }
         if (const auto *number = value.integer()) {
             return [[classes().number numberWithLongLong:*number] retain];
+        }
+        if (const auto *number = value.largeInteger()) {
+            return [[classes().number numberWithUnsignedLongLong:number->number] retain];
         }
         if (const auto *number = value.real()) {
             return [[classes().number numberWithDouble:*number] retain];

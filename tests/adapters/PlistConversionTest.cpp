@@ -41,6 +41,9 @@ TEST_F(PlistConversionTest, TheWidestIntegersStayWhole) {
         {std::numeric_limits<std::int64_t>::min(), std::numeric_limits<std::int64_t>::max()}) {
         EXPECT_EQ(throughPlatform(PlistValue(number)), PlistValue(number));
     }
+    for (const auto number : {std::uint64_t{1} << 63, std::numeric_limits<std::uint64_t>::max()}) {
+        EXPECT_EQ(throughPlatform(PlistLargeInteger{number}), PlistValue(PlistLargeInteger{number}));
+    }
 }
 
 TEST_F(PlistConversionTest, NestedContainersComeBackWhole) {

@@ -65,7 +65,8 @@ TEST_P(PreferenceStoreContract, AnAbsentKeyHasNoValue) {
 
 TEST_P(PreferenceStoreContract, EveryKindIsReadAsItWasSet) {
     const PlistValue values[] = {PlistValue("text"), PlistValue(1), PlistValue(true), PlistValue(false),
-        PlistValue(2.5), PlistValue(PlistDate{86'400}), PlistValue(PlistData({1, 0, 2})),
+        PlistValue(PlistLargeInteger{~std::uint64_t{0}}), PlistValue(2.5), PlistValue(PlistDate{86'400}),
+        PlistValue(PlistData({1, 0, 2})),
         PlistValue(PlistArray{PlistDictionary{{"isEnable", "1"}, {"count", 1}, {"flag", true}}})};
     const auto store = open();
     for (const auto& value : values) {

@@ -57,16 +57,16 @@ TEST_P(FlagTest, ReadsByTheOneRule) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Every, FlagTest,
-    ::testing::Values(FlagCase{"1", true}, FlagCase{"0", false}, FlagCase{1, true}, FlagCase{0, false},
-        FlagCase{-5, true}, FlagCase{true, true}, FlagCase{false, false}, FlagCase{0.5, true},
-        FlagCase{0.0, false}, FlagCase{"Y", true}, FlagCase{"yes", true}, FlagCase{"T", true},
-        FlagCase{"true", true}, FlagCase{"no", false}, FlagCase{"N", false}, FlagCase{"", false},
-        FlagCase{"   ", false}, FlagCase{"000", false}, FlagCase{" \t\n0012", true}, FlagCase{"+1", true},
-        FlagCase{"-9", true}, FlagCase{"-0", false}, FlagCase{"+", false}, FlagCase{"--1", false},
-        FlagCase{"0x1", false}, FlagCase{"0Y", true}, FlagCase{"x1", false},
-        FlagCase{PlistArray{1}, std::nullopt}, FlagCase{PlistDictionary{}, std::nullopt},
-        FlagCase{PlistData({1}), std::nullopt}, FlagCase{PlistDate{1}, std::nullopt},
-        FlagCase{std::numeric_limits<std::int64_t>::min(), true}));
+    ::testing::Values(FlagCase{PlistLargeInteger{std::numeric_limits<std::uint64_t>::max()}, true},
+        FlagCase{"1", true}, FlagCase{"0", false}, FlagCase{1, true}, FlagCase{0, false}, FlagCase{-5, true},
+        FlagCase{true, true}, FlagCase{false, false}, FlagCase{0.5, true}, FlagCase{0.0, false},
+        FlagCase{"Y", true}, FlagCase{"yes", true}, FlagCase{"T", true}, FlagCase{"true", true},
+        FlagCase{"no", false}, FlagCase{"N", false}, FlagCase{"", false}, FlagCase{"   ", false},
+        FlagCase{"000", false}, FlagCase{" \t\n0012", true}, FlagCase{"+1", true}, FlagCase{"-9", true},
+        FlagCase{"-0", false}, FlagCase{"+", false}, FlagCase{"--1", false}, FlagCase{"0x1", false},
+        FlagCase{"0Y", true}, FlagCase{"x1", false}, FlagCase{PlistArray{1}, std::nullopt},
+        FlagCase{PlistDictionary{}, std::nullopt}, FlagCase{PlistData({1}), std::nullopt},
+        FlagCase{PlistDate{1}, std::nullopt}, FlagCase{std::numeric_limits<std::int64_t>::min(), true}));
 
 TEST(RuleRecordTest, AMissingFieldReadsAsFalseEmptyTextAndNoData) {
     const RuleRecord record;

@@ -32,6 +32,8 @@ void PrintTo(const PlistValue& value, std::ostream* stream) {
         *stream << ::testing::PrintToString(*text);
     } else if (const auto* integer = value.integer()) {
         *stream << *integer;
+    } else if (const auto* large = value.largeInteger()) {
+        *stream << large->number;
     } else if (const auto* real = value.real()) {
         *stream << "real " << *real;
     } else if (const auto* flag = value.boolean()) {

@@ -29,11 +29,15 @@ TEST(PlistValueTest, ARealOrDateThatIsNoNumberEqualsItself) {
 TEST(PlistValueTest, EachKindGivesItsContentsAndNullForTheOthers) {
     EXPECT_EQ(*PlistValue("text").string(), "text");
     EXPECT_EQ(*PlistValue(7).integer(), 7);
+    EXPECT_EQ(PlistValue(PlistLargeInteger{7}).largeInteger()->number, 7U);
     EXPECT_EQ(*PlistValue(0.5).real(), 0.5);
     EXPECT_EQ(*PlistValue(true).boolean(), true);
     EXPECT_EQ(PlistValue(PlistDate{3}).date()->secondsSinceReferenceDate, 3);
     EXPECT_EQ(PlistValue(7).string(), nullptr);
     EXPECT_EQ(PlistValue(7).array(), nullptr);
+    EXPECT_EQ(PlistValue(7).largeInteger(), nullptr);
+    EXPECT_EQ(PlistValue(PlistLargeInteger{7}).integer(), nullptr);
+    EXPECT_NE(PlistValue(PlistLargeInteger{7}), PlistValue(7));
     EXPECT_EQ(PlistValue(7).dictionary(), nullptr);
     EXPECT_EQ(PlistValue(7).sharedDictionary(), nullptr);
     EXPECT_EQ(PlistValue(7).kind(), PlistValue::Kind::integer);
