@@ -21,9 +21,11 @@
     BOOL _alternatesRows;
     BOOL _reloadIsPending;
     BOOL _isFillingWidth;
+    BOOL _needsRows;
 }
 
-/// Nil outside the table, and for a row off screen unless one is to be made.
+/// Nil outside the table, and for a row off screen unless one is to be made. The rows of a table that was
+/// reloaded are made when they are next shown.
 - (NSView *)viewAtColumn:(NSInteger)column row:(NSInteger)row makeIfNecessary:(BOOL)makeIfNecessary;
 /// -1 for a view that is in no row.
 - (NSInteger)rowForView:(NSView *)view;
@@ -35,8 +37,10 @@
 @interface TNTableView (Parts)
 /// Brings the live views in line with the rows on screen.
 - (void)syncRowViews;
+/// The same, when the views went by a reload and have not come back yet.
+- (void)makeNeededRows;
 - (void)dropRowViews;
-/// Exchanges the views now that an edit had to wait for; otherwise that happens in the run loop.
+/// Makes the views now that would otherwise come at the next display, or once an edit has ended.
 - (void)finishReload;
 /// Gives the columns that resize with the table equal shares of what is gained or lost.
 - (void)fillWidth;

@@ -36,6 +36,7 @@ bool takesItsOwnClicks(NSView *view) {
 
 /// Labels, pictures and plain areas are the row's; so are text fields until they are edited.
 - (NSView *)hitTest:(NSPoint)point {
+    [self makeNeededRows];
     NSView *hit = [super hitTest:point];
     if (!hit || hit == self) {
         return hit;

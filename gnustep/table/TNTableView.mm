@@ -58,6 +58,8 @@ NSArray *deferringModes() {
         if ([field isDescendantOf:cell]) {
             [field abortEditing];
             [[self window] makeFirstResponder:self];
+            // It goes with its cell.
+            field = nil;
         }
         [cell removeFromSuperview];
         [cell release];
@@ -83,6 +85,7 @@ NSArray *deferringModes() {
 }
 
 - (void)syncRowViews {
+    _needsRows = NO;
     if (![self window] || ![[self delegate] respondsToSelector:@selector(tableView:
                                                                    viewForTableColumn:row:)]) {
         return;
@@ -108,6 +111,19 @@ NSArray *deferringModes() {
         if (_rowViews.count(static_cast<NSInteger>(row)) == 0) {
             [self makeRow:static_cast<NSInteger>(row)];
         }
+    }
+}
+
+- (void)makeNeededRows {
+    if (_needsRows) {
+        [self syncRowViews];
+    }
+}
+
+/// Rows that are still to be made find their places then.
+- (void)placeRowViews {
+    if (!_needsRows) {
+        [self syncRowViews];
     }
 }
 
@@ -156,23 +172,22 @@ NSArray *deferringModes() {
 
 - (void)reloadData {
     const NSInteger selected = [self selectedRow];
+    if (![self editedField]) {
+        [self exchangeRowViews];
+    }
     [super reloadData];
     if (selected >= 0 && selected < [self numberOfRows] && selected != [self selectedRow]) {
         [self selectRowIndexes:[NSIndexSet indexSetWithIndex:static_cast<NSUInteger>(selected)]
             byExtendingSelection:NO];
     }
-    if ([self editedField]) {
-        // The field is still needed by the edit that ends just now.
-        if (!_reloadIsPending) {
-            _reloadIsPending = YES;
-            [self performSelector:@selector(exchangeRowViews)
-                       withObject:nil
-                       afterDelay:0
-                          inModes:deferringModes()];
-        }
-        return;
+    // The field is still needed by the edit that ends just now.
+    if ([self editedField] && !_reloadIsPending) {
+        _reloadIsPending = YES;
+        [self performSelector:@selector(exchangeRowViews)
+                   withObject:nil
+                   afterDelay:0
+                      inModes:deferringModes()];
     }
-    [self exchangeRowViews];
 }
 
 - (void)finishReload {
@@ -182,13 +197,21 @@ NSArray *deferringModes() {
                                                    object:nil];
         [self exchangeRowViews];
     }
+    [self makeNeededRows];
 }
 
+/// The old rows go at once, so that nothing acts for another row than it shows; the new ones come when they
+/// are shown or asked for.
 - (void)exchangeRowViews {
     _reloadIsPending = NO;
     [self dropRowViews];
-    [self syncRowViews];
+    _needsRows = YES;
     [self setNeedsDisplay:YES];
+}
+
+- (void)displayRectIgnoringOpacity:(NSRect)rect inContext:(NSGraphicsContext *)context {
+    [self makeNeededRows];
+    [super displayRectIgnoringOpacity:rect inContext:context];
 }
 
 - (void)setDataSource:(id)dataSource {
@@ -220,17 +243,17 @@ NSArray *deferringModes() {
 
 - (void)tile {
     [super tile];
-    [self syncRowViews];
+    [self placeRowViews];
 }
 
 - (void)setFrameSize:(NSSize)size {
     [super setFrameSize:size];
-    [self syncRowViews];
+    [self placeRowViews];
 }
 
 - (void)viewDidMoveToWindow {
     [super viewDidMoveToWindow];
-    [self syncRowViews];
+    [self placeRowViews];
 }
 
 - (void)viewDidMoveToSuperview {
@@ -255,12 +278,12 @@ NSArray *deferringModes() {
 }
 
 - (void)clipViewChanged:(NSNotification *)notification {
-    [self syncRowViews];
+    [self placeRowViews];
 }
 
 - (void)clipViewResized:(NSNotification *)notification {
     [self fillWidth];
-    [self syncRowViews];
+    [self placeRowViews];
 }
 
 @end

@@ -80,6 +80,24 @@ TEST_F(TableEditing, TheEditSurvivesScrolling) {
     EXPECT_EQ(table.names()[1], "new");
 }
 
+TEST_F(TableEditing, ATableThatIsReloadedKeepsItsFieldForAnEditThatEndsJustNow) {
+    table.reloadUnseen();
+    EXPECT_TRUE(table.isEditing());
+    EXPECT_EQ(table.editedText(), "new");
+    table.reload();
+    EXPECT_FALSE(table.isEditing());
+    EXPECT_EQ(ends(), 0);
+    EXPECT_EQ(table.placeOfControl(1, TableWindow::name), "1 1");
+}
+
+TEST(Table, AFieldOfAReloadedTableCanBeEditedBeforeItIsShown) {
+    TableWindow table(3);
+    table.click(1, TableWindow::name);
+    table.reloadUnseen();
+    table.click(1, TableWindow::name);
+    EXPECT_TRUE(table.isEditing());
+}
+
 TEST(Table, AClickEditsOnlyARowThatWasSelected) {
     TableWindow table(3);
     table.click(1, TableWindow::name);

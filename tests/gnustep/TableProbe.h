@@ -33,6 +33,8 @@ public:
     void dragAtLowerEdge(long row, double wantedScroll);
     void scrollToRow(long row);
     void reload();
+    /// Nothing is drawn yet.
+    void reloadUnseen();
     /// As if the text were wrong: the delegate refuses to end an edit from now on.
     void refuseEndOfEditing(bool refuse);
     /// The data source sends drops on a row into the gap above it.
@@ -56,6 +58,8 @@ public:
     [[nodiscard]] double scrolledBy() const;
     /// The row and column that the table finds for the control in a cell; "-1 -1" for none.
     [[nodiscard]] std::string placeOfControl(long row, Column column) const;
+    /// Whether a click in the middle of that cell would go to its control.
+    [[nodiscard]] bool controlTakesClick(long row, Column column) const;
     /// The width of a cell and of the control in it that follows its width.
     [[nodiscard]] std::string widthsOfNameCell(long row) const;
 

@@ -156,8 +156,12 @@ void TableWindow::scrollToRow(long row) {
 }
 
 void TableWindow::reload() {
-    [parts_->table reloadData];
+    reloadUnseen();
     driving::settle();
+}
+
+void TableWindow::reloadUnseen() {
+    [parts_->table reloadData];
 }
 
 void TableWindow::refuseEndOfEditing(bool refuse) {
@@ -221,6 +225,14 @@ std::string TableWindow::placeOfControl(long row, Column column) const {
     NSView *control = controlIn([parts_->table viewAtColumn:column row:row makeIfNecessary:NO]);
     return std::to_string([parts_->table rowForView:control]) + " " +
            std::to_string([parts_->table columnForView:control]);
+}
+
+bool TableWindow::controlTakesClick(long row, Column column) const {
+    const NSRect frame = [parts_->table frameOfCellAtColumn:column row:row];
+    const NSPoint middle = NSMakePoint(NSMinX(frame) + 13, NSMidY(frame));
+    NSView *hit = [parts_->table hitTest:[parts_->table convertPoint:middle
+                                                              toView:[parts_->table superview]]];
+    return hit != parts_->table && [parts_->table rowForView:hit] == row;
 }
 
 std::string TableWindow::widthsOfNameCell(long row) const {

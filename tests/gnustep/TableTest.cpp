@@ -43,6 +43,37 @@ TEST(Table, GivesACellTheColumnsWidthAndItsContentFollows) {
     EXPECT_EQ(widths.substr(0, gap), widths.substr(gap + 1));
 }
 
+TEST(Table, TheRowsOfATableThatIsReloadedAreMadeWhenTheyAreShown) {
+    TableWindow table(40);
+    const long rows = table.builtRows();
+    const long made = table.viewsMade();
+    for (int times = 0; times < 3; ++times) {
+        table.reloadUnseen();
+    }
+    EXPECT_EQ(table.viewsMade(), made);
+    EXPECT_EQ(table.builtRows(), 0);
+    table.reload();
+    EXPECT_EQ(table.builtRows(), rows);
+    EXPECT_EQ(table.viewsMade(), made + 3 * rows);
+}
+
+TEST(Table, TheMouseFindsRowsThatHaveNotBeenShownYet) {
+    TableWindow table(40);
+    table.reloadUnseen();
+    EXPECT_TRUE(table.controlTakesClick(2, TableWindow::check));
+    EXPECT_FALSE(table.controlTakesClick(2, TableWindow::path));
+}
+
+TEST(Table, ScrollingBeforeTheRowsAreShownMakesThoseThatComeIntoSightAlone) {
+    TableWindow table(10000);
+    const long rows = table.builtRows();
+    const long made = table.viewsMade();
+    table.reloadUnseen();
+    table.scrollToRow(5000);
+    EXPECT_LE(table.viewsMade(), made + 3 * (rows + 1));
+    EXPECT_EQ(table.placeOfControl(5000, TableWindow::name), "5000 1");
+}
+
 TEST(Table, AClickSelectsThenSendsTheAction) {
     TableWindow table(3);
     table.click(1, TableWindow::path);
