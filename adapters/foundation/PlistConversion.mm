@@ -1,12 +1,10 @@
 #import "adapters/foundation/PlistConversion.h"
 
+#import "adapters/foundation/ObjectMaker.h"
 #import "adapters/foundation/StringConversion.h"
 
-#include <array>
-#include <functional>
 #include <limits>
 #include <memory>
-#include <vector>
 
 /// Bytes that belong to a core value, as the platform's data.
 @interface TNSharedData : NSData {
@@ -102,98 +100,6 @@ PlistValue toPlistDictionary(NSDictionary *dictionary) {
     }
     return PlistValue(std::move(values));
 }
-
-/// Makes the objects of one value. The keys of records are the same again and again, and are made once.
-class ObjectMaker {
-public:
-    ObjectMaker() = default;
-    ~ObjectMaker() {
-        for (const auto &known : knownKeys_) {
-            [known.object release];
-        }
-    }
-    ObjectMaker(const ObjectMaker &) = delete;
-    ObjectMaker &operator=(const ObjectMaker &) = delete;
-
-    /// A reference to be released.
-    id newObject(const PlistValue &value) {
-        if (const auto *text = value.string()) {
-            return [toNSString(*text) retain];
-        }
-        if (const auto *number = value.integer()) {
-            return [[classes().number numberWithLongLong:*number] retain];
-        }
-        if (const auto *number = value.largeInteger()) {
-            return [[classes().number numberWithUnsignedLongLong:number->number] retain];
-        }
-        if (const auto *number = value.real()) {
-            return [[classes().number numberWithDouble:*number] retain];
-        }
-        if (const auto *flag = value.boolean()) {
-            return [[classes().number numberWithBool:*flag] retain];
-        }
-        if (const auto *data = value.data()) {
-            return [toNSData(*data) retain];
-        }
-        if (const auto *date = value.date()) {
-            return [[classes().date alloc]
-                initWithTimeIntervalSinceReferenceDate:date->secondsSinceReferenceDate];
-        }
-        if (const auto *array = value.array()) {
-            return newArray(*array);
-        }
-        return newDictionary(*value.dictionary());
-    }
-
-private:
-    struct KnownKey {
-        std::string text;
-        NSString *object = nil;
-    };
-
-    NSArray *newArray(const PlistArray &array) {
-        std::vector<id> elements;
-        elements.reserve(array.size());
-        for (const auto &value : array) {
-            elements.push_back(newObject(value));
-        }
-        NSArray *result = [[classes().array alloc] initWithObjects:elements.data() count:elements.size()];
-        for (id element : elements) {
-            [element release];
-        }
-        return result;
-    }
-
-    NSDictionary *newDictionary(const PlistDictionary &dictionary) {
-        std::vector<id> values;
-        std::vector<id> keys;
-        values.reserve(dictionary.size());
-        keys.reserve(dictionary.size());
-        for (const auto &[key, value] : dictionary) {
-            values.push_back(newObject(value));
-            keys.push_back([keyOf(key) retain]);
-        }
-        NSDictionary *result = [[classes().dictionary alloc] initWithObjects:values.data()
-                                                                     forKeys:keys.data()
-                                                                       count:keys.size()];
-        for (std::size_t index = 0; index < keys.size(); ++index) {
-            [values[index] release];
-            [keys[index] release];
-        }
-        return result;
-    }
-
-    NSString *keyOf(const std::string &text) {
-        auto &known = knownKeys_[std::hash<std::string>()(text) % knownKeys_.size()];
-        if (!known.object || known.text != text) {
-            [known.object release];
-            known = {text, [toNSString(text) retain]};
-        }
-        return known.object;
-    }
-
-    std::array<KnownKey, 64> knownKeys_;
-};
 
 } // namespace
 

@@ -1,5 +1,6 @@
 #import "adapters/foundation/ObjectPointer.h"
 #import "adapters/foundation/PlistConversion.h"
+#import "adapters/foundation/RecordObjects.h"
 #import "adapters/foundation/StringConversion.h"
 
 #include "adapters/foundation/Adapters.h"
@@ -10,7 +11,8 @@ namespace {
 
 class UserDefaultsStore final : public PreferenceStore {
 public:
-    explicit UserDefaultsStore(ObjectPointer<NSUserDefaults> defaults) : defaults_(std::move(defaults)) {}
+    UserDefaultsStore(ObjectPointer<NSUserDefaults> defaults, RecordObjects &records)
+        : defaults_(std::move(defaults)), records_(records) {}
 
     std::optional<PlistValue> value(std::string_view key) const override {
         return toPlistValue([defaults_.get() objectForKey:toNSString(key)]);
@@ -20,7 +22,7 @@ public:
             if (const auto *flag = value.boolean()) {
                 [defaults_.get() setBool:*flag forKey:toNSString(key)];
             } else {
-                [defaults_.get() setObject:toObject(value) forKey:toNSString(key)];
+                [defaults_.get() setObject:records_.toObject(value) forKey:toNSString(key)];
             }
         }
     }
@@ -33,22 +35,29 @@ public:
 
 private:
     ObjectPointer<NSUserDefaults> defaults_;
+    RecordObjects &records_;
 };
 
 class UserDefaultsStores final : public PreferenceStores {
 public:
     std::unique_ptr<PreferenceStore> openStandardDomain() override {
         return std::make_unique<UserDefaultsStore>(
-            ObjectPointer<NSUserDefaults>::retaining([NSUserDefaults standardUserDefaults]));
+            ObjectPointer<NSUserDefaults>::retaining([NSUserDefaults standardUserDefaults]), records_);
     }
     std::unique_ptr<PreferenceStore> openSuite(std::string_view name) override {
-        return std::make_unique<UserDefaultsStore>(ObjectPointer<NSUserDefaults>::adopting(
-            [[NSUserDefaults alloc] initWithSuiteName:toNSString(name)]));
+        return std::make_unique<UserDefaultsStore>(
+            ObjectPointer<NSUserDefaults>::adopting(
+                [[NSUserDefaults alloc] initWithSuiteName:toNSString(name)]),
+            records_);
     }
     std::optional<std::string> systemWideString(std::string_view key) const override {
         NSString *text = [[NSUserDefaults standardUserDefaults] stringForKey:toNSString(key)];
         return text ? std::optional(toString(text)) : std::nullopt;
     }
+
+private:
+    /// What is stored in one domain is published in another.
+    RecordObjects records_;
 };
 
 } // namespace

@@ -1,0 +1,33 @@
+#pragma once
+
+#import "adapters/foundation/ObjectMaker.h"
+#import "adapters/foundation/ObjectPointer.h"
+
+#include <memory>
+#include <unordered_map>
+
+namespace tarnwick {
+
+/// The objects of records, which are the dictionaries in a list. Every change of a record stores its list
+/// anew, and publishes most of it; a record that has not changed is the same object each time. It is kept for
+/// as long as somebody else has the record.
+class RecordObjects {
+public:
+    /// Autoreleased, and equal to what `toObject` gives.
+    [[nodiscard]] id toObject(const PlistValue &value);
+
+private:
+    struct Known {
+        std::shared_ptr<const PlistDictionary> record;
+        ObjectPointer<NSDictionary> object;
+    };
+
+    [[nodiscard]] NSArray *toList(const PlistArray &array);
+    [[nodiscard]] id newElement(const PlistValue &element, ObjectMaker &maker);
+    void forgetWhatOthersForgot();
+
+    /// By the address of the record, which no other one takes while it is kept here.
+    std::unordered_map<const PlistDictionary *, Known> known_;
+};
+
+} // namespace tarnwick
