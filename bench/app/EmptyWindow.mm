@@ -1,6 +1,7 @@
-// The floor of a launch: an empty window, and the files that a first launch copies. Its arguments are the
-// file to make once the window stands and the run loop runs, and a file of lines "from TAB to" of what to
-// copy.
+// The floor of a launch: an empty window, and the files that a first launch copies: the lines "from TAB to"
+// of the file that TARNWICK_BENCH_COPIES names.
+
+#import "bench/app/LaunchMark.h"
 
 #import <AppKit/AppKit.h>
 
@@ -10,8 +11,9 @@
 
 namespace {
 
-void copyFiles(NSString *listFile) {
+void copyFiles() {
     NSFileManager *files = [NSFileManager defaultManager];
+    NSString *listFile = [[[NSProcessInfo processInfo] environment] objectForKey:@"TARNWICK_BENCH_COPIES"];
     NSString *list = [NSString stringWithContentsOfFile:listFile];
     for (NSString *line in [list componentsSeparatedByString:@"\n"]) {
         NSArray *pair = [line componentsSeparatedByString:@"\t"];
@@ -29,21 +31,6 @@ void copyFiles(NSString *listFile) {
 
 } // namespace
 
-@interface EmptyWindowDelegate : NSObject
-- (void)finish:(id)unused;
-@end
-
-@implementation EmptyWindowDelegate
-
-- (void)finish:(id)unused {
-    (void)unused;
-    NSDictionary *environment = [[NSProcessInfo processInfo] environment];
-    copyFiles([environment objectForKey:@"TARNWICK_BENCH_COPIES"]);
-    [[NSData data] writeToFile:[environment objectForKey:@"TARNWICK_BENCH_UP"] atomically:NO];
-}
-
-@end
-
 int main() {
     @autoreleasepool {
 #ifdef TARNWICK_BENCH_WITH_LAYER
@@ -55,8 +42,7 @@ int main() {
                                                          backing:NSBackingStoreBuffered
                                                            defer:NO];
         [window makeKeyAndOrderFront:nil];
-        EmptyWindowDelegate *delegate = [[EmptyWindowDelegate alloc] init];
-        [delegate performSelector:@selector(finish:) withObject:nil afterDelay:0];
+        tarnwick::bench::markWhenRunning(0, copyFiles);
         [NSApp run];
     }
 }

@@ -1,5 +1,6 @@
 """A launch, until the lists are published, and the memory it takes, beside an empty window."""
 
+import os
 import pathlib
 import shutil
 import statistics
@@ -7,7 +8,7 @@ import time
 
 from bench.app.programs import LaunchedProgram
 from bench.table import print_table
-from harness.stores import COPY_TARGETS, LISTS, SHARED, USED, Stores, folder_records
+from harness.stores import COPY_TARGETS, ICONS, LISTS, LOCAL, SHARED, USED, Stores, folder_records
 from harness.user_folder import UserFolder
 
 # Published last at a launch.
@@ -16,38 +17,27 @@ SETTLE_SECONDS = 1.0
 
 
 class Application:
-    """The application, with the settings and perhaps the Library folder of an earlier launch; it is up once the last
-    list is in the suite's file, which is not there before."""
+    """The application, over the stores and the Library folder that an earlier launch has left, or for the first time;
+    it is up once it has published its lists."""
 
-    def __init__(self, build, settings, library=None):
+    def __init__(self, build, earlier=None):
         self.name = "application"
-        self.program = build / "Tarnwick.app" / "Tarnwick"
-        self.settings = settings
-        self.library = library
+        self.program = build / "launch_application.app" / "launch_application"
+        self.earlier = earlier
 
     def prepare(self, user):
-        Stores(user).write(self.settings)
-        if self.library:
-            shutil.copytree(self.library, user.library, dirs_exist_ok=True)
+        if self.earlier:
+            for domain in (LOCAL, SHARED):
+                shutil.copy(Stores(self.earlier).file(domain), Stores(user).file(domain))
+            shutil.copytree(self.earlier.library, user.library, dirs_exist_ok=True)
+        else:
+            Stores(user).write(USED)
         return {}
 
     @staticmethod
-    def is_up(user):
-        store = Stores(user).file(SHARED)
-        seen = None
-
-        def check():
-            nonlocal seen
-            try:
-                status = store.stat()
-            except FileNotFoundError:
-                return False
-            if (status.st_ino, status.st_mtime_ns) == seen:
-                return False
-            seen = (status.st_ino, status.st_mtime_ns)
-            return f"<key>{LAST_KEY}</key>".encode() in store.read_bytes()
-
-        return check
+    def check(user):
+        if f"<key>{LAST_KEY}</key>".encode() not in Stores(user).file(SHARED).read_bytes():
+            raise SystemExit("the application was up without its lists")
 
 
 class EmptyWindow:
@@ -61,25 +51,47 @@ class EmptyWindow:
     def prepare(self, user):
         pairs = pathlib.Path(user.name, "copies")
         pairs.write_text("".join(f"{source}\t{user.library}/{target}\n" for source, target in self.copies))
-        return {"TARNWICK_BENCH_COPIES": str(pairs), "TARNWICK_BENCH_UP": f"{user.name}/up"}
+        return {"TARNWICK_BENCH_COPIES": str(pairs)}
 
     @staticmethod
-    def is_up(user):
-        return pathlib.Path(user.name, "up").exists
+    def check(user):
+        pass
 
 
-def launch(program, display, neighbour=None):
+def start(program, display, user):
+    """The program, and the milliseconds until it is up."""
+    mark = pathlib.Path(user.name, "up")
+    launched = LaunchedProgram(program.program, user, display,
+                               {**program.prepare(user), "TARNWICK_BENCH_UP": str(mark)})
+    elapsed = launched.milliseconds_until(mark.exists)
+    program.check(user)
+    return launched, elapsed
+
+
+def launch(program, display, neighbour):
     """Milliseconds until the program is up, on the clock and on the processor; its megabytes a second later, resident
-    and of its own; and the user folder it ran in."""
+    and of its own."""
     user = UserFolder(neighbour)
-    environment = program.prepare(user)
-    launched = LaunchedProgram(program.program, user, display, environment)
-    elapsed = launched.milliseconds_until(program.is_up(user))
+    launched, elapsed = start(program, display, user)
     busy = launched.processor_milliseconds()
     time.sleep(SETTLE_SECONDS)
     memory = launched.memory()
     launched.stop()
-    return (elapsed, busy, *memory), user
+    user.remove()
+    return elapsed, busy, *memory
+
+
+def settings_after_a_launch(build, display, neighbour, settings):
+    """A user folder with what the application leaves after a launch over these settings, in which it has all its
+    files."""
+    user = UserFolder(neighbour)
+    application = Application(build, neighbour)
+    application.prepare(user)
+    Stores(user).write({**Stores(user).read(), **settings})
+    application.prepare = lambda _: {}
+    launched, _ = start(application, display, user)
+    launched.end()
+    return user
 
 
 def first_run_copies(application, user):
@@ -98,8 +110,7 @@ def take_turns(programs, display, rounds, neighbour):
     figures = {program.name: [] for program in programs}
     for turn in range(rounds + 1):
         for program in programs:
-            measured, user = launch(program, display, neighbour)
-            user.remove()
+            measured = launch(program, display, neighbour)
             if turn > 0:
                 figures[program.name].append(measured)
     return {name: [statistics.median(column) for column in zip(*rows)] for name, rows in figures.items()}
@@ -111,29 +122,39 @@ def rows_beside(title, figures):
     for name, floor in figures.items():
         clock, processor = (application[index] / floor[index] for index in (0, 1))
         rows.append([
-            title, name, f"{application[0]:.0f}", f"{floor[0]:.0f}", f"{clock:.2f}", f"{processor:.2f}",
+            title, name, f"{application[0]:,.0f}", f"{floor[0]:.0f}", f"{clock:.2f}", f"{processor:.2f}",
             f"{application[2]:.1f}", *(f"{application[index] - floor[index]:+.1f}" for index in (2, 3))])
     return rows
 
 
+def pictures(count):
+    return [{"enable": 1, "displayName": f"Icon {number}", "modified": "1", "icon": os.urandom(1 << 20)}
+            for number in range(count)]
+
+
 def measure(build, display, quick):
-    rounds = 4 if quick else 15
-    first = Application(build, USED)
-    _, neighbour = launch(first, display)
+    neighbour = UserFolder()
+    first = Application(build)
+    launched, _ = start(first, display, neighbour)
+    launched.end()
     copies = first_run_copies(first, neighbour)
-    settings = Stores(neighbour).read()
     # Its notification centre stays up as long as somebody uses it, as in a user's session.
     holder = LaunchedProgram(build / "bench" / "empty_window", neighbour, display,
                              {"TARNWICK_BENCH_UP": f"{neighbour.name}/up"})
+    rounds, few = (4, 1) if quick else (15, 3)
     rows = []
-    for title, application, copied in (
-        ("first", first, copies),
-        ("later", Application(build, settings, neighbour.library), ()),
-        ("1,000 targets", Application(build, {**settings, COPY_TARGETS: folder_records(1_000)}, neighbour.library), ()),
+    for title, settings, copied, turns in (
+        ("first", None, copies, rounds),
+        ("later", {}, (), rounds),
+        ("1,000 targets", {COPY_TARGETS: folder_records(1_000)}, (), rounds),
+        ("100,000 targets", {COPY_TARGETS: folder_records(100_000)}, (), few),
+        ("100 MB of pictures", {ICONS: pictures(100)}, (), few),
     ):
+        earlier = None if settings is None else settings_after_a_launch(build, display, neighbour, settings)
         floors = [EmptyWindow(build, name, copied) for name in ("empty_window", "empty_window_with_layer")]
-        rows += rows_beside(
-            title, take_turns([application, *floors], display, rounds, neighbour))
+        rows += rows_beside(title, take_turns([Application(build, earlier), *floors], display, turns, neighbour))
+        if earlier:
+            earlier.remove()
     holder.stop()
     neighbour.remove()
     print_table(

@@ -67,6 +67,11 @@ class LaunchedProgram:
             values[name.rstrip(":")] = int(number) / 1024
         return values["Rss"], values["Private_Clean"] + values["Private_Dirty"]
 
+    def end(self):
+        """As a user ends it: it writes what it has not written yet."""
+        self.process.terminate()
+        self.process.wait(PATIENCE_SECONDS)
+
     def stop(self):
         """At once; its user folder is thrown away."""
         self.process.kill()
