@@ -3,6 +3,7 @@
 #include "SettingsReaders.h"
 
 #include <array>
+#include <cerrno>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -11,6 +12,24 @@
 
 namespace tarnwick::fuzz {
 namespace {
+
+/// All of so many bytes, with `call`, read or write; the alarm that watches over each input may come in
+/// between.
+template <typename Byte, typename Call>
+bool passAll(Call call, int end, Byte* bytes, std::size_t size) {
+    while (size > 0) {
+        const auto passed = call(end, bytes, size);
+        if (passed < 0 && errno == EINTR) {
+            continue;
+        }
+        if (passed <= 0) {
+            return false;
+        }
+        bytes += passed;
+        size -= static_cast<std::size_t>(passed);
+    }
+    return true;
+}
 
 class Python {
 public:
@@ -32,9 +51,9 @@ public:
         }
         close(down[0]);
         close(up[1]);
-        requests_ = fdopen(down[1], "wb");
-        answers_ = fdopen(up[0], "rb");
-        if (child < 0 || !requests_ || !answers_) {
+        requests_ = down[1];
+        answers_ = up[0];
+        if (child < 0) {
             giveUp();
         }
     }
@@ -43,14 +62,14 @@ public:
     std::string ask(const std::string& request) {
         auto length = static_cast<std::uint32_t>(request.size());
         std::string answer;
-        const bool isAsked = std::fwrite(&length, sizeof length, 1, requests_) == 1 &&
-                             std::fwrite(request.data(), 1, request.size(), requests_) == request.size() &&
-                             std::fflush(requests_) == 0;
-        if (!isAsked || std::fread(&length, sizeof length, 1, answers_) != 1) {
+        auto* const lengthBytes = reinterpret_cast<char*>(&length);
+        if (!passAll(write, requests_, lengthBytes, sizeof length) ||
+            !passAll(write, requests_, request.data(), request.size()) ||
+            !passAll(read, answers_, lengthBytes, sizeof length)) {
             giveUp();
         }
         answer.resize(length);
-        if (std::fread(answer.data(), 1, length, answers_) != length) {
+        if (!passAll(read, answers_, answer.data(), length)) {
             giveUp();
         }
         return answer;
@@ -62,8 +81,8 @@ private:
         std::abort();
     }
 
-    std::FILE* requests_ = nullptr;
-    std::FILE* answers_ = nullptr;
+    int requests_ = -1;
+    int answers_ = -1;
 };
 
 } // namespace
