@@ -12,9 +12,11 @@
 @property (readonly) BOOL boolValue;
 @property (readonly) double doubleValue;
 @property (readonly) long long longLongValue;
+@property (readonly) unsigned long long unsignedLongLongValue;
 + (NSNumber *)numberWithBool:(BOOL)value;
 + (NSNumber *)numberWithDouble:(double)value;
 + (NSNumber *)numberWithLongLong:(long long)value;
++ (NSNumber *)numberWithUnsignedLongLong:(unsigned long long)value;
 @end
 
 #pragma clang assume_nonnull end
