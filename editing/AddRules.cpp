@@ -1,11 +1,13 @@
 #include "editing/AddRules.h"
 
 #include "editing/ListEditor.h"
+#include "editing/RuleTables.h"
 #include "platform/Images.h"
 #include "prefs/GroupContainer.h"
 #include "prefs/HomeFolder.h"
 #include "prefs/LocalPreferences.h"
 #include "prefs/RecordLayouts.h"
+#include "prefs/RuleList.h"
 #include "values/PathText.h"
 
 namespace tarnwick {
@@ -51,7 +53,7 @@ void AddRules::add(RuleCategory category) {
         if (const auto key = factsOf(category).rememberedFolderKey; !key.empty()) {
             local_.set(key, withoutLastPathComponent(answer.paths.front()));
         }
-        editor_.append(category, std::move(records), files);
+        append(category, std::move(records), files);
     });
 }
 
@@ -62,8 +64,16 @@ bool AddRules::addDropped(RuleCategory category, const std::vector<DroppedItem>&
     }
     editor_.endEditing();
     const auto files = beginCopying(category, paths);
-    editor_.append(category, makeRecords(category, paths), files);
+    append(category, makeRecords(category, paths), files);
     return true;
+}
+
+void AddRules::append(RuleCategory category, std::vector<RuleRecord> records, const TemplateWork& files) {
+    const auto hasNew = !records.empty();
+    editor_.append(category, std::move(records), files);
+    if (hasNew) {
+        tables_.scrollToRow(category, static_cast<long>(editor_.list(category).size()) - 1);
+    }
 }
 
 TemplateWork AddRules::beginCopying(RuleCategory category, const std::vector<std::string>& paths) {

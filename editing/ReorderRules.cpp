@@ -5,6 +5,25 @@
 #include "prefs/RuleList.h"
 
 namespace tarnwick {
+namespace {
+
+/// Above the row before this one, or above the row after it.
+long gapBeyond(long row, MoveDirection direction) {
+    return direction == MoveDirection::up ? row - 1 : row + 1;
+}
+
+} // namespace
+
+std::optional<long> ReorderRules::landing(RuleCategory category, long from, long to) const {
+    const auto& list = editor_.list(category);
+    if (!list.holds(from) || list.isFixed(static_cast<std::size_t>(from))) {
+        return std::nullopt;
+    }
+    const auto counted = editor_.list(factsOf(category).countedAtDrop).size();
+    const auto index = to == static_cast<long>(counted) ? to - 1 : to;
+    // Above the list or past the end of it without the record: the record stays where it was.
+    return list.holds(index) ? std::optional(index) : std::nullopt;
+}
 
 std::optional<long> ReorderRules::acceptDrop(
     std::optional<RuleCategory> target, std::optional<RuleCategory> source, long from, long to) {
@@ -12,25 +31,16 @@ std::optional<long> ReorderRules::acceptDrop(
         return std::nullopt;
     }
     editor_.endEditing();
-    const auto category = *target;
-    const auto& list = editor_.list(category);
-    if (!list.holds(from) || list.isFixed(static_cast<std::size_t>(from))) {
-        return std::nullopt;
+    const auto index = landing(*target, from, to);
+    if (index) {
+        editor_.move(*target, static_cast<std::size_t>(from), static_cast<std::size_t>(*index));
     }
-    const auto counted = editor_.list(factsOf(category).countedAtDrop).size();
-    const auto index = to == static_cast<long>(counted) ? to - 1 : to;
-    if (!list.holds(index)) {
-        // Above the list or past the end of it without the record: the record stays where it was.
-        return std::nullopt;
-    }
-    editor_.move(category, static_cast<std::size_t>(from), static_cast<std::size_t>(index));
     return index;
 }
 
 bool ReorderRules::canMoveSelection(RuleCategory category, MoveDirection direction) const {
     const auto row = tables_.selectedRow(category);
-    const auto rows = static_cast<long>(editor_.list(category).size());
-    return direction == MoveDirection::up ? row > 0 && row < rows : row >= 0 && row < rows - 1;
+    return landing(category, row, gapBeyond(row, direction)).value_or(row) != row;
 }
 
 void ReorderRules::moveSelection(RuleCategory category, MoveDirection direction) {
@@ -39,8 +49,7 @@ void ReorderRules::moveSelection(RuleCategory category, MoveDirection direction)
         return;
     }
     const auto row = tables_.selectedRow(category);
-    const auto gap = direction == MoveDirection::up ? row - 1 : row + 1;
-    if (const auto landed = acceptDrop(category, category, row, gap)) {
+    if (const auto landed = acceptDrop(category, category, row, gapBeyond(row, direction))) {
         tables_.selectRow(category, *landed);
     }
 }

@@ -43,13 +43,16 @@ public:
     std::optional<long> acceptDrop(
         std::optional<RuleCategory> target, std::optional<RuleCategory> source, long from, long to);
 
-    /// Whether the table has a selected row with another one on that side of it.
+    /// Whether that drop would move the selected row at all.
     [[nodiscard]] bool canMoveSelection(RuleCategory category, MoveDirection direction) const;
     /// Drops the selected row into the gap above the row before it, or above the row after it, whatever that
     /// drop does, and selects the record again where it landed.
     void moveSelection(RuleCategory category, MoveDirection direction);
 
 private:
+    /// The index at which that drop puts the record; nothing when it leaves the list alone.
+    [[nodiscard]] std::optional<long> landing(RuleCategory category, long from, long to) const;
+
     ListEditor& editor_;
     RuleTables& tables_;
 };

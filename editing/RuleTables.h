@@ -20,7 +20,10 @@ public:
     [[nodiscard]] virtual long numberOfRows(RuleCategory category) const = 0;
     /// Selects this row alone; a row that the table does not have changes nothing.
     virtual void selectRow(RuleCategory category, long row) = 0;
+    /// Brings the row into sight and leaves the selection as it is.
+    virtual void scrollToRow(RuleCategory category, long row) = 0;
     virtual void deselectAll(RuleCategory category) = 0;
+    [[nodiscard]] virtual bool removeButtonIsEnabled(RuleCategory category) const = 0;
     virtual void setRemoveButtonEnabled(RuleCategory category, bool enabled) = 0;
 };
 

@@ -9,15 +9,17 @@
 namespace tarnwick {
 namespace {
 
+/// A target without a folder cannot be switched on.
+bool canBeOn(const RuleList& list, std::size_t index) {
+    return list.category() != RuleCategory::copyFilesTo || list[index].text(field::realPath) != undefinedPath;
+}
+
 RuleRecord switched(const RuleList& list, std::size_t index, std::string_view flag, bool on) {
     const auto& record = list[index];
     if (list.isFixed(index)) {
         return record;
     }
-    // A target without a folder cannot be switched on.
-    const auto allowed =
-        list.category() != RuleCategory::copyFilesTo || record.text(field::realPath) != undefinedPath;
-    return record.with(flag, on && allowed ? 1 : 0);
+    return record.with(flag, on && canBeOn(list, index) ? 1 : 0);
 }
 
 StepKind kindOf(std::string_view flag, bool on) {
@@ -36,6 +38,11 @@ void ToggleRules::set(RuleCategory category, long row, std::string_view field, b
         const auto index = static_cast<std::size_t>(row);
         editor_.replace(category, index, switched(list, index, field, on), kindOf(field, on));
     }
+}
+
+bool ToggleRules::canTurnOn(RuleCategory category, long row) const {
+    const auto& list = editor_.list(category);
+    return list.holds(row) && canBeOn(list, static_cast<std::size_t>(row));
 }
 
 void ToggleRules::enableAll(RuleCategory category) {

@@ -2,6 +2,8 @@
 
 #import "adapters/foundation/StringConversion.h"
 #import "front/ControlMaking.h"
+#import "front/MenuItems.h"
+#import "front/RuleMenu.h"
 #import "front/Selectors.h"
 #import "front/SettingsViewController.h"
 
@@ -13,53 +15,32 @@
 namespace tarnwick {
 namespace {
 
-NSUInteger modifierMask(KeyModifiers modifiers) {
-    switch (modifiers) {
-    case KeyModifiers::command:
-        break;
-    case KeyModifiers::shiftCommand:
-        return NSEventModifierFlagCommand | NSEventModifierFlagShift;
-    case KeyModifiers::optionCommand:
-        return NSEventModifierFlagCommand | NSEventModifierFlagOption;
-    }
-    return NSEventModifierFlagCommand;
-}
-
-NSMenuItem *makeItem(std::string_view title, SEL action, NSString *key, id target) {
-    NSMenuItem *item = [[[NSMenuItem alloc] initWithTitle:localizedText(title)
-                                                   action:action
-                                            keyEquivalent:key] autorelease];
-    [item setTarget:target];
-    return item;
-}
-
-NSMenuItem *makeItem(const MenuItemLayout &layout, SettingsViewController *controller) {
-    if (layout.command == Command::separator) {
-        return static_cast<NSMenuItem *>([NSMenuItem separatorItem]);
-    }
-    const auto action = actionOf(layout.command);
-    const unichar key = layout.key;
-    NSMenuItem *item =
-        makeItem(layout.title, action.selector, [NSString stringWithCharacters:&key length:key != 0 ? 1 : 0],
-            action.isTheControllers ? controller : nil);
-    if (layout.modifiers != KeyModifiers::command) {
-        [item setKeyEquivalentModifierMask:modifierMask(layout.modifiers)];
-    }
-    return item;
-}
-
 void addPages(NSMenu *menu, SettingsViewController *controller) {
     int number = 0;
     for (const auto page : allPages) {
-        [menu addItem:makeItem(layoutOf(page).title, actionOf(page), toNSString(std::to_string(++number)),
+        [menu addItem:makeMenuItem(layoutOf(page).title, actionOf(page), toNSString(std::to_string(++number)),
                           controller)];
     }
 }
 
+/// What other applications offer, which the system fills in.
+void addServices(NSMenuItem *item) {
+    NSMenu *services = [[[NSMenu alloc] initWithTitle:[item title]] autorelease];
+    [item setSubmenu:services];
+    [NSApp setServicesMenu:services];
+}
+
 NSMenu *makeMenu(const MenuLayout &layout, SettingsViewController *controller) {
+    if (layout.role == MenuRole::rules) {
+        return [[[RuleMenu alloc] initWithController:controller scope:RuleMenuScope::rowAndList] autorelease];
+    }
     NSMenu *menu = [[[NSMenu alloc] initWithTitle:localizedText(layout.title)] autorelease];
-    for (const auto &item : layout.items) {
-        [menu addItem:makeItem(item, controller)];
+    for (const auto &facts : layout.items) {
+        NSMenuItem *item = makeMenuItem(facts, controller);
+        [menu addItem:item];
+        if (facts.command == Command::services) {
+            addServices(item);
+        }
     }
     if (layout.role == MenuRole::pages) {
         addPages(menu, controller);
@@ -67,20 +48,29 @@ NSMenu *makeMenu(const MenuLayout &layout, SettingsViewController *controller) {
     return menu;
 }
 
+/// Tells the application of the menus that it adds to by itself.
+void announce(NSMenu *menu, MenuRole role) {
+    if (role == MenuRole::windows) {
+        [NSApp setWindowsMenu:menu];
+    } else if (role == MenuRole::help) {
+        [NSApp setHelpMenu:menu];
+    }
+}
+
 } // namespace
 
 void installMainMenu(SettingsViewController *controller) {
     NSMenu *bar = [[[NSMenu alloc] initWithTitle:localizedText("Tarnwick")] autorelease];
-    NSMenu *windows = nil;
     for (const auto &layout : menuBar()) {
-        NSMenu *menu = makeMenu(layout, controller);
-        NSMenuItem *item = makeItem(layout.title, nullptr, @"", nil);
-        [item setSubmenu:menu];
+        NSMenuItem *item = makeMenuItem(layout.title, nullptr, @"", nil);
+        [item setSubmenu:makeMenu(layout, controller)];
         [bar addItem:item];
-        windows = layout.role == MenuRole::windows ? menu : windows;
     }
     [NSApp setMainMenu:bar];
-    [NSApp setWindowsMenu:windows];
+    NSInteger place = 0;
+    for (const auto &layout : menuBar()) {
+        announce([[bar itemAtIndex:place++] submenu], layout.role);
+    }
 }
 
 } // namespace tarnwick

@@ -18,13 +18,16 @@ public:
     [[nodiscard]] long selectedRow(RuleCategory category) const override;
     [[nodiscard]] long numberOfRows(RuleCategory category) const override;
     void selectRow(RuleCategory category, long row) override;
+    void scrollToRow(RuleCategory category, long row) override;
     void deselectAll(RuleCategory category) override;
+    [[nodiscard]] bool removeButtonIsEnabled(RuleCategory category) const override;
     void setRemoveButtonEnabled(RuleCategory category, bool enabled) override;
 
     void showVersion(std::string_view text) override;
     /// The keyboard goes to the page's table.
     void showPage(Page page) override;
     void setPageButtonBackground(Page page, const Colour &colour) override;
+    void editSelectedRow(RuleCategory category, std::string_view column) override;
     void hideRestartButton() override;
     void setHelpTitleColour(const Colour &colour) override;
     void setUpDragging(RuleCategory category, std::uint32_t outside, std::uint32_t inside,

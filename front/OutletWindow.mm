@@ -3,6 +3,7 @@
 #import "adapters/foundation/StringConversion.h"
 #import "front/Colors.h"
 #import "front/KeyViewLoop.h"
+#import "front/RuleTableView.h"
 #import "front/SettingsViewController+Finding.h"
 
 #include "ui/WindowLayout.h"
@@ -68,12 +69,20 @@ void OutletWindow::selectRow(RuleCategory category, long row) {
     if (row >= 0 && row < numberOfRows(category)) {
         [table(category) selectRowIndexes:[NSIndexSet indexSetWithIndex:static_cast<NSUInteger>(row)]
                      byExtendingSelection:NO];
-        [table(category) scrollRowToVisible:row];
+        scrollToRow(category, row);
     }
+}
+
+void OutletWindow::scrollToRow(RuleCategory category, long row) {
+    [table(category) scrollRowToVisible:row];
 }
 
 void OutletWindow::deselectAll(RuleCategory category) {
     [table(category) deselectAll:nil];
+}
+
+bool OutletWindow::removeButtonIsEnabled(RuleCategory category) const {
+    return [[controller_ removeButtonOf:category] isEnabled];
 }
 
 void OutletWindow::setRemoveButtonEnabled(RuleCategory category, bool enabled) {
@@ -99,6 +108,13 @@ void OutletWindow::showPage(Page page) {
 
 void OutletWindow::setPageButtonBackground(Page page, const Colour &colour) {
     setLayerBackground([controller_ buttonOf:page], colorOf(colour));
+}
+
+void OutletWindow::editSelectedRow(RuleCategory category, std::string_view column) {
+    NSTableView *edited = table(category);
+    if ([edited isKindOfClass:[RuleTableView class]]) {
+        [static_cast<RuleTableView *>(edited) editSelectedRowInColumn:toNSString(column)];
+    }
 }
 
 void OutletWindow::hideRestartButton() {

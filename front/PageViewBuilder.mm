@@ -7,6 +7,7 @@
 #import "front/PageDropView.h"
 #import "front/PageFrame.h"
 #import "front/PreferenceSwitch.h"
+#import "front/RuleMenu.h"
 #import "front/RuleTableView.h"
 #import "front/Selectors.h"
 #import "front/SettingsViewController+Actions.h"
@@ -131,6 +132,10 @@ RuleTableView *makeTable(
     [table setAction:actions.click];
     [table setDataSource:controller];
     [table setDelegate:controller];
+    [table setMenu:[[[RuleMenu alloc] initWithController:controller
+                                                   scope:RuleMenuScope::rowAndList] autorelease]];
+    [table setEmptySpaceMenu:[[[RuleMenu alloc] initWithController:controller
+                                                             scope:RuleMenuScope::list] autorelease]];
     return table;
 }
 

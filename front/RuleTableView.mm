@@ -43,6 +43,7 @@ bool isTyped(NSEvent *event) {
 - (void)dealloc {
     [_nameColumn release];
     [_switchColumn release];
+    [_emptySpaceMenu release];
     [super dealloc];
 }
 
@@ -138,8 +139,8 @@ bool isTyped(NSEvent *event) {
     return controlIn([self viewAtColumn:column row:row makeIfNecessary:YES], wanted);
 }
 
-- (void)editSelectedName {
-    NSTextField *field = static_cast<NSTextField *>([self selectedControlInColumn:_nameColumn
+- (void)editSelectedRowInColumn:(NSString *)identifier {
+    NSTextField *field = static_cast<NSTextField *>([self selectedControlInColumn:identifier
                                                                           ofClass:[NSTextField class]]);
     if ([field isEditable]) {
         [[self window] makeFirstResponder:field];
@@ -155,6 +156,40 @@ bool isTyped(NSEvent *event) {
 
 - (void)toggleSelectedSwitch {
     [[self selectedControlInColumn:_switchColumn ofClass:[NSButton class]] performClick:self];
+}
+
+- (void)setEmptySpaceMenu:(NSMenu *)menu {
+    [_emptySpaceMenu autorelease];
+    _emptySpaceMenu = [menu retain];
+}
+
+/// As after a click there, what the menu offers is about the row.
+- (NSMenu *)menuForEvent:(NSEvent *)event {
+    // Ends a running edit first.
+    if (![[self window] makeFirstResponder:self]) {
+        return nil;
+    }
+    const NSInteger row = [self rowAtPoint:[self convertPoint:[event locationInWindow] fromView:nil]];
+    if (row < 0) {
+        [self deselectAll:self];
+    } else {
+        [self selectRowIndexes:[NSIndexSet indexSetWithIndex:static_cast<NSUInteger>(row)]
+            byExtendingSelection:NO];
+    }
+    [self sendAction:[self action] to:[self target]];
+    return row < 0 ? _emptySpaceMenu : [self menu];
+}
+
+/// Below the selected row.
+- (void)showMenuOfSelectedRow {
+    const NSInteger row = [self selectedRow];
+    if (row < 0) {
+        return;
+    }
+    [self scrollRowToVisible:row];
+    constexpr CGFloat indentation = 40;
+    const NSPoint place = NSMakePoint(indentation, NSMaxY([self rectOfRow:row]));
+    [[self menu] popUpMenuPositioningItem:nil atLocation:place inView:self];
 }
 
 - (void)keyDown:(NSEvent *)event {
@@ -174,13 +209,16 @@ bool isTyped(NSEvent *event) {
         return;
     case NSCarriageReturnCharacter:
     case NSEnterCharacter:
-        [self editSelectedName];
+        [self editSelectedRowInColumn:_nameColumn];
         return;
     case ' ':
         [self toggleSelectedSwitch];
         return;
     case escape:
         [NSApp sendAction:@selector(closeFindBar:) to:[self target] from:self];
+        return;
+    case NSMenuFunctionKey:
+        [self showMenuOfSelectedRow];
         return;
     default:
         [super keyDown:event];

@@ -70,6 +70,7 @@ CommandAction actionOf(Command command) {
     constexpr bool anyones = false;
     switch (command) {
     case Command::separator:
+    case Command::services:
         break;
     case Command::about:
         return {
@@ -102,10 +103,6 @@ CommandAction actionOf(Command command) {
     case Command::quit:
         return {
             @selector(terminate:), anyones
-        };
-    case Command::addRule:
-        return {
-            @selector(addRuleOfCurrentPage:), controllers
         };
     case Command::exportSettings:
         return {
@@ -155,13 +152,21 @@ CommandAction actionOf(Command command) {
         return {
             @selector(findPreviousRule:), controllers
         };
+    case Command::rename:
+    case Command::editNote:
+    case Command::turnOnOrOff:
+    case Command::showInMainMenu:
+    case Command::chooseFolder:
+    case Command::showInFinder:
+    case Command::openTemplate:
     case Command::moveUp:
-        return {
-            @selector(moveSelectedRuleUp:), controllers
-        };
     case Command::moveDown:
+    case Command::removeRule:
+    case Command::addRule:
+    case Command::resetList:
+    case Command::enableAll:
         return {
-            @selector(moveSelectedRuleDown:), controllers
+            @selector(performRuleCommand:), controllers
         };
     case Command::minimize:
         return {

@@ -131,15 +131,11 @@
 
 /// The category of the page that is shown; nothing on the page of further apps.
 - (std::optional<tarnwick::RuleCategory>)shownCategory;
-
-/// Presses the add button of the page that is shown; the page of further apps has none.
-- (void)addRuleOfCurrentPage:(id)sender;
+/// The command that is the item's tag, on the list that is shown.
+- (void)performRuleCommand:(NSMenuItem *)sender;
 - (void)exportSettings:(id)sender;
 - (void)importSettings:(id)sender;
-/// One place up or down in the list of the page that is shown.
-- (void)moveSelectedRuleUp:(id)sender;
-- (void)moveSelectedRuleDown:(id)sender;
-/// Marks the script helper's item while the script is installed; disables what cannot be done just now.
+/// Marks what is on, the page that is shown among it; disables what cannot be done just now, and says why.
 - (BOOL)validateMenuItem:(NSMenuItem *)item;
 
 @end

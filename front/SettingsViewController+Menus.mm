@@ -1,28 +1,51 @@
 #import "front/SettingsViewController+Actions.h"
 
+#import "adapters/foundation/StringConversion.h"
+#import "front/ControlMaking.h"
 #import "front/Selectors.h"
 #import "front/SettingsViewController+Finding.h"
 
 #include "ui/WindowLayout.h"
 
-using tarnwick::MoveDirection;
+using tarnwick::Command;
+using tarnwick::Page;
 
-@implementation SettingsViewController (Menus)
+namespace {
 
-- (std::optional<tarnwick::RuleCategory>)shownCategory {
-    const NSInteger shown = [_tabView indexOfTabViewItem:[_tabView selectedTabViewItem]];
+void mark(NSMenuItem *item, bool on, bool mixed = false) {
+    [item setState:mixed ? NSControlStateValueMixed : on ? NSControlStateValueOn : NSControlStateValueOff];
+}
+
+std::optional<Page> pageShownBy(SEL action) {
     for (const auto page : tarnwick::allPages) {
-        if (shown == static_cast<NSInteger>(page)) {
-            return tarnwick::layoutOf(page).category;
+        if (sel_isEqual(action, tarnwick::actionOf(page))) {
+            return page;
         }
     }
     return std::nullopt;
 }
 
-- (void)addRuleOfCurrentPage:(id)sender {
-    if (const auto category = [self shownCategory]) {
-        [NSApp sendAction:tarnwick::actionsOf(*category).add to:self from:sender];
+} // namespace
+
+@implementation SettingsViewController (Menus)
+
+- (std::optional<Page>)shownPage {
+    const NSInteger shown = [_tabView indexOfTabViewItem:[_tabView selectedTabViewItem]];
+    for (const auto page : tarnwick::allPages) {
+        if (shown == static_cast<NSInteger>(page)) {
+            return page;
+        }
     }
+    return std::nullopt;
+}
+
+- (std::optional<tarnwick::RuleCategory>)shownCategory {
+    const auto page = [self shownPage];
+    return page ? tarnwick::layoutOf(*page).category : std::nullopt;
+}
+
+- (void)performRuleCommand:(NSMenuItem *)sender {
+    _controller->commands().perform([self shownCategory], static_cast<Command>([sender tag]));
 }
 
 - (void)exportSettings:(id)sender {
@@ -33,38 +56,25 @@ using tarnwick::MoveDirection;
     _controller->importSettings();
 }
 
-- (void)moveSelectedRule:(MoveDirection)direction {
-    if (const auto category = [self shownCategory]) {
-        _controller->moveSelectedRule(*category, direction);
+- (BOOL)validateRuleItem:(NSMenuItem *)item {
+    const auto state = _controller->commands().state([self shownCategory], static_cast<Command>([item tag]));
+    if (!state.title.empty()) {
+        [item setTitle:tarnwick::localizedText(state.title)];
     }
-}
-
-- (BOOL)canMoveSelectedRule:(MoveDirection)direction {
-    const auto category = [self shownCategory];
-    return category && _controller->canMoveSelectedRule(*category, direction);
-}
-
-- (void)moveSelectedRuleUp:(id)sender {
-    [self moveSelectedRule:MoveDirection::up];
-}
-
-- (void)moveSelectedRuleDown:(id)sender {
-    [self moveSelectedRule:MoveDirection::down];
+    mark(item, state.isOn, state.isMixed);
+    [item setToolTip:state.isPossible() ? nil : tarnwick::localizedText(state.obstacle)];
+    return state.isPossible();
 }
 
 - (BOOL)validateMenuItem:(NSMenuItem *)item {
     const SEL action = [item action];
+    if (sel_isEqual(action, @selector(performRuleCommand:))) {
+        return [self validateRuleItem:item];
+    }
     if (sel_isEqual(action, @selector(doInstallScript))) {
-        [item setState:[self checkScriptInstalled] ? NSControlStateValueOn : NSControlStateValueOff];
-    }
-    if (sel_isEqual(action, @selector(addRuleOfCurrentPage:))) {
-        return [self shownCategory].has_value();
-    }
-    if (sel_isEqual(action, @selector(moveSelectedRuleUp:))) {
-        return [self canMoveSelectedRule:MoveDirection::up];
-    }
-    if (sel_isEqual(action, @selector(moveSelectedRuleDown:))) {
-        return [self canMoveSelectedRule:MoveDirection::down];
+        mark(item, [self checkScriptInstalled]);
+    } else if (const auto page = pageShownBy(action)) {
+        mark(item, page == [self shownPage]);
     }
     if (sel_isEqual(action, @selector(showFindBar:))) {
         return [self canShowFindBar];

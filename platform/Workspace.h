@@ -22,6 +22,10 @@ public:
     virtual ~Workspace() = default;
     /// Opens an address in its default handler.
     virtual void openURL(std::string_view address) = 0;
+    /// Opens a file in the application that the user has for its kind.
+    virtual void openFile(const std::string& path) = 0;
+    /// Shows a file or folder, selected, in the folder that it lies in.
+    virtual void showInFileViewer(const std::string& path) = 0;
     virtual void launchApplication(const std::string& path) = 0;
     /// Where the preferred copy of an application is; nothing when none is known.
     [[nodiscard]] virtual std::optional<std::string> applicationPath(

@@ -38,6 +38,11 @@ bool isOwned(const RuleList& templates, const std::string& name) {
 
 } // namespace
 
+std::optional<std::string> TemplateFiles::file(const RuleRecord& record) const {
+    auto path = templatePath(folders_, templateFileName(record));
+    return path && files_.exists(*path) ? path : std::nullopt;
+}
+
 void TemplateFiles::begin(const TemplateWork& work, const RuleList& changed) {
     auto noted = work;
     if (auto* held = std::get_if<TemplatesPutBack>(&noted)) {

@@ -15,6 +15,7 @@ class HeldFiles;
 class KnownFolders;
 class LocalPreferences;
 class RuleList;
+class RuleRecord;
 class SystemLog;
 struct TemplateNote;
 
@@ -30,6 +31,9 @@ public:
     TemplateFiles(FileManager& files, const KnownFolders& folders, const ApplicationBundle& bundle,
         SystemLog& log, LocalPreferences& local, HeldFiles& held)
         : files_(files), folders_(folders), bundle_(bundle), log_(log), local_(local), held_(held) {}
+
+    /// Where the record's file is; nothing when there is none.
+    [[nodiscard]] std::optional<std::string> file(const RuleRecord& record) const;
 
     /// Before the changed list is stored: notes the work.
     void begin(const TemplateWork& work, const RuleList& changed);

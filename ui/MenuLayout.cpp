@@ -14,6 +14,8 @@ constexpr std::array applicationMenu{
     MenuItemLayout{"Install Script Helper\u2026", Command::installScriptHelper},
     MenuItemLayout{"Initialize All Settings\u2026", Command::initialize},
     separator,
+    MenuItemLayout{"Services", Command::services},
+    separator,
     MenuItemLayout{"Hide Tarnwick", Command::hide, u'h'},
     MenuItemLayout{"Hide Others", Command::hideOthers, u'h', KeyModifiers::optionCommand},
     MenuItemLayout{"Show All", Command::showAll},
@@ -22,8 +24,6 @@ constexpr std::array applicationMenu{
 };
 
 constexpr std::array fileMenu{
-    MenuItemLayout{"Add\u2026", Command::addRule, u'n'},
-    separator,
     MenuItemLayout{"Export Settings\u2026", Command::exportSettings},
     MenuItemLayout{"Import Settings\u2026", Command::importSettings},
     separator,
@@ -42,9 +42,26 @@ constexpr std::array editMenu{
     MenuItemLayout{"Find\u2026", Command::find, u'f'},
     MenuItemLayout{"Find Next", Command::findNext, u'g'},
     MenuItemLayout{"Find Previous", Command::findPrevious, u'g', KeyModifiers::shiftCommand},
+};
+
+constexpr std::array rules{
+    MenuItemLayout{"Rename", Command::rename, returnKey, KeyModifiers::none},
+    MenuItemLayout{"Edit Note", Command::editNote, u'e'},
+    MenuItemLayout{"Turn On", Command::turnOnOrOff, spaceKey, KeyModifiers::none},
+    MenuItemLayout{"Show in Main Menu", Command::showInMainMenu, u'm', KeyModifiers::shiftCommand},
+    separator,
+    MenuItemLayout{"Choose Folder\u2026", Command::chooseFolder},
+    MenuItemLayout{"Show in Finder", Command::showInFinder, u'r', KeyModifiers::shiftCommand},
+    MenuItemLayout{"Open Template", Command::openTemplate, u'o'},
     separator,
     MenuItemLayout{"Move Up", Command::moveUp, upArrowKey, KeyModifiers::optionCommand},
     MenuItemLayout{"Move Down", Command::moveDown, downArrowKey, KeyModifiers::optionCommand},
+    separator,
+    MenuItemLayout{"Remove", Command::removeRule, deleteKey, KeyModifiers::none},
+    separator,
+    MenuItemLayout{"Add\u2026", Command::addRule, u'n'},
+    MenuItemLayout{"Reset List", Command::resetList},
+    MenuItemLayout{"Enable All", Command::enableAll},
 };
 
 constexpr std::array windowMenu{
@@ -66,14 +83,19 @@ constexpr std::array menus{
     MenuLayout{"File", fileMenu},
     MenuLayout{"Edit", editMenu},
     MenuLayout{"View", {}, MenuRole::pages},
+    MenuLayout{"Rule", rules, MenuRole::rules},
     MenuLayout{"Window", windowMenu, MenuRole::windows},
-    MenuLayout{"Help", helpMenu},
+    MenuLayout{"Help", helpMenu, MenuRole::help},
 };
 
 } // namespace
 
 std::span<const MenuLayout> menuBar() {
     return menus;
+}
+
+std::span<const MenuItemLayout> ruleMenu() {
+    return rules;
 }
 
 } // namespace tarnwick

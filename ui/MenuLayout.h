@@ -15,8 +15,8 @@ enum class Command {
     hide,
     hideOthers,
     showAll,
+    services,
     quit,
-    addRule,
     exportSettings,
     importSettings,
     closeWindow,
@@ -29,8 +29,19 @@ enum class Command {
     find,
     findNext,
     findPrevious,
+    rename,
+    editNote,
+    turnOnOrOff,
+    showInMainMenu,
+    chooseFolder,
+    showInFinder,
+    openTemplate,
     moveUp,
     moveDown,
+    removeRule,
+    addRule,
+    resetList,
+    enableAll,
     minimize,
     zoom,
     bringAllToFront,
@@ -39,10 +50,15 @@ enum class Command {
     openServicesSettings,
 };
 
-/// The keys held down together with an item's own.
-enum class KeyModifiers { command, shiftCommand, optionCommand };
+/// The keys held down together with an item's own. Keys without any are those of the table: a menu only
+/// shows them.
+enum class KeyModifiers { none, command, shiftCommand, optionCommand };
 
-/// The function keys that items have, as the platform numbers them.
+/// The keys that items have and that are no letters, as the platform numbers them.
+inline constexpr char16_t returnKey = 0x0D;
+inline constexpr char16_t spaceKey = 0x20;
+/// The one that removes what is left of the insertion point.
+inline constexpr char16_t deleteKey = 0x08;
 inline constexpr char16_t upArrowKey = 0xF700;
 inline constexpr char16_t downArrowKey = 0xF701;
 
@@ -56,16 +72,19 @@ struct MenuItemLayout {
 };
 
 /// What the platform needs to know of a menu.
-enum class MenuRole { ordinary, pages, windows };
+enum class MenuRole { ordinary, pages, rules, windows, help };
 
 struct MenuLayout {
     std::string_view title;
-    /// The menu of pages has an item for each page instead.
+    /// The menu of pages has an item for each page instead; of the menu of rules, what the list that is shown
+    /// has stands there.
     std::span<const MenuItemLayout> items;
     MenuRole role = MenuRole::ordinary;
 };
 
 /// The menu bar, from the left.
 [[nodiscard]] std::span<const MenuLayout> menuBar();
+/// The items of the menu of rules, for the menu bar and for the rows of the tables.
+[[nodiscard]] std::span<const MenuItemLayout> ruleMenu();
 
 } // namespace tarnwick

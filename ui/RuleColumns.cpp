@@ -70,7 +70,8 @@ constexpr std::array createNewFileColumns{
         .cell = &RuleCells::checkBox,
         .frame = mainMenuFrame,
         .field = field::enableMainMenu,
-        .centredTitle = true},
+        .centredTitle = true,
+        .role = ColumnRole::mainMenuSwitch},
 };
 
 constexpr std::array copyFilesToColumns{
@@ -110,7 +111,8 @@ constexpr std::array othersColumns{
         .cell = &RuleCells::note,
         .frame = nameFrame,
         .flexible = true,
-        .isSearched = true},
+        .isSearched = true,
+        .role = ColumnRole::note},
 };
 
 constexpr PerCategory<std::span<const Column>> columns{

@@ -9,8 +9,8 @@
 
 namespace tarnwick {
 
-/// What the keyboard and those who do not see a table need of a column.
-enum class ColumnRole { none, name, enableSwitch };
+/// What the menus, the keyboard and those who do not see a table need of a column.
+enum class ColumnRole { none, name, note, enableSwitch, mainMenuSwitch };
 
 /// A column of a table: how wide it is, what its cells show and what they say of themselves. Texts are keys
 /// of the localisation table; sizes are points.

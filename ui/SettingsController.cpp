@@ -29,7 +29,8 @@ SettingsController::SettingsController(const Ports& ports, SettingsWindow& windo
       editing_(ports, preferences_, window, stepNames_),
       transfer_(ports, preferences_, editing_.editor, window, stepNames_), integration_(ports, preferences_),
       rows_(preferences_.lists, ports.folders, ports.bundle, ports.images),
-      finding_(preferences_.lists, rows_, ports.bundle, editing_.editor, window) {}
+      finding_(preferences_.lists, rows_, ports.bundle, editing_.editor, window),
+      commands_(*this, preferences_, editing_, ports.workspace, window) {}
 
 void SettingsController::awakeFromNib() {
     preferences_.loading.prepareStoresAndFolders();
@@ -89,6 +90,13 @@ void SettingsController::tableClicked(RuleCategory category) {
         category, list.holds(row) && !list.isProtected(static_cast<std::size_t>(row)));
 }
 
+void SettingsController::turnAllOnOrOff(RuleCategory category) {
+    if (const auto key = factsOf(category).enableAllKey; !key.empty()) {
+        preferences_.local.set(key, !preferences_.local.flag(key));
+        enableAll(category);
+    }
+}
+
 void SettingsController::switchChanged(std::string_view key, const PlistValue& newValue) {
     mirrorSwitch(stores_, key, newValue);
 }
@@ -96,10 +104,6 @@ void SettingsController::switchChanged(std::string_view key, const PlistValue& n
 void SettingsController::acceptDrop(
     std::optional<RuleCategory> target, std::optional<RuleCategory> source, long from, long to) {
     editing_.reordering.acceptDrop(target, source, from, to);
-}
-
-bool SettingsController::canMoveSelectedRule(RuleCategory category, MoveDirection direction) const {
-    return editing_.reordering.canMoveSelection(category, direction);
 }
 
 void SettingsController::moveSelectedRule(RuleCategory category, MoveDirection direction) {

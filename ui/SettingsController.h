@@ -6,6 +6,7 @@
 #include "ui/Finding.h"
 #include "ui/LocalizedStepNames.h"
 #include "ui/Page.h"
+#include "ui/RuleCommands.h"
 #include "ui/RuleRows.h"
 #include "ui/SettingsTransfer.h"
 
@@ -66,12 +67,13 @@ public:
         editing_.toggling.set(category, row, field, on);
     }
     void enableAll(RuleCategory category) { editing_.toggling.enableAll(category); }
+    /// Turns the enable-all switch of a list that has one, and then the rules.
+    void turnAllOnOrOff(RuleCategory category);
     /// A mirrored key of `LocalPreferences` has a new value.
     void switchChanged(std::string_view key, const PlistValue& newValue);
 
     void acceptDrop(
         std::optional<RuleCategory> target, std::optional<RuleCategory> source, long from, long to);
-    [[nodiscard]] bool canMoveSelectedRule(RuleCategory category, MoveDirection direction) const;
     void moveSelectedRule(RuleCategory category, MoveDirection direction);
 
     /// A field with this identifier in this row has been edited.
@@ -80,6 +82,9 @@ public:
     /// When the process ends.
     void removeHeldFiles() { preferences_.held.removeAll(); }
     void selectPath(long row) { editing_.pathChoosing.selectPath(row); }
+
+    /// What can be done with the list that is shown and its selected row, as the menus offer it.
+    [[nodiscard]] RuleCommands& commands() { return commands_; }
 
     void exportSettings() { transfer_.exportSettings(); }
     void importSettings() { transfer_.importSettings(); }
@@ -105,6 +110,7 @@ private:
     SystemIntegration integration_;
     RuleRows rows_;
     Finding finding_;
+    RuleCommands commands_;
 };
 
 } // namespace tarnwick

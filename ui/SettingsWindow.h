@@ -19,6 +19,8 @@ public:
     virtual void showPage(Page page) = 0;
     /// The background of the page button's layer.
     virtual void setPageButtonBackground(Page page, const Colour& colour) = 0;
+    /// Begins to edit the text that the selected row of the table has in this column.
+    virtual void editSelectedRow(RuleCategory category, std::string_view column) = 0;
     virtual void hideRestartButton() = 0;
     /// The same title of the help button, centred, in this colour.
     virtual void setHelpTitleColour(const Colour& colour) = 0;

@@ -16,6 +16,10 @@ public:
             [workspace() openURL:url];
         }
     }
+    void openFile(const std::string &path) override { [workspace() openFile:toNSString(path)]; }
+    void showInFileViewer(const std::string &path) override {
+        [workspace() selectFile:toNSString(path) inFileViewerRootedAtPath:@""];
+    }
     void launchApplication(const std::string &path) override {
         [workspace() launchApplication:toNSString(path)];
     }

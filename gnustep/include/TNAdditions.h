@@ -70,3 +70,9 @@
 /// of the item's upper left corner, the menu's without one; it is the screen's without a view.
 - (BOOL)popUpMenuPositioningItem:(NSMenuItem *)item atLocation:(NSPoint)location inView:(NSView *)view;
 @end
+
+// HelpMenu.mm
+@interface NSApplication (TNHelpMenu)
+- (void)setHelpMenu:(NSMenu *)menu;
+- (NSMenu *)helpMenu;
+@end

@@ -46,7 +46,6 @@ void mouseDown(id self, SEL command, NSEvent *event) {
         object_getClass(self), @selector(popUpContextMenu:withEvent:forView:withFont:), popUpContextMenu);
 }
 
-// Ahead of its first caller.
 - (BOOL)popUpMenuPositioningItem:(NSMenuItem *)item atLocation:(NSPoint)location inView:(NSView *)view {
     const NSPoint place =
         view ? [[view window] convertBaseToScreen:[view convertPoint:location toView:nil]] : location;

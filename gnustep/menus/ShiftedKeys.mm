@@ -1,5 +1,6 @@
 // Wrong: menu items with a small letter and Shift among their keys, as of GNUstep GUI 0.29, which compares
-// the letter with the capital one that Shift gives, and so never chooses them.
+// the letter with the capital one that Shift gives, and so never chooses them. And menus whose delegate puts
+// other items there just then: it goes on through as many as there were.
 
 #import <AppKit/AppKit.h>
 
@@ -35,11 +36,15 @@ void perform(NSMenu *menu, NSMenuItem *item) {
 }
 
 BOOL performKey(id self, SEL command, NSEvent *event) {
+    NSMenu *menu = self;
+    if ([menu delegate]) {
+        // It may put other items there, which the native method would only do once it has counted them.
+        [menu update];
+    }
     NSString *letter = [[event charactersIgnoringModifiers] lowercaseString];
     if ([letter isEqualToString:[letter uppercaseString]]) {
         return nativePerformKey(self, command, event);
     }
-    NSMenu *menu = self;
     for (NSMenuItem *item in [menu itemArray]) {
         if ([item hasSubmenu]) {
             if ([[item submenu] performKeyEquivalent:event]) {

@@ -1,5 +1,6 @@
 // Missing: opening in other applications and news of them, as of GNUstep GUI 0.29, whose NSWorkspace shows a
-// modal panel for a web address, opens nothing else, and never tells of activations.
+// modal panel for a web address, opens nothing else, shows no file in its folder, and never tells of
+// activations.
 
 #import "gnustep/start/Workspace.h"
 
@@ -16,15 +17,19 @@ namespace {
 
 NSString *opener = @"/usr/bin/xdg-open";
 
-/// Whether the opener could be started; it is not waited for.
-BOOL openInOpener(NSString *argument) {
+/// Whether the program could be started; it is not waited for. `what` is for the message if not.
+BOOL launch(NSString *program, NSArray *arguments, NSString *what) {
     @try {
-        [NSTask launchedTaskWithLaunchPath:opener arguments:[NSArray arrayWithObject:argument]];
+        [NSTask launchedTaskWithLaunchPath:program arguments:arguments];
         return YES;
     } @catch (NSException *exception) {
-        NSLog(@"%@ could not be opened: %@", argument, [exception reason]);
+        NSLog(@"%@ could not be opened: %@", what, [exception reason]);
         return NO;
     }
+}
+
+BOOL openInOpener(NSString *argument) {
+    return launch(opener, [NSArray arrayWithObject:argument], argument);
 }
 
 BOOL openURL(id, SEL, NSURL *address) {
@@ -33,6 +38,25 @@ BOOL openURL(id, SEL, NSURL *address) {
 
 BOOL openFile(id, SEL, NSString *path) {
     return path && openInOpener(path);
+}
+
+/// Asks the desktop's file manager, by the name that all of them answer to, for the file with the address $1.
+/// Where nobody answers, the folder $3 is opened by the program $2.
+NSString *const showingScript = @"dbus-send --session --print-reply --dest=org.freedesktop.FileManager1 "
+                                @"/org/freedesktop/FileManager1 org.freedesktop.FileManager1.ShowItems "
+                                @"\"array:string:$1\" string: >/dev/null 2>&1 || exec \"$2\" \"$3\"";
+
+BOOL selectFile(id, SEL, NSString *path, NSString *) {
+    if (!path) {
+        return NO;
+    }
+    // A comma would end the address, of which there may be several.
+    NSString *address =
+        [[[NSURL fileURLWithPath:path] absoluteString] stringByReplacingOccurrencesOfString:@","
+                                                                                 withString:@"%2C"];
+    NSString *folder = [path stringByDeletingLastPathComponent];
+    return launch(@"/bin/sh",
+        [NSArray arrayWithObjects:@"-c", showingScript, @"sh", address, opener, folder, nil], path);
 }
 
 } // namespace
@@ -52,6 +76,7 @@ void TNUseOpener(NSString *path) {
 + (void)load {
     TNReplaceMethod(self, @selector(openURL:), openURL);
     TNReplaceMethod(self, @selector(openFile:), openFile);
+    TNReplaceMethod(self, @selector(selectFile:inFileViewerRootedAtPath:), selectFile);
 }
 
 @end

@@ -13,10 +13,10 @@ TEST_F(AddPathsTest, AreAddedStoredReloadedAndPublishedButRememberNoFolder) {
     editing_.adding.addDropped(RuleCategory::commonPath, {{"/a/Zoo", true}, {"/b/Attic", true}});
     EXPECT_EQ(texts(localList(RuleCategory::commonPath), "displayName"),
         (std::vector<std::string>{"Zoo", "Attic"}));
-    EXPECT_EQ(
-        platform_.log.lines(), (std::vector<std::string>{"local set arrOfCommonPath", "local synchronise",
-                                   "reload commonPath", "shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
-                                   "shared set arrOfCommonPath", "shared synchronise"}));
+    EXPECT_EQ(platform_.log.lines(),
+        (std::vector<std::string>{"local set arrOfCommonPath", "local synchronise", "reload commonPath",
+            "shared open H7Q2ZK5RX9.org.halvane.Tarnwick", "shared set arrOfCommonPath", "shared synchronise",
+            "scroll commonPath 1"}));
 }
 
 TEST_F(AddPathsTest, NoPathsDoNothing) {

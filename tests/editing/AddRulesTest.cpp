@@ -41,6 +41,19 @@ TEST_F(AddRulesTest, TheSameFolderAddedTwiceYieldsTwoEqualRecords) {
     EXPECT_EQ(list[0], list[1]);
 }
 
+TEST_F(AddRulesTest, TheLastNewRowIsScrolledToAndTheSelectionStays) {
+    choose(RuleCategory::commonPath, {"/a/Zoo"});
+    tables_.table(RuleCategory::commonPath).selected = 0;
+    choose(RuleCategory::commonPath, {"/b/Attic", "/c/Mill"});
+    EXPECT_EQ(platform_.log.lines().back(), "scroll commonPath 2");
+    EXPECT_EQ(tables_.table(RuleCategory::commonPath).selected, 0);
+}
+
+TEST_F(AddRulesTest, NothingIsScrolledToWhenNothingWasAdded) {
+    choose(RuleCategory::createNewFile, {"/nowhere/Gone.txt"});
+    EXPECT_TRUE(platform_.log.linesWith("scroll ").empty());
+}
+
 TEST_F(AddRulesTest, ATemplateIsCopiedUnderItsOwnNameBeforeItsRecordIsMade) {
     platform_.files.files["/home/Archive.tar.gz"] = "archive";
     choose(RuleCategory::createNewFile, {"/home/Archive.tar.gz"});
@@ -121,7 +134,7 @@ TEST_F(AddRulesTest, TheFolderIsRememberedThenTheListStoredThenTheTableReloadedT
     EXPECT_EQ(platform_.log.lines(),
         (std::vector<std::string>{"local set prePathOfSendFilesTo", "local set arrOfCopyFilesTo",
             "local synchronise", "reload copyFilesTo", "shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
-            "shared set arrOfCopyFilesTo", "shared synchronise"}));
+            "shared set arrOfCopyFilesTo", "shared synchronise", "scroll copyFilesTo 0"}));
 }
 
 TEST_F(AddRulesTest, OthersRemembersNoFolder) {

@@ -73,31 +73,51 @@ TEST_F(MoveSelectionTest, NothingMovesWithoutASelectionOrPastTheEnds) {
 TEST_F(MoveSelectionTest, AFixedItemStaysWhereItIsAndSelected) {
     launch();
     constexpr auto category = RuleCategory::others;
+    constexpr long translation = 16;
     const auto before = others();
-    auto& table = tables_.table(category);
-    for (table.selected = 0; editing_.reordering.canMoveSelection(category, down); ++table.selected) {
-        const auto row = static_cast<std::size_t>(table.selected);
-        if (list(category)[row].text(field::action) == "Translate by Google") {
-            break;
-        }
+    tables_.table(category).selected = translation;
+    ASSERT_EQ(list(category)[translation].text(field::action), "Translate by Google");
+    for (const auto direction : {up, down}) {
+        EXPECT_FALSE(editing_.reordering.canMoveSelection(category, direction));
+        editing_.reordering.moveSelection(category, direction);
     }
-    const auto row = table.selected;
-    platform_.log.clear();
-    editing_.reordering.moveSelection(category, up);
     EXPECT_EQ(others(), before);
-    EXPECT_EQ(table.selected, row);
+    EXPECT_EQ(selected(category), translation);
     EXPECT_TRUE(platform_.log.linesWith("local set").empty());
 }
 
-TEST_F(MoveSelectionTest, AnOthersItemAboveTheNumberOfIconsIsDroppedWhereItWas) {
+/// As many custom icons as that, which are counted when an item of Others is dropped.
+class MoveAmongOthersTest : public MoveSelectionTest, public ::testing::WithParamInterface<int> {};
+
+TEST_P(MoveAmongOthersTest, IsOfferedExactlyWhenTheDropMovesTheItem) {
+    launch();
+    editing_.editor.assign(RuleCategory::customIcon,
+        std::vector<RuleRecord>(static_cast<std::size_t>(GetParam()), RuleRecord()), StepKind::enableAll);
+    constexpr auto category = RuleCategory::others;
+    const auto before = list(category).records();
+    int offered = 0;
+    for (long row = 0; row < rows(category); ++row) {
+        for (const auto direction : {up, down}) {
+            tables_.table(category).selected = row;
+            const auto can = editing_.reordering.canMoveSelection(category, direction);
+            offered += can ? 1 : 0;
+            editing_.reordering.acceptDrop(category, category, row, direction == up ? row - 1 : row + 1);
+            EXPECT_EQ(can, list(category).records() != before) << row << (direction == up ? " up" : " down");
+            editing_.editor.assign(category, before, StepKind::enableAll);
+        }
+    }
+    EXPECT_GT(offered, 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Icons, MoveAmongOthersTest, ::testing::Values(0, 1, 3, 8, 17, 18, 20));
+
+TEST_F(MoveSelectionTest, AnItemThatTheNumberOfIconsHoldsBackIsNotStoredAnew) {
     storeLetters(RuleCategory::customIcon, "123");
     launch();
     constexpr auto category = RuleCategory::others;
-    const auto before = others();
     tables_.table(category).selected = 2;
     editing_.reordering.moveSelection(category, down);
-    // The gap is counted against the custom icons: there it is the last one.
-    EXPECT_EQ(others(), before);
+    EXPECT_TRUE(platform_.log.lines().empty());
     EXPECT_EQ(selected(category), 2);
 }
 

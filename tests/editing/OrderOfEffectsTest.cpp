@@ -18,18 +18,20 @@ INSTANTIATE_TEST_SUITE_P(Adding, OrderOfEffectsTest,
                                   "copy /home/Letter.txt -> " + templates + "Letter.txt",
                                   "local set prePathOfCreateNewFile"} +
                               Lines{"local set arrOfCreateNewFile"} + forgotten() +
-                              Lines{"local synchronise", "reload createNewFile"} + publishedTemplates()},
+                              Lines{"local synchronise", "reload createNewFile"} + publishedTemplates() +
+                              Lines{"scroll createNewFile 15"}},
         Effects{"Targets", [](auto& window) { window.add(RuleCategory::copyFilesTo, {"/a/Zoo"}); },
             Lines{"open panel", "local set prePathOfSendFilesTo"} + stored("arrOfCopyFilesTo") +
-                Lines{"reload copyFilesTo"} + publishedTargets()},
+                Lines{"reload copyFilesTo"} + publishedTargets() + Lines{"scroll copyFilesTo 3"}},
         Effects{"Paths", [](auto& window) { window.add(RuleCategory::commonPath, {"/a/Zoo"}); },
             Lines{"open panel", "local set prePathOfCommonPath"} + stored("arrOfCommonPath") +
-                Lines{"reload commonPath"} + publishedPaths()},
+                Lines{"reload commonPath"} + publishedPaths() + Lines{"scroll commonPath 3"}},
         Effects{"Icons", [](auto& window) { window.add(RuleCategory::customIcon, {"/home/Blue.png"}); },
             Lines{"open panel", "local set prePathOfCustomIcon"} + stored("arrOfCustomIcon") +
-                Lines{"reload customIcon"} + publishedIcons()},
+                Lines{"reload customIcon"} + publishedIcons() + Lines{"scroll customIcon 20"}},
         Effects{"Others", [](auto& window) { window.add(RuleCategory::others, {"/x/Cut.png"}); },
-            Lines{"open panel"} + stored("arrOfOthers") + Lines{"reload others"} + publishedOthers()}),
+            Lines{"open panel"} + stored("arrOfOthers") + Lines{"reload others"} + publishedOthers() +
+                Lines{"scroll others 18"}}),
     nameOf);
 
 INSTANTIATE_TEST_SUITE_P(Removing, OrderOfEffectsTest,

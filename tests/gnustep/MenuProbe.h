@@ -19,6 +19,10 @@ std::string labelOfArrowUp();
 /// Whether an item with these keys and Command is chosen when others are pressed with it.
 bool isChosenBy(const Keys& item, const Keys& pressed);
 
+/// Whether Command and the upward arrow choose the one item that a menu of three has when it is asked for
+/// keys; its delegate puts it there.
+bool isChosenWhenPutThere();
+
 /// What happened while a menu popped up and these characters were typed: "will open", "chosen Three", "did
 /// close", "answer yes". Its items are One, which is disabled, a separator, Two, and Three with a submenu of
 /// Four and Five.

@@ -33,6 +33,22 @@
 
 @end
 
+/// Leaves one item in its menu, for Command and the upward arrow.
+@interface TNFillingWitness : TNMenuWitness
+@end
+
+@implementation TNFillingWitness
+
+- (void)menuNeedsUpdate:(NSMenu *)menu {
+    while ([menu numberOfItems] > 1) {
+        [menu removeItemAtIndex:0];
+    }
+    const unichar key = NSUpArrowFunctionKey;
+    [[menu itemAtIndex:0] setKeyEquivalent:[NSString stringWithCharacters:&key length:1]];
+}
+
+@end
+
 namespace tarnwick::probe {
 
 namespace {
@@ -53,6 +69,20 @@ NSMenuItem *itemWith(const Keys &keys, id target) {
     NSMenuItem *item = makeItem(@"Item", target, [NSString stringWithUTF8String:keys.character.c_str()]);
     [item setKeyEquivalentModifierMask:maskOf(keys)];
     return item;
+}
+
+/// While the menu is closed.
+void press(NSMenu *menu, NSString *characters, NSUInteger mask) {
+    [menu performKeyEquivalent:[NSEvent keyEventWithType:NSKeyDown
+                                                      location:NSZeroPoint
+                                                 modifierFlags:mask
+                                                     timestamp:0
+                                                  windowNumber:0
+                                                       context:nil
+                                                    characters:characters
+                                   charactersIgnoringModifiers:characters
+                                                     isARepeat:NO
+                                                       keyCode:0]];
 }
 
 NSMenu *makeMenu(TNMenuWitness *witness) {
@@ -86,6 +116,21 @@ std::string labelOfArrowUp() {
     }
 }
 
+bool isChosenWhenPutThere() {
+    @autoreleasepool {
+        startUp();
+        TNFillingWitness *witness = [[[TNFillingWitness alloc] init] autorelease];
+        NSMenu *menu = [[[NSMenu alloc] initWithTitle:@"Filled"] autorelease];
+        for (NSString *title in [NSArray arrayWithObjects:@"One", @"Two", @"Three", nil]) {
+            [menu addItem:makeItem(title, witness)];
+        }
+        [menu setDelegate:(id)witness];
+        const unichar up = NSUpArrowFunctionKey;
+        press(menu, [NSString stringWithCharacters:&up length:1], NSCommandKeyMask);
+        return witness->events == std::vector<std::string>{"chosen Three"};
+    }
+}
+
 bool isChosenBy(const Keys &item, const Keys &pressed) {
     @autoreleasepool {
         startUp();
@@ -96,18 +141,7 @@ bool isChosenBy(const Keys &item, const Keys &pressed) {
         NSMenuItem *holder = makeItem(@"Inner", witness);
         [holder setSubmenu:inner];
         [menu addItem:holder];
-        NSString *characters = [NSString stringWithUTF8String:pressed.character.c_str()];
-        NSEvent *event = [NSEvent keyEventWithType:NSKeyDown
-                                          location:NSZeroPoint
-                                     modifierFlags:maskOf(pressed)
-                                         timestamp:0
-                                      windowNumber:0
-                                           context:nil
-                                        characters:characters
-                       charactersIgnoringModifiers:characters
-                                         isARepeat:NO
-                                           keyCode:0];
-        [menu performKeyEquivalent:event];
+        press(menu, [NSString stringWithUTF8String:pressed.character.c_str()], maskOf(pressed));
         return witness->events.size() == 1;
     }
 }

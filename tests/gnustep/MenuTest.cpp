@@ -34,6 +34,10 @@ TEST(Menu, ItemsWithShiftAreChosenByIt) {
         isChosenBy({.character = "z", .shift = true}, {.character = "Z", .shift = true, .option = true}));
 }
 
+TEST(Menu, IsAskedForAKeyOnceItsDelegateHasPutItsItemsThere) {
+    EXPECT_TRUE(isChosenWhenPutThere());
+}
+
 TEST(Menu, TellsItsDelegateAndActsWhenItIsClosed) {
     EXPECT_EQ(popUpAndType(down + u"\r"), (Events{"will open", "did close", "chosen Two", "answer yes"}));
 }

@@ -60,6 +60,8 @@ TEST(Adding, CommandNAddsToThePageThatIsShown) {
     EXPECT_EQ(shared("[d['arrOfCustomIcon'][-1][k] for k in ('displayName', 'enable', 'modified')]"),
         "['Blue.png', 1, '1']");
     EXPECT_EQ(shared("d['arrOfCustomIcon'][-1]['icon'][:2] in (b'II', b'MM')"), "True");
+    EXPECT_TRUE(rowIsInSight(RuleCategory::customIcon, 20));
+    EXPECT_EQ(selectedRow(RuleCategory::customIcon), -1);
     EXPECT_EQ(cellText(RuleCategory::customIcon, 20, "Size"), "40 x 30");
 }
 

@@ -19,6 +19,8 @@ struct MenuItemFacts {
 
 [[nodiscard]] int shownPage();
 [[nodiscard]] long rowCount(RuleCategory table);
+/// Whether the whole row can be seen.
+[[nodiscard]] bool rowIsInSight(RuleCategory table, long row);
 /// -1 when no row is selected.
 [[nodiscard]] long selectedRow(RuleCategory table);
 /// What the cell's text field shows now.

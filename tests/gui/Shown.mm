@@ -45,6 +45,10 @@ long rowCount(RuleCategory table) {
     return [tableOf(table) numberOfRows];
 }
 
+bool rowIsInSight(RuleCategory table, long row) {
+    return NSContainsRect([tableOf(table) visibleRect], [tableOf(table) rectOfRow:row]);
+}
+
 long selectedRow(RuleCategory table) {
     return [tableOf(table) selectedRow];
 }

@@ -1,6 +1,7 @@
 """The user for whom the window tests run: a throwaway user folder, on a virtual display."""
 
 import contextlib
+import os
 import pathlib
 import subprocess
 
@@ -11,15 +12,23 @@ MOST_SECONDS = 120
 
 
 class User:
-    """Addresses that are opened go into the file "opened" of the folder."""
+    """What is opened goes into the file "opened" of the folder, what the file manager is to show into "shown"."""
 
     def __init__(self, user, display):
         self.folder = pathlib.Path(user.name)
         self.stores = Stores(user)
-        opener = self.folder / "opener"
-        opener.write_text(f'#!/bin/sh\necho "$@" >>"{self.folder}/opened"\n')
-        opener.chmod(0o755)
-        self.environment = user.environment(DISPLAY=display.name, TARNWICK_OPENER=str(opener))
+        programs = self.folder / "programs"
+        programs.mkdir()
+        opener = self._stand_in(programs / "opener", "opened")
+        self._stand_in(programs / "dbus-send", "shown")
+        self.environment = user.environment(
+            DISPLAY=display.name, TARNWICK_OPENER=str(opener), PATH=f"{programs}:{os.environ['PATH']}")
+
+    def _stand_in(self, program, told):
+        """A program that only writes down what it is told."""
+        program.write_text(f'#!/bin/sh\necho "$@" >>"{self.folder}/{told}"\n')
+        program.chmod(0o755)
+        return program
 
     def run(self, *command, **more):
         """The status of the program, which is made to end when it takes too long."""

@@ -45,7 +45,7 @@ private:
     std::deque<std::function<void(const OpenPanelAnswer&)>> open_;
 };
 
-/// Logs "open URL ADDRESS", "launch PATH" and "terminate IDENTIFIER".
+/// Logs "open URL ADDRESS", "open file PATH", "show PATH", "launch PATH" and "terminate IDENTIFIER".
 class InMemoryWorkspace final : public Workspace {
 public:
     explicit InMemoryWorkspace(CallLog& log) : log_(log) {}
@@ -54,6 +54,8 @@ public:
     std::set<std::string, std::less<>> running;
 
     void openURL(std::string_view address) override { log_.add("open URL " + std::string(address)); }
+    void openFile(const std::string& path) override { log_.add("open file " + path); }
+    void showInFileViewer(const std::string& path) override { log_.add("show " + path); }
     void launchApplication(const std::string& path) override { log_.add("launch " + path); }
     std::optional<std::string> applicationPath(std::string_view bundleIdentifier) const override;
     RegisteredApplications registeredApplications(std::string_view bundleIdentifier) const override;

@@ -18,8 +18,8 @@ struct InMemoryTable {
 };
 
 /// The tables, for whichever port has them. Logs "end edit" when it ends one, "reload TABLE", "select TABLE
-/// ROW", "deselect TABLE", "enable remove TABLE" and "disable remove TABLE", each table named after its
-/// category.
+/// ROW", "scroll TABLE ROW", "deselect TABLE", "enable remove TABLE" and "disable remove TABLE", each table
+/// named after its category.
 template <typename Port>
 class InMemoryTablesOf : public Port {
 public:
@@ -50,10 +50,14 @@ public:
             tables_[category].selected = row;
         }
     }
+    void scrollToRow(RuleCategory category, long row) override {
+        log_.add("scroll " + nameOf(category) + " " + std::to_string(row));
+    }
     void deselectAll(RuleCategory category) override {
         log_.add("deselect " + nameOf(category));
         tables_[category].selected = -1;
     }
+    bool removeButtonIsEnabled(RuleCategory category) const override { return tables_[category].canRemove; }
     void setRemoveButtonEnabled(RuleCategory category, bool enabled) override {
         log_.add((enabled ? "enable remove " : "disable remove ") + nameOf(category));
         tables_[category].canRemove = enabled;

@@ -12,7 +12,8 @@
 
 namespace tarnwick::testing {
 
-/// The settings window. Beside what its tables log: "observe KEY" and "observe applications".
+/// The settings window. Beside what its tables log: "edit TABLE COLUMN", "observe KEY" and "observe
+/// applications".
 class InMemoryWindow final : public InMemoryTablesOf<SettingsWindow> {
 public:
     struct DragSetUp {
@@ -36,6 +37,9 @@ public:
     void showVersion(std::string_view text) override { version = text; }
     void showPage(Page shown) override { page = shown; }
     void setPageButtonBackground(Page button, const Colour& colour) override { pageButtons[button] = colour; }
+    void editSelectedRow(RuleCategory category, std::string_view column) override {
+        log_.add("edit " + nameOf(category) + " " + std::string(column));
+    }
     void hideRestartButton() override { restartButtonIsHidden = true; }
     void setHelpTitleColour(const Colour& colour) override { helpTitle = colour; }
     void setUpDragging(RuleCategory category, std::uint32_t outside, std::uint32_t inside,

@@ -25,6 +25,8 @@ extern "C" NSString *const NSModalPanelRunLoopMode;
 @property (nullable, assign) id<NSApplicationDelegate> delegate;
 @property (nullable, strong) NSMenu *mainMenu;
 @property (nullable, strong) NSMenu *windowsMenu;
+@property (nullable, strong) NSMenu *helpMenu;
+@property (nullable, strong) NSMenu *servicesMenu;
 - (void)activateIgnoringOtherApps:(BOOL)ignoring;
 - (BOOL)sendAction:(SEL)action to:(nullable id)target from:(nullable id)sender;
 - (void)terminate:(nullable id)sender;

@@ -20,10 +20,12 @@ enum {
 enum : unichar {
     NSUpArrowFunctionKey = 0xF700,
     NSDownArrowFunctionKey = 0xF701,
-    NSDeleteFunctionKey = 0xF728
+    NSDeleteFunctionKey = 0xF728,
+    NSMenuFunctionKey = 0xF735
 };
 
 @interface NSEvent : NSObject <NSCopying>
+@property (readonly) NSPoint locationInWindow;
 @property (nullable, readonly, copy) NSString *characters;
 @property (nullable, readonly, copy) NSString *charactersIgnoringModifiers;
 @property (readonly) NSEventModifierFlags modifierFlags;

@@ -11,6 +11,8 @@
 @property (nullable) SEL action;
 @property (nullable, assign) id target;
 @property NSInteger tag;
+@property (copy) NSString *keyEquivalent;
+@property (nullable, copy) NSString *toolTip;
 @property NSControlStateValue state;
 @property NSEventModifierFlags keyEquivalentModifierMask;
 @property (nullable, strong) NSMenu *submenu;
@@ -18,10 +20,25 @@
 - (instancetype)initWithTitle:(NSString *)title action:(nullable SEL)action keyEquivalent:(NSString *)key;
 @end
 
+@protocol NSMenuDelegate <NSObject>
+@optional
+- (void)menuNeedsUpdate:(NSMenu *)menu;
+- (void)menuWillOpen:(NSMenu *)menu;
+- (void)menuDidClose:(NSMenu *)menu;
+@end
+
 @interface NSMenu : NSObject <NSCopying>
 @property (copy) NSString *title;
+@property (nullable, assign) id<NSMenuDelegate> delegate;
+@property (readonly) NSInteger numberOfItems;
 - (instancetype)initWithTitle:(NSString *)title;
 - (void)addItem:(NSMenuItem *)item;
+- (void)removeItemAtIndex:(NSInteger)index;
+- (nullable NSMenuItem *)itemAtIndex:(NSInteger)index;
+- (nullable NSMenuItem *)itemWithTag:(NSInteger)tag;
+- (BOOL)popUpMenuPositioningItem:(nullable NSMenuItem *)item
+                      atLocation:(NSPoint)location
+                          inView:(nullable NSView *)view;
 @end
 
 #pragma clang assume_nonnull end

@@ -4,7 +4,7 @@
 
 #pragma clang assume_nonnull begin
 
-@class NSApplication, NSButton, NSEvent, NSMenuItem, NSTabView, NSTableView, NSText, NSTextField, NSView,
+@class NSApplication, NSButton, NSEvent, NSMenu, NSMenuItem, NSTabView, NSTableView, NSText, NSTextField, NSView,
     NSWindow;
 
 @protocol NSStandardKeyBindingResponding <NSObject>
@@ -13,6 +13,7 @@
 @end
 
 @interface NSResponder : NSObject <NSStandardKeyBindingResponding>
+@property (nullable, strong) NSMenu *menu;
 - (void)keyDown:(NSEvent *)event;
 @end
 

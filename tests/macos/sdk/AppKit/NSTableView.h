@@ -77,6 +77,8 @@ extern "C" NSString *const NSTableViewSelectionDidChangeNotification;
 - (void)sizeToFit;
 - (void)selectRowIndexes:(NSIndexSet *)rows byExtendingSelection:(BOOL)extend;
 - (void)deselectAll:(nullable id)sender;
+- (NSInteger)rowAtPoint:(NSPoint)point;
+- (NSRect)rectOfRow:(NSInteger)row;
 - (void)scrollRowToVisible:(NSInteger)row;
 - (NSInteger)columnWithIdentifier:(NSString *)identifier;
 - (nullable __kindof NSView *)viewAtColumn:(NSInteger)column row:(NSInteger)row makeIfNecessary:(BOOL)make;

@@ -42,6 +42,8 @@ typedef TN_OPTIONS(NSUInteger, NSAutoresizingMaskOptions){
 - (void)setFrameOrigin:(NSPoint)origin;
 - (void)addSubview:(NSView *)view;
 @property (nullable, readonly, strong) NSScrollView *enclosingScrollView;
+- (NSPoint)convertPoint:(NSPoint)point fromView:(nullable NSView *)view;
+- (nullable NSMenu *)menuForEvent:(NSEvent *)event;
 - (nullable NSView *)hitTest:(NSPoint)point;
 - (void)drawRect:(NSRect)rect;
 - (void)resizeSubviewsWithOldSize:(NSSize)size;

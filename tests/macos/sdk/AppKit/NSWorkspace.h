@@ -12,6 +12,8 @@ extern "C" NSString *const NSWorkspaceDidDeactivateApplicationNotification;
 @property (readonly, strong) NSNotificationCenter *notificationCenter;
 - (BOOL)isFilePackageAtPath:(NSString *)path;
 - (BOOL)openURL:(NSURL *)url;
+- (BOOL)openFile:(NSString *)path TN_DEPRECATED(10.0, 11.0);
+- (BOOL)selectFile:(nullable NSString *)path inFileViewerRootedAtPath:(NSString *)rootPath;
 - (NSImage *)iconForFile:(NSString *)path;
 - (BOOL)launchApplication:(NSString *)name TN_DEPRECATED(10.0, 10.15);
 - (nullable NSString *)absolutePathForAppBundleWithIdentifier:(NSString *)identifier
