@@ -157,6 +157,9 @@ void ListEditor::remember(RuleCategory category, const std::vector<RuleRecord>& 
 void ListEditor::takeBack(
     RuleCategory category, const ListChange& change, const TemplateWork& files, const UndoStep& step) {
     commit(category, change.applied(lists_[category].records()), files, Orders::takenBack, step);
+    if (showTakenBack_) {
+        showTakenBack_(category);
+    }
     select(category, step.rowAfter);
 }
 

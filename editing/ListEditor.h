@@ -7,9 +7,11 @@
 #include "prefs/TemplateWork.h"
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tarnwick {
@@ -65,6 +67,9 @@ public:
     /// Publishes without a change.
     void publish(RuleCategory category);
 
+    /// From now on this is told of each list that a step brings back, before the row concerned is selected.
+    void whenTakenBack(std::function<void(RuleCategory)> show) { showTakenBack_ = std::move(show); }
+
     /// For a step of several changes (`UndoSteps::Group`), or of more than changes of lists.
     [[nodiscard]] UndoSteps& steps() { return steps_; }
 
@@ -102,6 +107,7 @@ private:
     RuleTables& tables_;
     const StepNames& names_;
     UndoSteps steps_;
+    std::function<void(RuleCategory)> showTakenBack_;
 };
 
 } // namespace tarnwick

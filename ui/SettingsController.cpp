@@ -10,6 +10,7 @@
 #include "prefs/SharedPreferences.h"
 #include "ui/Colour.h"
 #include "ui/SettingsWindow.h"
+#include "ui/WindowLayout.h"
 
 namespace tarnwick {
 namespace {
@@ -37,6 +38,8 @@ void SettingsController::awakeFromNib() {
     runLoop_.performAfterDelay(startDelaySeconds, [this] { start(); });
     window_.showVersion(bundle_.localized("Tarnwick Lite") + ": " + bundle_.shortVersion());
     preferences_.loading.loadLists();
+    // A change that nobody sees would be taken back unawares.
+    editing_.editor.whenTakenBack([this](RuleCategory category) { showPage(pageOf(category)); });
     window_.observeSwitches(mirroredKeys);
     for (const auto category : allRuleCategories) {
         window_.setUpDragging(category, dragOperationLink, dragOperationMove, rowDragType);

@@ -50,6 +50,19 @@ TEST_F(PagesTest, AnotherPageIsShownOnceTheNameInProgressIsStored) {
     EXPECT_EQ(platform_.log.lines().back(), "reload copyFilesTo");
 }
 
+TEST_F(PagesTest, AStepThatIsTakenBackOrRepeatedShowsItsPageAndSelectsItsRow) {
+    storeList(RuleCategory::commonPath, {makeRecord({{"enable", 1}, {"displayName", "A"}})});
+    launch();
+    controller_.textEdited("commonPathDisplayName", 0, "New");
+    controller_.showPage(Page::customIcon);
+    platform_.undoHistory.undo();
+    expectShown(Page::commonPath);
+    EXPECT_EQ(window_.selectedRow(RuleCategory::commonPath), 0);
+    controller_.showPage(Page::moreApps);
+    platform_.undoHistory.redo();
+    expectShown(Page::commonPath);
+}
+
 TEST_F(PagesTest, AClickInATableAndAMirroredSwitchLeaveAnEditOpen) {
     launch();
     window_.openEdit = [] {};
