@@ -43,7 +43,12 @@ class Stores:
         return self.read(SHARED).get(key)
 
     def template_files(self):
-        return sorted(path.name for path in self.template_folder.iterdir())
+        """What each holds, by name; a folder's are the files in it."""
+        return contents(self.template_folder)
+
+
+def contents(folder):
+    return {path.name: contents(path) if path.is_dir() else path.read_bytes() for path in folder.iterdir()}
 
 
 def typed(value):

@@ -70,8 +70,9 @@ def files_become_templates_over_the_table_and_beside_it(start):
                 (LETTER, desktop.place("cell", 2), {"displayName": "Letter 表格", "extension": "docx"}),
                 (PICTURE, desktop.place("heading"), {"displayName": "Red", "extension": "PNG"})):
             manager.drop(name, place)
+            contents = (manager.files / name).read_bytes()
+            wait_until(lambda: desktop.stores.template_files().get(name) == contents, f"{name} among the templates")
             expect_last(desktop, model, TEMPLATES, record)
-            model.files.add(name)
             model.expect(f"{name} among the templates")
 
 

@@ -2,6 +2,7 @@
 
 import copy
 import re
+from typing import NamedTuple
 
 from harness.stores import ACTIONS, COPY_TARGETS, ICONS, LISTS, SHARED, TEMPLATES, is_on, typed
 from harness.waiting import NotSeen, wait_until
@@ -23,6 +24,14 @@ def file_of(record):
     return f"{record['displayName']}.{record['extension']}"
 
 
+class Step(NamedTuple):
+    """What undo, or redo, brings back."""
+
+    key: str
+    records: list
+    files: dict
+
+
 class Model:
     """Begins with what a start has stored; lists that then are the factory's are what a reset brings back."""
 
@@ -30,24 +39,49 @@ class Model:
         self.stores = stores
         values = stores.read()
         self.lists = {key: values.get(key, []) for key in LISTS}
-        self.files = set(stores.template_files())
+        self.files = stores.template_files()
         self.factory = copy.deepcopy((self.lists, self.files))
+        self.steps, self.undone = [], []
         # The extension is told of common folders only when they change.
         self.published = {key for key in LISTS if key in stores.read(SHARED)}
 
     # What a person does; rows and gaps are counted from the top of the list
 
-    def changed(self, key, records):
-        self.lists[key] = records
+    def changed(self, key, records, files=None):
+        """One step of undo, unless nothing is another than before."""
+        files = self.files if files is None else files
+        if typed([records, files]) != typed([self.lists[key], self.files]):
+            self.steps.append(Step(key, self.lists[key], self.files))
+            self.undone.clear()
+        self.put(key, records, files)
+
+    def put(self, key, records, files):
+        self.lists[key], self.files = records, files
         self.published.add(key)
+
+    def undo(self):
+        """The key of the list that is another then; none when there is nothing to undo."""
+        return self.step_over(self.steps, self.undone)
+
+    def redo(self):
+        return self.step_over(self.undone, self.steps)
+
+    def step_over(self, taken, kept):
+        if not taken:
+            return None
+        step = taken.pop()
+        kept.append(Step(step.key, self.lists[step.key], self.files))
+        self.put(*step)
+        return step.key
 
     def remove(self, key, row):
         """The row that is selected afterwards; none in an empty list."""
         records = list(self.lists[key])
         removed = records.pop(row)
+        files = dict(self.files)
         if key == TEMPLATES:
-            self.files.discard(file_of(removed))
-        self.changed(key, records)
+            files.pop(file_of(removed), None)
+        self.changed(key, records, files)
         return max(row - 1, 0) if records else None
 
     def toggle(self, key, row, field="enable"):
@@ -65,16 +99,15 @@ class Model:
         return all(is_on(record) for record in self.lists[key])
 
     def edit(self, key, row, column, text):
-        old = self.lists[key][row]
+        records = list(self.lists[key])
         mark, field = EDITED[column]
-        self.replace(key, row, {**({mark: "1"} if mark else {}), field: UNSTORABLE.sub("\ufffd", text)})
+        records[row] = {**records[row], **({mark: "1"} if mark else {}), field: UNSTORABLE.sub("\ufffd", text)}
+        files = dict(self.files)
         if key == TEMPLATES:
-            self.move_file(file_of(old), file_of(self.lists[key][row]))
-
-    def move_file(self, old, new):
-        can_be_named = "/" not in new and len(new.encode()) <= LONGEST_FILE_NAME
-        if old in self.files and new not in self.files and can_be_named:
-            self.files = self.files - {old} | {new}
+            old, new = file_of(self.lists[key][row]), file_of(records[row])
+            if old in files and new not in files and "/" not in new and len(new.encode()) <= LONGEST_FILE_NAME:
+                files[new] = files.pop(old)
+        self.changed(key, records, files)
 
     def drop(self, key, row, gap):
         """Into the gap above row `gap`. One that is taken downwards lands a place further down."""
@@ -89,9 +122,7 @@ class Model:
 
     def reset(self, key):
         lists, files = copy.deepcopy(self.factory)
-        self.changed(key, lists[key])
-        if key == TEMPLATES:
-            self.files = files
+        self.changed(key, lists[key], files if key == TEMPLATES else None)
 
     def add_folders(self, key, *paths):
         self.changed(key, self.lists[key] + [
@@ -106,8 +137,8 @@ class Model:
         self.changed(key, records)
 
     def adopt(self, key):
-        """Takes a list on as it is stored; for what a person cannot tell beforehand."""
-        self.changed(key, self.stores.local(key))
+        """Takes a list on as it is stored, and the template files; for what a person cannot tell beforehand."""
+        self.changed(key, self.stores.local(key), self.stores.template_files())
 
     # What is there
 
@@ -123,9 +154,12 @@ class Model:
         for key, flag in ENABLE_ALL.items():
             if typed(local.get(flag)) != typed(self.is_all_on(key)):
                 yield f"{flag} is {local.get(flag)!r}"
-        files = set(self.stores.template_files())
-        if files != self.files:
-            yield f"template files: {sorted(files - self.files)} too many, {sorted(self.files - files)} missing"
+        files = self.stores.template_files()
+        if files.keys() != self.files.keys():
+            yield (f"template files: {sorted(files.keys() - self.files.keys())} too many, "
+                   f"{sorted(self.files.keys() - files.keys())} missing")
+        yield from (f"template file {name} holds something else" for name in files.keys() & self.files.keys()
+                    if files[name] != self.files[name])
         yield from (f"{key} is there" for key in local if key.endswith(".unreadable"))
 
     @staticmethod
@@ -146,7 +180,11 @@ class Model:
         found = []
 
         def holds():
-            found[:] = self.differences()
+            try:
+                found[:] = self.differences()
+            except FileNotFoundError as error:
+                # A template file that is just taken away.
+                found[:] = [str(error)]
             return not found
 
         try:

@@ -52,6 +52,10 @@ class Page(NamedTuple):
     add_title: str = ""
     has_reset: bool = False
 
+    @property
+    def icon_column(self):
+        return next(column.identifier for column in self.columns if column.identifier.endswith("Icon"))
+
 
 PAGES = (
     Page("New File", TEMPLATES, 4, True,

@@ -41,6 +41,7 @@ MISTAKES = (
 FILE_MISTAKES = (
     (lambda folder: (folder / "Letter.txt").unlink(), "template files: [] too many, ['Letter.txt'] missing"),
     (lambda folder: (folder / "Lettre.txt").touch(), "template files: ['Lettre.txt'] too many, [] missing"),
+    (lambda folder: (folder / "Memo.txt").write_text("else"), "template file Memo.txt holds something else"),
 )
 
 

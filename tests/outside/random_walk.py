@@ -9,7 +9,7 @@ from harness.stores import COMMON_FOLDERS, COPY_TARGETS, LISTS, folder_records
 from tests.outside.checks import application
 from tests.outside.model import FIXED_ACTIONS
 from tests.outside.places import PAGE_OF
-from tests.outside.screen import command, option_command
+from tests.outside.screen import command, option_command, shift_command
 
 SETTINGS = {COPY_TARGETS: folder_records(9), COMMON_FOLDERS: folder_records(9)}
 # These cannot be removed, and of these the fixed ones neither moved nor renamed.
@@ -25,7 +25,6 @@ class Walk:
 
     def __init__(self, desktop, model, seed):
         self.desktop, self.model, self.random = desktop, model, random.Random(seed)
-        self.selected = dict.fromkeys(LISTS)
         self.is_editing = False
         self.texts = 0
 
@@ -43,14 +42,14 @@ class Walk:
         return self.random.choice([row for row in rows if self.records[row].get("Action") not in unlike])
 
     def select(self, row):
-        """A click on the row that is selected would begin to edit it."""
-        if self.selected[self.key] != row:
-            self.desktop.click("cell", row)
-        else:
-            self.desktop.click("cell", row + 1 if row == 0 else row - 1)
-            self.desktop.click("cell", row)
-        self.selected[self.key] = row
+        """By its picture: a click on the name of the row that is selected would begin to edit it."""
+        self.desktop.click("cell", row, self.desktop.page.icon_column)
         self.is_editing = False
+
+    def end_edit(self):
+        if self.is_editing:
+            self.desktop.screen.key("Return")
+            self.is_editing = False
 
     # The steps
 
@@ -71,7 +70,7 @@ class Walk:
                 self.desktop.click("remove")
             else:
                 self.desktop.screen.key("Delete")
-            self.selected[self.key] = self.model.remove(self.key, row)
+            self.model.remove(self.key, row)
 
     def switch(self):
         if self.desktop.page.switch_column:
@@ -104,7 +103,7 @@ class Walk:
         ending = self.random.choice(["Return", "Tab", "Escape", None])
         if ending:
             self.desktop.screen.key(ending)
-        self.selected[self.key], self.is_editing = row, ending is None
+        self.is_editing = ending is None
         if ending != "Escape":
             self.model.edit(self.key, row, self.desktop.page.name_column, text)
 
@@ -115,7 +114,7 @@ class Walk:
             places, page = self.desktop.places, self.desktop.page
             self.desktop.window.drag(places.cell(page, row), places.cell(page, gap, height=0.05), steps=6)
             self.model.drop(self.key, row, gap)
-            self.selected[self.key], self.is_editing = None, False
+            self.is_editing = False
 
     def move_by_key(self):
         row = self.any_row(FIXED_ACTIONS)
@@ -124,17 +123,27 @@ class Walk:
         self.desktop.screen.key(option_command("Up" if step < 0 else "Down"))
         if 0 <= row + step < len(self.records):
             self.model.drop(self.key, row, row + step)
-            self.selected[self.key] = row + step
 
     def reset(self):
-        """Of a list that has a factory's; which row is selected then is of no importance."""
+        """Of a list that has a factory's."""
         if self.desktop.page.has_reset and self.key != COPY_TARGETS:
             self.desktop.click("reset")
             self.model.reset(self.key)
             self.is_editing = False
-            time.sleep(PAUSE_SECONDS)
-            self.select(1)
-            self.select(0)
+
+    def step_over(self, key, step):
+        """The list concerned is shown. While a name is being edited, this would be of its typing alone."""
+        self.end_edit()
+        for _ in range(self.random.choice([1, 1, 2, 5])):
+            self.desktop.screen.key(key)
+            if changed := step():
+                self.desktop.page = PAGE_OF[changed]
+
+    def undo(self):
+        self.step_over(command("z"), self.model.undo)
+
+    def redo(self):
+        self.step_over(shift_command("z"), self.model.redo)
 
     def turn_the_wheel(self):
         self.desktop.window.move(self.desktop.places.cell(self.desktop.page, 0))
@@ -145,7 +154,7 @@ class Walk:
         self.desktop.window.resize(*self.random.choice(SIZES))
 
     STEPS = (show_another_page, remove, switch, switch_by_key, switch_all, rename, rename, drag, drag, move_by_key,
-             reset, turn_the_wheel, resize)
+             reset, undo, redo, turn_the_wheel, resize)
 
     def go(self, steps):
         done = []
@@ -155,16 +164,22 @@ class Walk:
             done.append(f"{step.__name__} in {self.key}")
             time.sleep(PAUSE_SECONDS)
             if number % 5 == 0 or number == steps:
-                if self.is_editing:
-                    self.desktop.screen.key("Return")
-                    self.is_editing = False
+                self.end_edit()
                 self.model.expect(f"{number} steps, the last of them {', '.join(done[-8:])}")
+
+    def go_back_and_forth(self):
+        for key, step in ((command("z"), self.model.undo), (shift_command("z"), self.model.redo)):
+            while step():
+                self.desktop.screen.key(key)
+            self.model.expect(f"all steps gone over by {key}")
 
 
 def main():
     program, steps, seed = sys.argv[1], int(sys.argv[2]), int(sys.argv[3])
     with application(program, f"random-walk-{seed}")(SETTINGS) as (desktop, model):
-        Walk(desktop, model, seed).go(steps)
+        walk = Walk(desktop, model, seed)
+        walk.go(steps)
+        walk.go_back_and_forth()
     print(f"random walk: {steps} steps from seed {seed}, both stores and the template files as expected")
 
 

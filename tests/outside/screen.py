@@ -12,12 +12,16 @@ PROGRAM_SECONDS = 30
 BUTTON, RIGHT_BUTTON, WHEEL_UP, WHEEL_DOWN = 1, 3, 4, 5
 
 # The keys by what they are for: the program calls the left Alt key Command and the right one Option.
-COMMAND, OPTION, CONTROL = "Alt_L", "Alt_R", "Control_L"
+COMMAND, OPTION, SHIFT, CONTROL = "Alt_L", "Alt_R", "Shift_L", "Control_L"
 GEOMETRY = re.compile(r"(?:Absolute upper-left [XY]|Width|Height): +(-?\d+)")
 
 
 def command(key):
     return f"{COMMAND}+{key}"
+
+
+def shift_command(key):
+    return f"{COMMAND}+{SHIFT}+{key}"
 
 
 def option_command(key):
@@ -172,5 +176,7 @@ class Window:
             time.sleep(STEP_SECONDS)
 
     def drag(self, start, end, steps=12):
+        """Lets go once it can be seen where: a program that is busy until then takes no drag."""
         self.drag_to(start, end, steps)
+        self.screen.settle(0.1)
         self.screen.release()

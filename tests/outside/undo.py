@@ -1,26 +1,17 @@
-"""python3 -m tests.outside.undo PROGRAM: what the keys of the Edit menu take back and repeat. Both stores and the
-template files are looked at after each step."""
+"""python3 -m tests.outside.undo PROGRAM: changes taken back and repeated, also when nobody expects it. Both stores and
+the template files are looked at after each step."""
 
-import copy
 import glob
 
-from harness.stores import TEMPLATES
+from harness.stores import ACTIONS, COPY_TARGETS, ICONS, TEMPLATES, folder_records
 from harness.waiting import wait_until
 from tests.outside.checks import require, run_checks
-from tests.outside.screen import COMMAND, command, option_command
+from tests.outside.panels import OpenPanel
+from tests.outside.screen import command, option_command, shift_command
 
-NAME = "NewFileDisplayName"
-UNDO, REDO = command("z"), f"{COMMAND}+Shift_L+z"
-
-
-def moment(model):
-    return copy.deepcopy((model.lists, model.files))
-
-
-def press_and_expect(desktop, model, key, past, what):
-    desktop.screen.key(key)
-    model.lists, model.files = copy.deepcopy(past)
-    model.expect(what)
+UNDO, REDO = command("z"), shift_command("z")
+FOLDERS = {COPY_TARGETS: folder_records(5)}
+GAP = 0.05
 
 
 def held_files(desktop):
@@ -28,54 +19,132 @@ def held_files(desktop):
     return glob.glob(f"{desktop.user.temporary}/**/org.halvane.Tarnwick.undo-*", recursive=True)
 
 
-def edits_are_taken_back_and_repeated_one_by_one(start):
+def undo(desktop, model, what):
+    desktop.screen.key(UNDO)
+    model.undo()
+    model.expect(f"without {what}")
+
+
+def redo(desktop, model, what):
+    desktop.screen.key(REDO)
+    model.redo()
+    model.expect(f"{what} again")
+
+
+def every_kind_of_change_comes_back(start):
+    with start(FOLDERS) as (desktop, model):
+        page = desktop.page
+        desktop.select(3)
+        desktop.click("remove")
+        model.remove(TEMPLATES, 3)
+        desktop.screen.settle(0.3)
+        desktop.screen.key(option_command("Up"))
+        model.drop(TEMPLATES, 2, 1)
+        model.expect("a row less, and one further up")
+        desktop.click("enable_all")
+        model.enable_all(TEMPLATES, True)
+        model.expect("all on")
+        desktop.click("cell", 4, "EnableMainMenu")
+        model.toggle(TEMPLATES, 4, "enableMainMenu")
+        model.expect("one in the main menu")
+        desktop.start_typing(5, "Named by an end")
+        desktop.click("row_switch", 6)
+        model.edit(TEMPLATES, 5, page.name_column, "Named by an end")
+        model.toggle(TEMPLATES, 6)
+        model.expect("a name and a switch")
+        desktop.click("reset")
+        model.reset(TEMPLATES)
+        model.expect("all changes")
+        steps = len(model.steps)
+        require(steps == 7, f"{steps} steps")
+        for _ in range(steps):
+            undo(desktop, model, "another change")
+        for _ in range(steps):
+            redo(desktop, model, "another change")
+
+
+def a_step_of_another_page_is_shown_where_it_takes_place(start):
+    with start(FOLDERS) as (desktop, model):
+        desktop.show_list(ICONS)
+        desktop.select(2)
+        desktop.click("remove")
+        model.remove(ICONS, 2)
+        model.expect("an icon less")
+        shown = desktop.window.picture()
+        desktop.show_list(ACTIONS)
+        undo(desktop, model, "the removal")
+        desktop.screen.key(REDO)
+        model.redo()
+        model.expect("the removal again")
+        desktop.window.move(desktop.place("heading"))
+        desktop.screen.settle(0.3)
+        require(desktop.window.picture() == shown, "the page of the icons is not the one that is shown")
+
+
+def typing_has_its_own(start):
     with start() as (desktop, model):
-        moments = [moment(model)]
+        desktop.click("row_switch", 1)
+        model.toggle(TEMPLATES, 1)
+        model.expect("a row switched")
+        desktop.start_typing(2, "Letter")
+        desktop.screen.key(UNDO, UNDO, UNDO, UNDO)
+        model.expect("no change of a list while typing")
+        desktop.screen.key("Escape")
+        model.expect("no change by typing that is left")
+        undo(desktop, model, "the switch")
 
-        def done(what):
-            model.expect(what)
-            moments.append(moment(model))
 
+def a_panel_and_a_drag_come_first(start):
+    with start(FOLDERS) as (desktop, model):
+        desktop.show_list(COPY_TARGETS)
+        desktop.click("row_switch", 1)
+        model.toggle(COPY_TARGETS, 1)
+        model.expect("a row switched")
+        desktop.click("add")
+        panel = OpenPanel(desktop.screen)
+        desktop.screen.key(UNDO)
+        desktop.screen.settle(0.3)
+        model.expect("no undo behind a panel")
+        panel.window.focus()
+        panel.cancel()
+        desktop.window.drag_to(desktop.place("cell", 0), desktop.place("cell", 3, None, GAP))
+        desktop.screen.key(UNDO)
+        desktop.screen.settle(0.3)
+        model.expect("no undo during a drag")
+        desktop.screen.release()
+        model.drop(COPY_TARGETS, 0, 3)
+        model.undo()
+        model.expect("the drop undone once it has taken place")
+        redo(desktop, model, "the drop")
+
+
+def files_that_others_have_changed_are_not_overwritten(start):
+    with start() as (desktop, model):
         desktop.select(2)
         desktop.click("remove")
         model.remove(TEMPLATES, 2)
-        done("a row less")
-        desktop.start_typing(0, "Letter")
-        desktop.screen.key("Return")
-        model.edit(TEMPLATES, 0, NAME, "Letter")
-        done("another name")
-        desktop.click("row_switch", 4)
-        model.toggle(TEMPLATES, 4)
-        done("a row switched")
-        desktop.select(1)
-        desktop.screen.key(option_command("Down"))
-        model.drop(TEMPLATES, 1, 2)
-        done("a row further down")
-        desktop.click("reset")
-        model.reset(TEMPLATES)
-        done("the factory's list")
-        for _ in range(2):
-            for number, past in reversed(list(enumerate(moments[:-1]))):
-                press_and_expect(desktop, model, UNDO, past, f"what was before step {number + 1}")
-            for number, past in enumerate(moments[1:]):
-                press_and_expect(desktop, model, REDO, past, f"what was after step {number + 1}")
-        require(held_files(desktop), "the files of the former list are held nowhere")
+        model.expect("a template less")
+        other = desktop.stores.template_folder / "XML.xml"
+        other.write_text("of another program")
+        desktop.screen.key(UNDO)
+        model.undo()
+        model.files = {**model.files, "XML.xml": b"of another program"}
+        model.expect("the record again, and the file of the other program")
+
+
+def the_end_leaves_nothing_of_it(start):
+    with start() as (desktop, model):
+        desktop.select(2)
+        desktop.click("remove")
+        model.remove(TEMPLATES, 2)
+        model.expect("a template less")
+        require(held_files(desktop), "the removed file is held nowhere")
         desktop.screen.key(command("q"))
         require(desktop.wait_for_end() == 0, "the application did not end well")
         require(not held_files(desktop), f"left behind: {held_files(desktop)}")
-
-
-def while_a_name_is_typed_the_keys_mean_the_typing(start):
-    with start() as (desktop, model):
-        desktop.click("row_switch", 4)
-        model.toggle(TEMPLATES, 4)
-        model.expect("a row switched")
-        desktop.start_typing(0, "Letter")
-        desktop.screen.key(UNDO, UNDO, UNDO, "Escape")
-        desktop.screen.settle()
-        desktop.click("row_switch", 5)
-        model.toggle(TEMPLATES, 5)
-        model.expect("no name, no switch but the two")
+        desktop.start()
+        desktop.screen.key(UNDO)
+        model.expect("nothing to undo after another start")
 
 
 def a_killed_application_leaves_held_files_to_the_next_start(start):
@@ -92,5 +161,6 @@ def a_killed_application_leaves_held_files_to_the_next_start(start):
 
 
 if __name__ == "__main__":
-    run_checks(edits_are_taken_back_and_repeated_one_by_one, while_a_name_is_typed_the_keys_mean_the_typing,
-               a_killed_application_leaves_held_files_to_the_next_start)
+    run_checks(every_kind_of_change_comes_back, a_step_of_another_page_is_shown_where_it_takes_place,
+               typing_has_its_own, a_panel_and_a_drag_come_first, files_that_others_have_changed_are_not_overwritten,
+               the_end_leaves_nothing_of_it, a_killed_application_leaves_held_files_to_the_next_start)
