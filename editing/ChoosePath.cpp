@@ -7,19 +7,18 @@
 
 namespace tarnwick {
 
-void ChoosePath::selectPath(long row) {
+void ChoosePath::selectPath(RuleCategory category, long row) {
     editor_.endEditing();
     OpenPanelRequest request;
     request.canChooseFiles = false;
     request.canChooseDirectories = true;
     request.canCreateDirectories = true;
     request.startFolder = homeSubfolder(folders_, "Desktop");
-    panels_.choose(request, [this, row](const OpenPanelAnswer& answer) {
+    panels_.choose(request, [this, category, row](const OpenPanelAnswer& answer) {
         if (!answer.confirmed || answer.paths.empty()) {
             return;
         }
         editor_.endEditing();
-        constexpr auto category = RuleCategory::copyFilesTo;
         const auto& list = editor_.list(category);
         if (!list.holds(row)) {
             return;

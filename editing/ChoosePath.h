@@ -1,12 +1,14 @@
 #pragma once
 
+#include "prefs/RuleCategory.h"
+
 namespace tarnwick {
 
 class KnownFolders;
 class ListEditor;
 class Panels;
 
-/// Gives a copy/move-to target a folder that the user chooses.
+/// Gives a rule that stands for a folder another one that the user chooses.
 class ChoosePath {
 public:
     ChoosePath(Panels& panels, const KnownFolders& folders, ListEditor& editor)
@@ -15,7 +17,7 @@ public:
     /// Opens a folder chooser at the Desktop and returns. Once it is confirmed, the record that then stands
     /// at `row` gets the first chosen folder and an empty name; if there is none any more, nothing changes.
     /// Order: list, store, synchronise, reload, publish.
-    void selectPath(long row);
+    void selectPath(RuleCategory category, long row);
 
 private:
     Panels& panels_;

@@ -135,6 +135,7 @@ std::optional<TemplateWork> ListEditor::run(
             perform(step, category);
         }
     }
+    changed_(category);
     return filesBack;
 }
 

@@ -48,6 +48,9 @@ public:
     /// for another reason does this first of all: afterwards rows may stand elsewhere.
     void endEditing();
 
+    /// Who is told once a change has had all its effects.
+    void onChange(std::function<void(RuleCategory)> handler) { changed_ = std::move(handler); }
+
     /// Another record in the same place; a template file gets the new record's name.
     void replace(RuleCategory category, std::size_t index, RuleRecord record, StepKind kind);
     /// `files` is what was copied in for the records.
@@ -108,6 +111,7 @@ private:
     const StepNames& names_;
     UndoSteps steps_;
     std::function<void(RuleCategory)> showTakenBack_;
+    std::function<void(RuleCategory)> changed_ = [](RuleCategory) {};
 };
 
 } // namespace tarnwick

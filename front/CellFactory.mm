@@ -4,9 +4,11 @@
 #import "adapters/foundation/StringConversion.h"
 #import "front/CellContainerView.h"
 #import "front/CellControls.h"
+#import "front/RuleTextField.h"
 #import "front/Selectors.h"
 
 #include "ui/CellView.h"
+#include "ui/RowRemarks.h"
 
 namespace tarnwick {
 namespace {
@@ -16,7 +18,7 @@ NSRect rectOf(const Frame &frame) {
 }
 
 NSTextField *makeTextField(const TextFieldCell &cell, id controller) {
-    NSTextField *field = [[[CellTextField alloc] init] autorelease];
+    RuleTextField *field = [[[RuleTextField alloc] init] autorelease];
     [field setBezeled:NO];
     [field setDrawsBackground:NO];
     [field setEditable:cell.editable];
@@ -85,6 +87,22 @@ NSView *makeCell(const CellView &cell, RuleCategory category, NSString *label, i
         [container addSubview:control];
     }
     return container;
+}
+
+void remarkOn(NSView *cell, const CellRemark &remark) {
+    NSView *control = [cell isKindOfClass:[NSControl class]] ? cell : [[cell subviews] firstObject];
+    NSString *toolTip = toNSString(remark.toolTip);
+    [control setAccessibilityHelp:remark.help.empty() ? nil : toNSString(remark.help)];
+    if ([control isKindOfClass:[RuleTextField class]]) {
+        RuleTextField *field = static_cast<RuleTextField *>(control);
+        if (remark.isPath) {
+            [[field cell] setLineBreakMode:NSLineBreakByTruncatingMiddle];
+        }
+        [field setWarns:remark.warns];
+        [field setRemark:toolTip];
+    } else {
+        [control setToolTip:remark.toolTip.empty() ? nil : toolTip];
+    }
 }
 
 } // namespace tarnwick

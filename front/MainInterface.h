@@ -4,6 +4,7 @@
 
 #include <memory>
 
+@class ActivationObserver;
 @class AppDelegate;
 @class SettingsViewController;
 
@@ -28,6 +29,7 @@ private:
     SettingsViewController *controller_ = nil;
     NSWindow *window_ = nil;
     AppDelegate *delegate_ = nil;
+    ActivationObserver *activation_ = nil;
 };
 
 } // namespace tarnwick

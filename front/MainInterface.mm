@@ -2,6 +2,7 @@
 
 #import "adapters/foundation/ObjectPointer.h"
 #import "adapters/foundation/UndoHistoryAdapter.h"
+#import "front/ActivationObserver.h"
 #import "front/AppDelegate.h"
 #import "front/LayerWindow.h"
 #import "front/MainMenu.h"
@@ -17,6 +18,7 @@
 #include "platform/DistributedNotifications.h"
 #include "platform/FileManager.h"
 #include "platform/FileTrees.h"
+#include "platform/FileStatus.h"
 #include "platform/FinderSync.h"
 #include "platform/Images.h"
 #include "platform/KnownFolders.h"
@@ -54,6 +56,7 @@ struct Adapters {
     std::unique_ptr<FileManager> files = makeFileManager();
     std::unique_ptr<FileTrees> trees = makeFileTrees();
     std::unique_ptr<PropertyListFiles> listFiles = makePropertyListFiles();
+    std::unique_ptr<FileStatus> fileStatus = makeFileStatus();
     std::unique_ptr<KnownFolders> folders = makeKnownFolders();
     std::unique_ptr<ApplicationBundle> bundle = makeApplicationBundle();
     std::unique_ptr<Images> images = makeImages();
@@ -70,7 +73,7 @@ struct Adapters {
     std::unique_ptr<UndoHistory> undoHistory = makeUndoHistory([windowUndo.get() steps]);
 
     [[nodiscard]] Ports ports() const {
-        return {*preferences, *files, *trees, *listFiles, *folders, *bundle, *images, *panels, *workspace,
+        return {*preferences, *files, *trees, *listFiles, *fileStatus, *folders, *bundle, *images, *panels, *workspace,
             *finderSync, *userScripts, *notifications, *runLoop, *log, *process, *clock, *undoHistory};
     }
 };
@@ -101,6 +104,9 @@ MainInterface::MainInterface() : parts_(std::make_unique<Parts>()) {
     [window_ setDelegate:parts_->adapters.windowUndo.get()];
     observeEnds(controller_, window_);
     [controller_ awakeFromNib];
+    SettingsViewController *controller = controller_;
+    activation_ =
+        [[ActivationObserver alloc] initWithHandler:[controller] { [controller applicationActivated]; }];
     // The tables were built before there were lists to show.
     for (const auto category : allRuleCategories) {
         [[controller_ tableOf:category] reloadData];
@@ -111,6 +117,7 @@ MainInterface::~MainInterface() {
     [NSApp setDelegate:nil];
     [window_ setDelegate:nil];
     [[NSNotificationCenter defaultCenter] removeObserver:controller_];
+    [activation_ release];
     [delegate_ release];
     [window_ release];
     [controller_ release];

@@ -23,6 +23,9 @@ public:
     [[nodiscard]] bool removeButtonIsEnabled(RuleCategory category) const override;
     void setRemoveButtonEnabled(RuleCategory category, bool enabled) override;
 
+    [[nodiscard]] RowRange rowsInSight(RuleCategory category) const override;
+    void showFaults(RuleCategory category, std::string_view summary) override;
+
     void showVersion(std::string_view text) override;
     /// The keyboard goes to the page's table.
     void showPage(Page page) override;

@@ -2,9 +2,11 @@
 
 #import "adapters/foundation/StringConversion.h"
 #import "front/Colors.h"
+#import "front/FaultLineView.h"
 #import "front/KeyViewLoop.h"
 #import "front/RuleTableView.h"
 #import "front/SettingsViewController+Finding.h"
+#import "front/SettingsViewController+Actions.h"
 
 #include "ui/WindowLayout.h"
 
@@ -87,6 +89,24 @@ bool OutletWindow::removeButtonIsEnabled(RuleCategory category) const {
 
 void OutletWindow::setRemoveButtonEnabled(RuleCategory category, bool enabled) {
     [[controller_ removeButtonOf:category] setEnabled:enabled];
+}
+
+RowRange OutletWindow::rowsInSight(RuleCategory category) const {
+    NSTableView *seen = table(category);
+    const NSRange rows = [seen rowsInRect:[seen visibleRect]];
+    return {static_cast<long>(rows.location), static_cast<long>(rows.length)};
+}
+
+void OutletWindow::showFaults(RuleCategory category, std::string_view summary) {
+    [controller_ remarkOnRowsInSightOf:category];
+    NSTabView *tabView = [controller_ tabView];
+    NSView *page = [[tabView tabViewItemAtIndex:static_cast<NSInteger>(pageOf(category))] view];
+    for (NSView *view in [page subviews]) {
+        if ([view isKindOfClass:[FaultLineView class]] &&
+            [static_cast<FaultLineView *>(view) showText:toNSString(summary)]) {
+            linkKeyViews(tabView);
+        }
+    }
 }
 
 void OutletWindow::showVersion(std::string_view text) {

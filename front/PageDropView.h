@@ -13,6 +13,7 @@
 @private
     tarnwick::RuleCategory _category;
     SettingsViewController *_controller;
+    NSView *_list;
     NSView *_mark;
     NSDragOperation _answer;
 }

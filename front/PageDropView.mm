@@ -57,9 +57,8 @@ NSDragOperation operationFrom(NSDragOperation offered) {
 
 - (void)takeDropsFor:(RuleTableView *)table {
     [table setFileDropView:self];
-    NSView *list = [table enclosingScrollView];
-    _mark = [[[DropMarkView alloc] initWithFrame:[list frame]] autorelease];
-    [_mark setAutoresizingMask:[list autoresizingMask]];
+    _list = [table enclosingScrollView];
+    _mark = [[[DropMarkView alloc] initWithFrame:[_list frame]] autorelease];
     [_mark setHidden:YES];
     [self addSubview:_mark];
 }
@@ -73,6 +72,7 @@ NSDragOperation operationFrom(NSDragOperation offered) {
 
 /// What is dragged stays the same while the mouse moves.
 - (NSDragOperation)draggingUpdated:(id<NSDraggingInfo>)info {
+    [_mark setFrame:[_list frame]];
     [_mark setHidden:_answer == NSDragOperationNone];
     return _answer;
 }

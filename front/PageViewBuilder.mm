@@ -4,6 +4,7 @@
 #import "front/ChooseFolderButton.h"
 #import "front/ControlMaking.h"
 #import "front/EnableAllSwitch.h"
+#import "front/FaultLineView.h"
 #import "front/PageDropView.h"
 #import "front/PageFrame.h"
 #import "front/PreferenceSwitch.h"
@@ -170,12 +171,21 @@ NSScrollView *makeScrollView(NSTableView *table, NSRect frame) {
     return scroll;
 }
 
-ChooseFolderButton *makeChooseFolderButton(SettingsViewController *controller, NSTableView *table) {
+ChooseFolderButton *makeChooseFolderButton(
+    const RuleActions &actions, SettingsViewController *controller, NSTableView *table) {
     ChooseFolderButton *button = [[[ChooseFolderButton alloc] init] autorelease];
-    preparePushButton(button, localizedText("Choose Folder\u2026"), controller, @selector(selectPath:));
+    preparePushButton(button, localizedText("Choose Folder\u2026"), controller, actions.choosePath);
     [button followTable:table];
-    [table setDoubleAction:@selector(copyFilesToViewDoubleClick:)];
+    [table setDoubleAction:actions.doubleClick];
     return button;
+}
+
+/// Goes to the next rule that something is wrong with, and on to the page's extra button.
+void addFaultLine(NSView *page, NSScrollView *list, SettingsViewController *controller, NSButton *extra) {
+    NSButton *next = makePushButton(localizedText("Show Next"), controller, @selector(showNextFault:));
+    [next setToolTip:localizedText("Selects the next rule that something is wrong with.")];
+    NSArray *buttons = extra ? [NSArray arrayWithObjects:extra, next, nil] : [NSArray arrayWithObject:next];
+    [page addSubview:[[[FaultLineView alloc] initAtFootOf:list buttons:buttons] autorelease]];
 }
 
 /// Add, remove and the page's extra button from the left; reset at the right. Gives the remove button.
@@ -229,9 +239,11 @@ NSView *makeRulePage(
     [table sizeToFit];
     [table setEmptyHint:makeEmptyHint(layout, NSWidth(frame) - 2 * margin)];
 
-    ChooseFolderButton *chooseFolder =
-        layout.category == RuleCategory::copyFilesTo ? makeChooseFolderButton(controller, table) : nil;
-    NSButton *remove = addButtonBar(column, layout, actions, controller, chooseFolder);
+    NSButton *chooseFolder = actions.choosePath ? makeChooseFolderButton(actions, controller, table) : nil;
+    // Common folders are chosen anew when they are lost; targets may also wait for their first.
+    const bool isAlwaysThere = layout.category == RuleCategory::copyFilesTo;
+    addFaultLine(page, [table enclosingScrollView], controller, isAlwaysThere ? nil : chooseFolder);
+    NSButton *remove = addButtonBar(column, layout, actions, controller, isAlwaysThere ? chooseFolder : nil);
     [remove setEnabled:NO];
     [table setRemoveButton:remove];
     [controller setTable:table removeButton:remove ofCategory:*layout.category];

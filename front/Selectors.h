@@ -21,6 +21,10 @@ struct RuleActions {
     SEL remove = nullptr;
     SEL reset = nullptr;
     SEL enableAll = nullptr;
+    /// Gives the row that is the sender's tag another folder.
+    SEL choosePath = nullptr;
+    /// Sent by the table.
+    SEL doubleClick = nullptr;
     /// The check boxes of the rows, by the field that they turn on and off.
     std::vector<std::pair<std::string_view, SEL>> switches;
 };

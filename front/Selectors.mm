@@ -24,13 +24,15 @@ const RuleActions &actionsOf(RuleCategory category) {
         RuleActions {
             .click = @selector(copyFilesToViewClick:), .add = @selector(addSendFilesToRule:),
             .remove = @selector(removeCopyFilesToRule:), .reset = @selector(resetCopyFilesToRule:),
+            .choosePath = @selector(selectPath:), .doubleClick = @selector(copyFilesToViewDoubleClick:),
             .switches = {
                 {field::enable, @selector(OnOffcheckedStateChangedOfCopyTo:)}
             }
         },
         RuleActions {
             .click = @selector(commonPathViewClick:), .add = @selector(addCommonPathRule:),
-            .remove = @selector(removeCommondPathRule:)
+            .remove = @selector(removeCommondPathRule:), .choosePath = @selector(selectCommonPath:),
+            .doubleClick = @selector(commonPathViewDoubleClick:)
         },
         RuleActions {
             .click = @selector(customIconViewClick:), .add = @selector(addCustomIconRule:),

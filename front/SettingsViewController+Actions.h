@@ -53,6 +53,8 @@
 - (void)selectPath:(id)sender;
 /// A double click on a row's path chooses its folder.
 - (void)copyFilesToViewDoubleClick:(NSTableView *)sender;
+- (void)selectCommonPath:(id)sender;
+- (void)commonPathViewDoubleClick:(NSTableView *)sender;
 
 @end
 
@@ -87,6 +89,8 @@
 /// Of the switch above the category's table, for what is stored for it; and how many rules are on, in words.
 - (tarnwick::EnableAllState)enableAllStateOf:(tarnwick::RuleCategory)category stored:(BOOL)stored;
 - (NSString *)enabledTextOf:(tarnwick::RuleCategory)category;
+/// Says anew what is wrong with the rules in sight; their cells stay.
+- (void)remarkOnRowsInSightOf:(tarnwick::RuleCategory)category;
 
 /// The view of a cell; an empty one for a column or row that the list does not have.
 - (NSView *)tableViewForCreateNewFile:(NSTableColumn *)column row:(NSInteger)row;
@@ -137,5 +141,7 @@
 - (void)importSettings:(id)sender;
 /// Marks what is on, the page that is shown among it; disables what cannot be done just now, and says why.
 - (BOOL)validateMenuItem:(NSMenuItem *)item;
+/// Selects the next row of the page that something is wrong with.
+- (void)showNextFault:(id)sender;
 
 @end

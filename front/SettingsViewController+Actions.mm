@@ -151,13 +151,25 @@ bool isOn(id sender) {
 }
 
 - (void)selectPath:(id)sender {
-    _controller->selectPath([sender tag]);
+    _controller->selectPath(RuleCategory::copyFilesTo, [sender tag]);
 }
 
 - (void)copyFilesToViewDoubleClick:(NSTableView *)sender {
-    const NSInteger pathColumn = [sender columnWithIdentifier:@"realPath"];
-    if ([sender clickedRow] >= 0 && [sender clickedColumn] == pathColumn) {
-        _controller->selectPath([sender clickedRow]);
+    [self choosePathClickedIn:sender category:RuleCategory::copyFilesTo];
+}
+
+- (void)selectCommonPath:(id)sender {
+    _controller->selectPath(RuleCategory::commonPath, [sender tag]);
+}
+
+- (void)commonPathViewDoubleClick:(NSTableView *)sender {
+    [self choosePathClickedIn:sender category:RuleCategory::commonPath];
+}
+
+- (void)choosePathClickedIn:(NSTableView *)table category:(RuleCategory)category {
+    const NSInteger pathColumn = [table columnWithIdentifier:@"realPath"];
+    if ([table clickedRow] >= 0 && [table clickedColumn] == pathColumn) {
+        _controller->selectPath(category, [table clickedRow]);
     }
 }
 

@@ -66,6 +66,12 @@ std::optional<Page> pageShownBy(SEL action) {
     return state.isPossible();
 }
 
+- (void)showNextFault:(id)sender {
+    if (const auto category = [self shownCategory]) {
+        _controller->showNextFault(*category);
+    }
+}
+
 - (BOOL)validateMenuItem:(NSMenuItem *)item {
     const SEL action = [item action];
     if (sel_isEqual(action, @selector(performRuleCommand:))) {

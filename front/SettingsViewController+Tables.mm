@@ -70,8 +70,25 @@ long firstDraggedRow(NSPasteboard *pasteboard) {
 - (NSView *)viewForCategory:(RuleCategory)category column:(NSTableColumn *)column row:(NSInteger)row {
     const auto identifier = tarnwick::toString([column identifier]);
     const auto &rows = _controller->rows();
-    return tarnwick::makeCell(rows.cell(category, identifier, row), category,
+    NSView *cell = tarnwick::makeCell(rows.cell(category, identifier, row), category,
         tarnwick::toNSString(rows.label(category, identifier, row)), self);
+    tarnwick::remarkOn(cell, _controller->remarks().of(category, identifier, row));
+    return cell;
+}
+
+- (void)remarkOnRowsInSightOf:(RuleCategory)category {
+    NSTableView *table = [self tableOf:category];
+    const NSRange rows = [table rowsInRect:[table visibleRect]];
+    for (NSTableColumn *column in [table tableColumns]) {
+        const auto identifier = tarnwick::toString([column identifier]);
+        const NSInteger index = [table columnWithIdentifier:[column identifier]];
+        for (NSUInteger row = rows.location; row < NSMaxRange(rows); ++row) {
+            const auto place = static_cast<NSInteger>(row);
+            if (NSView *cell = [table viewAtColumn:index row:place makeIfNecessary:NO]) {
+                tarnwick::remarkOn(cell, _controller->remarks().of(category, identifier, place));
+            }
+        }
+    }
 }
 
 - (tarnwick::EnableAllState)enableAllStateOf:(RuleCategory)category stored:(BOOL)stored {

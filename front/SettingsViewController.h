@@ -80,6 +80,7 @@ class OutletWindow;
 
 - (void)start;
 - (void)appChanged:(NSNotification *)notification;
+- (void)applicationActivated;
 
 /// The name or note being edited counts as it stands, now that its window closes or the application ends.
 - (void)endEditing:(NSNotification *)notification;

@@ -56,6 +56,7 @@ using tarnwick::RuleCategory;
 
 - (void)awakeFromNib {
     _controller->awakeFromNib();
+    _controller->watchRules();
 }
 
 - (void)viewDidLoad {
@@ -69,6 +70,10 @@ using tarnwick::RuleCategory;
 
 /// Deliberately nothing: application activations are of no consequence here.
 - (void)appChanged:(NSNotification *)notification {
+}
+
+- (void)applicationActivated {
+    _controller->applicationActivated();
 }
 
 - (void)endEditing:(NSNotification *)notification {

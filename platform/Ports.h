@@ -7,6 +7,7 @@ class Clock;
 class DistributedNotifications;
 class FileManager;
 class FileTrees;
+class FileStatus;
 class FinderSync;
 class Images;
 class KnownFolders;
@@ -27,6 +28,7 @@ struct Ports {
     FileManager& files;
     FileTrees& trees;
     PropertyListFiles& listFiles;
+    FileStatus& fileStatus;
     KnownFolders& folders;
     ApplicationBundle& bundle;
     Images& images;

@@ -4,10 +4,12 @@
 
 namespace tarnwick {
 
-/// Deferred work. Implementations: macOS dispatch queues, GNUstep run loop, in memory.
+/// Deferred work, and the time that passes meanwhile. Implementations: macOS dispatch queues, GNUstep run loop, in memory.
 class RunLoop {
 public:
     virtual ~RunLoop() = default;
+    /// Seconds since some moment before the start, of a clock that nobody sets.
+    [[nodiscard]] virtual double now() const = 0;
     /// Runs `work` on the main thread once `seconds` have passed.
     virtual void performAfterDelay(double seconds, std::function<void()> work) = 0;
     /// Runs `work` on the main thread, after what is running now.

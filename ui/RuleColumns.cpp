@@ -50,7 +50,8 @@ constexpr Column pathColumn{.identifier = "realPath",
     .cell = &RuleCells::path,
     .frame = wideFrame,
     .flexible = true,
-    .isSearched = true};
+    .isSearched = true,
+    .showsPath = true};
 
 constexpr std::array createNewFileColumns{
     enableColumn("Enable", checkBoxFrame),

@@ -32,6 +32,8 @@ struct Column {
     bool centredTitle = false;
     /// Its cells show a text that can be found.
     bool isSearched = false;
+    /// Its texts are paths.
+    bool showsPath = false;
     ColumnRole role = ColumnRole::none;
 };
 

@@ -31,7 +31,12 @@ SettingsController::SettingsController(const Ports& ports, SettingsWindow& windo
       transfer_(ports, preferences_, editing_.editor, window, stepNames_), integration_(ports, preferences_),
       rows_(preferences_.lists, ports.folders, ports.bundle, ports.images),
       finding_(preferences_.lists, rows_, ports.bundle, editing_.editor, window),
-      commands_(*this, preferences_, editing_, ports.workspace, window) {}
+      commands_(*this, preferences_, editing_, ports.workspace, window),
+      health_(preferences_.lists, ports.folders, ports.bundle, ports.fileStatus, ports.images, ports.runLoop,
+          window),
+      remarks_(preferences_.lists, health_, ports.bundle) {
+    editing_.editor.onChange([this](RuleCategory category) { health_.listChanged(category); });
+}
 
 void SettingsController::awakeFromNib() {
     preferences_.loading.prepareStoresAndFolders();
@@ -78,6 +83,14 @@ void SettingsController::showPage(Page page) {
     if (page == Page::copyFilesTo || page == Page::commonPath || page == Page::customIcon) {
         // The copy/move-to table in all three cases, on purpose.
         window_.reload(RuleCategory::copyFilesTo);
+    }
+    health_.pageShown(layoutOf(page).category);
+}
+
+void SettingsController::showNextFault(RuleCategory category) {
+    editing_.editor.endEditing();
+    if (const auto row = health_.nextFault(category, window_.selectedRow(category))) {
+        window_.selectRow(category, *row);
     }
 }
 

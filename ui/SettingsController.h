@@ -7,6 +7,8 @@
 #include "ui/LocalizedStepNames.h"
 #include "ui/Page.h"
 #include "ui/RuleCommands.h"
+#include "ui/RowRemarks.h"
+#include "ui/RuleHealth.h"
 #include "ui/RuleRows.h"
 #include "ui/SettingsTransfer.h"
 
@@ -43,6 +45,7 @@ public:
 
     void showPage(Page page);
     [[nodiscard]] const RuleRows& rows() const { return rows_; }
+    [[nodiscard]] const RowRemarks& remarks() const { return remarks_; }
     /// A click in a table: its remove button is enabled exactly while a removable row is selected.
     void tableClicked(RuleCategory category);
 
@@ -81,7 +84,14 @@ public:
     void endEditing() { editing_.editor.endEditing(); }
     /// When the process ends.
     void removeHeldFiles() { preferences_.held.removeAll(); }
-    void selectPath(long row) { editing_.pathChoosing.selectPath(row); }
+    void selectPath(RuleCategory category, long row) { editing_.pathChoosing.selectPath(category, row); }
+
+    /// From now on the window is shown what is wrong with the rules of its page.
+    void watchRules() { health_.watch(); }
+    /// Selects the next row that something is wrong with.
+    void showNextFault(RuleCategory category);
+    /// The user comes back to the application.
+    void applicationActivated() { health_.applicationActivated(); }
 
     /// What can be done with the list that is shown and its selected row, as the menus offer it.
     [[nodiscard]] RuleCommands& commands() { return commands_; }
@@ -111,6 +121,8 @@ private:
     RuleRows rows_;
     Finding finding_;
     RuleCommands commands_;
+    RuleHealth health_;
+    RowRemarks remarks_;
 };
 
 } // namespace tarnwick

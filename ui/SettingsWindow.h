@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editing/RuleTables.h"
+#include "ui/FaultDisplay.h"
 #include "ui/Page.h"
 
 #include <cstdint>
@@ -13,7 +14,7 @@ struct Colour;
 
 /// The settings window as the controller acts on it. A control that it lacks makes what is asked of it do
 /// nothing. Implementations: the window over AppKit's controls, in memory.
-class SettingsWindow : public RuleTables {
+class SettingsWindow : public RuleTables, public FaultDisplay {
 public:
     virtual void showVersion(std::string_view text) = 0;
     virtual void showPage(Page page) = 0;

@@ -21,6 +21,7 @@ public:
         // While the main thread has none yet, what is queued for it would run at once.
         [NSRunLoop mainRunLoop];
     }
+    double now() const override { return steadySeconds(); }
     void performAfterDelay(double seconds, std::function<void()> work) override {
         [[TNDeferredWork deferredWork:std::move(work)] performSelector:@selector(run:)
                                                             withObject:nil

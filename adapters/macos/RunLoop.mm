@@ -12,6 +12,7 @@ namespace {
 
 class DispatchQueues final : public RunLoop {
 public:
+    double now() const override { return steadySeconds(); }
     void performAfterDelay(double seconds, std::function<void()> work) override {
         TNDeferredWork *later = [TNDeferredWork deferredWork:std::move(work)];
         [later performSelector:@selector(run:) withObject:nil afterDelay:seconds];

@@ -40,6 +40,8 @@
 /// Kept for whoever asks; no assistive technology does.
 - (void)setAccessibilityLabel:(NSString *)label;
 - (NSString *)accessibilityLabel;
+- (void)setAccessibilityHelp:(NSString *)help;
+- (NSString *)accessibilityHelp;
 @end
 
 @interface NSButton (TNAccessibility)

@@ -1,4 +1,4 @@
-// Missing: labels and values for assistive technology, as of GNUstep GUI 0.29, which talks to none.
+// Missing: labels, help and values for assistive technology, as of GNUstep GUI 0.29, which talks to none.
 
 #import "TNAdditions.h"
 
@@ -7,6 +7,7 @@
 namespace {
 
 NSString *const labelName = @"accessibilityLabel";
+NSString *const helpName = @"accessibilityHelp";
 
 } // namespace
 
@@ -19,6 +20,14 @@ NSString *const labelName = @"accessibilityLabel";
 /// Ahead of its first caller: no assistive technology asks.
 - (NSString *)accessibilityLabel {
     return TNAttachment(self, labelName);
+}
+
+- (void)setAccessibilityHelp:(NSString *)help {
+    TNSetAttachment(self, helpName, [[help copy] autorelease]);
+}
+
+- (NSString *)accessibilityHelp {
+    return TNAttachment(self, helpName);
 }
 
 @end

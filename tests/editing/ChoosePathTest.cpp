@@ -16,7 +16,7 @@ protected:
 };
 
 TEST_F(ChoosePathTest, TheChosenFolderReplacesThePathAndClearsTheName) {
-    editing_.pathChoosing.selectPath(2);
+    editing_.pathChoosing.selectPath(RuleCategory::copyFilesTo, 2);
     platform_.panels.confirm({"/Volumes/Backup"});
     const PlistValue expected(
         PlistDictionary{{"enable", 1}, {"realPath", "/Volumes/Backup"}, {"displayName", ""}});
@@ -25,7 +25,7 @@ TEST_F(ChoosePathTest, TheChosenFolderReplacesThePathAndClearsTheName) {
 }
 
 TEST_F(ChoosePathTest, StoresSynchronisesReloadsAndPublishesAndRemembersNoFolder) {
-    editing_.pathChoosing.selectPath(0);
+    editing_.pathChoosing.selectPath(RuleCategory::copyFilesTo, 0);
     platform_.log.clear();
     platform_.panels.confirm({"/Volumes/Backup"});
     EXPECT_EQ(
@@ -35,7 +35,7 @@ TEST_F(ChoosePathTest, StoresSynchronisesReloadsAndPublishesAndRemembersNoFolder
 }
 
 TEST_F(ChoosePathTest, ATargetWithoutFolderKeepsItsFlagAndCanBeSwitchedOnAfterwards) {
-    editing_.pathChoosing.selectPath(1);
+    editing_.pathChoosing.selectPath(RuleCategory::copyFilesTo, 1);
     platform_.panels.confirm({"/Volumes/Backup"});
     EXPECT_EQ(list()[1].dictionary()->at("enable"), PlistValue(0));
     editing_.toggling.set(RuleCategory::copyFilesTo, 1, field::enable, true);
@@ -43,14 +43,14 @@ TEST_F(ChoosePathTest, ATargetWithoutFolderKeepsItsFlagAndCanBeSwitchedOnAfterwa
 }
 
 TEST_F(ChoosePathTest, CancellingChangesAndPublishesNothing) {
-    editing_.pathChoosing.selectPath(0);
+    editing_.pathChoosing.selectPath(RuleCategory::copyFilesTo, 0);
     platform_.log.clear();
     platform_.panels.cancel();
     EXPECT_TRUE(platform_.log.lines().empty());
 }
 
 TEST_F(ChoosePathTest, TheRowIsTheOneOfTheClickEvenWhenTheListChangesMeanwhile) {
-    editing_.pathChoosing.selectPath(1);
+    editing_.pathChoosing.selectPath(RuleCategory::copyFilesTo, 1);
     tables_.table(RuleCategory::copyFilesTo).selected = 0;
     editing_.removing.remove(RuleCategory::copyFilesTo);
     platform_.panels.confirm({"/Volumes/Backup"});
@@ -58,7 +58,7 @@ TEST_F(ChoosePathTest, TheRowIsTheOneOfTheClickEvenWhenTheListChangesMeanwhile) 
 }
 
 TEST_F(ChoosePathTest, ARowThatIsGoneWhenTheChooserClosesChangesNothing) {
-    editing_.pathChoosing.selectPath(2);
+    editing_.pathChoosing.selectPath(RuleCategory::copyFilesTo, 2);
     tables_.table(RuleCategory::copyFilesTo).selected = 0;
     editing_.removing.remove(RuleCategory::copyFilesTo);
     platform_.log.clear();
@@ -69,7 +69,7 @@ TEST_F(ChoosePathTest, ARowThatIsGoneWhenTheChooserClosesChangesNothing) {
 
 TEST_F(ChoosePathTest, TheChooserTakesOneFolderAndAlwaysStartsAtTheDesktop) {
     platform_.preferences.local.insert_or_assign("prePathOfSendFilesTo", "/remembered");
-    editing_.pathChoosing.selectPath(0);
+    editing_.pathChoosing.selectPath(RuleCategory::copyFilesTo, 0);
     OpenPanelRequest expected;
     expected.canChooseFiles = false;
     expected.canChooseDirectories = true;

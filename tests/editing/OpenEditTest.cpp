@@ -130,7 +130,7 @@ TEST_F(OpenEditTest, ACancelledChooserLeavesTheEditOpen) {
 
 TEST_F(OpenEditTest, AFolderChosenForTheEditedRowClearsItsTypedName) {
     type("Note");
-    editing_.pathChoosing.selectPath(1);
+    editing_.pathChoosing.selectPath(RuleCategory::copyFilesTo, 1);
     EXPECT_EQ(names(RuleCategory::copyFilesTo), (std::vector<std::string>{"A", "New", "C", "D"}));
     type("Note");
     platform_.panels.confirm({"/folders/E"});

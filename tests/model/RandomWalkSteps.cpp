@@ -149,7 +149,7 @@ void RandomWalk::editNote() {
 
 void RandomWalk::choosePath() {
     const auto row = anyRow(RuleCategory::copyFilesTo);
-    controller_.selectPath(row);
+    controller_.selectPath(RuleCategory::copyFilesTo, row);
     if (flip()) {
         // The list may change while the chooser is open.
         asStep([this] { remove(RuleCategory::copyFilesTo); });

@@ -183,7 +183,7 @@ void RandomEdits::choosePath() {
     const auto path = sources_ + "/" + freshName();
     answerPanelsWith({path});
     perform("choose-path", RuleCategory::copyFilesTo, true, model_.choosePath(place, path),
-        [&] { controller().selectPath(place); });
+        [&] { controller().selectPath(RuleCategory::copyFilesTo, place); });
 }
 
 void RandomEdits::reset(RuleCategory category) {

@@ -115,4 +115,18 @@ std::set<std::string> InMemoryFiles::namesIn(const std::string& folder) const {
     return names;
 }
 
+FileKind InMemoryFileStatus::kindOf(const std::string& path) const {
+    asked.push_back(path);
+    if (asking) {
+        asking(path);
+    }
+    if (const auto found = answers.find(path); found != answers.end()) {
+        return found->second;
+    }
+    if (files_.folders.count(path) != 0) {
+        return FileKind::folder;
+    }
+    return files_.files.count(path) != 0 ? FileKind::file : FileKind::missing;
+}
+
 } // namespace tarnwick::testing

@@ -2,12 +2,15 @@
 
 #include "platform/ApplicationBundle.h"
 #include "platform/FileManager.h"
+#include "platform/FileStatus.h"
 #include "platform/KnownFolders.h"
 #include "tests/support/CallLog.h"
 
+#include <functional>
 #include <map>
 #include <set>
 #include <string>
+#include <vector>
 
 namespace tarnwick::testing {
 
@@ -45,6 +48,22 @@ private:
     [[nodiscard]] bool canPut(const std::string& from, const std::string& to) const;
     void put(const std::string& from, const std::string& to);
     CallLog& log_;
+};
+
+/// What stands where among the files in memory, unless a test says otherwise. Keeps the paths that are asked.
+class InMemoryFileStatus final : public FileStatus {
+public:
+    explicit InMemoryFileStatus(const InMemoryFiles& files) : files_(files) {}
+
+    std::map<std::string, FileKind> answers;
+    /// Told of each path before it is answered.
+    std::function<void(const std::string& path)> asking;
+    mutable std::vector<std::string> asked;
+
+    FileKind kindOf(const std::string& path) const override;
+
+private:
+    const InMemoryFiles& files_;
 };
 
 /// Folders at fixed places: the group container at "/container", the scripts at "/scripts", the user "anna".

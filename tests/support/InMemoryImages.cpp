@@ -23,6 +23,7 @@ ImagePointer InMemoryImages::named(std::string_view name) {
 }
 
 ImagePointer InMemoryImages::fromData(const PlistData& data) {
+    ++reads;
     constexpr std::string_view mark = "tiff";
     const auto isPicture = data.size() >= mark.size() && std::equal(mark.begin(), mark.end(), data.bytes());
     return isPicture ? std::make_shared<const InMemoryImage>(data, size) : nullptr;

@@ -33,6 +33,8 @@ public:
     std::set<std::string, std::less<>> missingNames;
     std::map<std::string, std::string> pictureFiles;
     ImageSize size{128, 128};
+    /// How often data has been read.
+    std::size_t reads = 0;
 
     ImagePointer named(std::string_view name) override;
     ImagePointer fromData(const PlistData& data) override;

@@ -24,7 +24,7 @@ void InMemoryPlatform::addResources() {
 }
 
 Ports InMemoryPlatform::ports() {
-    return {preferences, files, trees, listFiles, folders, bundle, images, panels, workspace, finderSync,
+    return {preferences, files, trees, listFiles, fileStatus, folders, bundle, images, panels, workspace, finderSync,
         userScripts, notifications, runLoop, systemLog, process, clock, undoHistory};
 }
 

@@ -19,6 +19,7 @@ struct InMemoryPlatform {
     InMemoryFiles files{log};
     InMemoryFileTrees trees{log, files};
     InMemoryPropertyListFiles listFiles{log};
+    InMemoryFileStatus fileStatus{files};
     InMemoryFolders folders;
     InMemoryBundle bundle;
     InMemoryImages images;

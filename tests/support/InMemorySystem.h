@@ -116,6 +116,9 @@ class InMemoryRunLoop final : public RunLoop {
 public:
     explicit InMemoryRunLoop(CallLog& log) : log_(log) {}
     std::vector<double> delays;
+    /// What the clock says.
+    double time = 0;
+    double now() const override { return time; }
     void performAfterDelay(double seconds, std::function<void()> work) override;
     void performOnMainQueue(std::function<void()> work) override;
     void performInBackground(std::function<void()> work) override;

@@ -33,6 +33,9 @@ public:
     bool restartButtonIsHidden = false;
     Colour helpTitle;
     std::vector<DragSetUp> drags;
+    /// What is said below each table.
+    PerCategory<std::string> faults = PerCategory<std::string>::madeBy([](RuleCategory) { return ""; });
+    RowRange inSight{0, 3};
 
     void showVersion(std::string_view text) override { version = text; }
     void showPage(Page shown) override { page = shown; }
@@ -51,6 +54,12 @@ public:
             log_.add("observe " + std::string(key));
             preferences_.observedKeys.emplace(key);
         }
+    }
+    RowRange rowsInSight(RuleCategory) const override { return inSight; }
+    /// Logs "show faults TABLE".
+    void showFaults(RuleCategory category, std::string_view summary) override {
+        log_.add("show faults " + nameOf(category));
+        faults[category] = summary;
     }
     void observeApplicationChanges() override { log_.add("observe applications"); }
 

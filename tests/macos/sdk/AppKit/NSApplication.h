@@ -6,6 +6,7 @@
 
 @class NSMenu;
 
+extern "C" NSString *const NSApplicationDidBecomeActiveNotification;
 extern "C" NSString *const NSApplicationWillTerminateNotification;
 extern "C" NSString *const NSEventTrackingRunLoopMode;
 extern "C" NSString *const NSModalPanelRunLoopMode;

@@ -15,7 +15,8 @@ typedef TN_ENUM(NSInteger, NSTextAlignment) {
     NSTextAlignmentCenter = 2,
 #endif
 };
-typedef TN_ENUM(NSUInteger, NSLineBreakMode){NSLineBreakByWordWrapping = 0, NSLineBreakByTruncatingTail = 4};
+typedef TN_ENUM(NSUInteger, NSLineBreakMode){
+    NSLineBreakByWordWrapping = 0, NSLineBreakByTruncatingTail = 4, NSLineBreakByTruncatingMiddle = 5};
 
 extern "C" {
 extern NSString *const NSFontAttributeName;
@@ -25,6 +26,7 @@ extern NSString *const NSParagraphStyleAttributeName;
 
 @interface NSColorSpace : NSObject
 @property (class, readonly, strong) NSColorSpace *deviceRGBColorSpace;
+@property (class, readonly, strong) NSColorSpace *genericGrayColorSpace;
 @end
 
 @interface NSColor : NSObject <NSCopying>
@@ -33,6 +35,7 @@ extern NSString *const NSParagraphStyleAttributeName;
 @property (class, readonly, strong) NSColor *secondaryLabelColor;
 @property (class, readonly, strong) NSColor *textBackgroundColor;
 @property (readonly) CGColorRef CGColor;
+@property (readonly) CGFloat whiteComponent;
 + (NSColor *)colorWithDeviceRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha;
 - (nullable NSColor *)colorUsingColorSpace:(NSColorSpace *)space;
 - (NSColor *)colorWithAlphaComponent:(CGFloat)alpha;
@@ -53,6 +56,15 @@ extern NSString *const NSParagraphStyleAttributeName;
 @interface NSFont : NSObject <NSCopying>
 + (NSFont *)systemFontOfSize:(CGFloat)size;
 + (NSFont *)boldSystemFontOfSize:(CGFloat)size;
+@property (readonly) CGFloat pointSize;
+@end
+
+typedef TN_OPTIONS(NSUInteger, NSFontTraitMask){NSItalicFontMask = 1};
+
+@interface NSFontManager : NSObject
+@property (class, readonly, strong) NSFontManager *sharedFontManager;
+- (NSFont *)convertFont:(NSFont *)font toHaveTrait:(NSFontTraitMask)trait;
+- (NSFont *)convertFont:(NSFont *)font toNotHaveTrait:(NSFontTraitMask)trait;
 @end
 
 @interface NSParagraphStyle : NSObject <NSCopying>

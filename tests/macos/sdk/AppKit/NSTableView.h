@@ -62,6 +62,8 @@ extern "C" NSString *const NSTableViewSelectionDidChangeNotification;
 @property (readonly) NSInteger selectedRow;
 @property (readonly) NSInteger clickedRow;
 @property (readonly) NSInteger clickedColumn;
+- (NSRange)rowsInRect:(NSRect)rect;
+@property (copy, readonly) NSArray<NSTableColumn *> *tableColumns;
 @property CGFloat rowHeight;
 @property NSTableViewStyle style TN_SINCE(11.0);
 @property NSSize intercellSpacing;

@@ -38,6 +38,7 @@ typedef TN_OPTIONS(NSUInteger, NSAutoresizingMaskOptions){
 - (NSRect)convertRect:(NSRect)rect toView:(nullable NSView *)view;
 - (instancetype)initWithFrame:(NSRect)frame;
 - (void)setAccessibilityLabel:(nullable NSString *)label;
+- (void)setAccessibilityHelp:(nullable NSString *)help;
 - (void)setFrameSize:(NSSize)size;
 - (void)setFrameOrigin:(NSPoint)origin;
 - (void)addSubview:(NSView *)view;

@@ -2,6 +2,15 @@
 
 #import "NSObject.h"
 
+typedef struct {
+    NSUInteger location;
+    NSUInteger length;
+} NSRange;
+
+inline NSUInteger NSMaxRange(NSRange range) {
+    return range.location + range.length;
+}
+
 #pragma clang assume_nonnull begin
 
 typedef struct {
@@ -20,6 +29,7 @@ typedef struct {
 @interface NSArray<ObjectType> : NSObject <NSCopying, NSFastEnumeration>
 @property (readonly) NSUInteger count;
 - (ObjectType)objectAtIndex:(NSUInteger)index;
+@property (nullable, readonly) ObjectType firstObject;
 - (BOOL)containsObject:(ObjectType)object;
 + (instancetype)array;
 + (instancetype)arrayWithObject:(ObjectType)object;
