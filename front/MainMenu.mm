@@ -35,15 +35,15 @@ NSMenu *makeMenu(const MenuLayout &layout, SettingsViewController *controller) {
         return [[[RuleMenu alloc] initWithController:controller scope:RuleMenuScope::rowAndList] autorelease];
     }
     NSMenu *menu = [[[NSMenu alloc] initWithTitle:localizedText(layout.title)] autorelease];
+    if (layout.role == MenuRole::pages) {
+        addPages(menu, controller);
+    }
     for (const auto &facts : layout.items) {
         NSMenuItem *item = makeMenuItem(facts, controller);
         [menu addItem:item];
         if (facts.command == Command::services) {
             addServices(item);
         }
-    }
-    if (layout.role == MenuRole::pages) {
-        addPages(menu, controller);
     }
     return menu;
 }

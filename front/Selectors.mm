@@ -142,6 +142,10 @@ CommandAction actionOf(Command command) {
         return {
             @selector(selectAll:), anyones
         };
+    case Command::previewMenu:
+        return {
+            @selector(previewMenu:), controllers
+        };
     case Command::find:
         return {
             @selector(showFindBar:), controllers

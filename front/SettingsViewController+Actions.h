@@ -2,6 +2,8 @@
 
 #import "front/SettingsViewController.h"
 
+@class PreviewedRule;
+
 /// What the page buttons, and clicks in the tables, send.
 @interface SettingsViewController (Pages)
 
@@ -141,6 +143,9 @@
 - (void)importSettings:(id)sender;
 /// Marks what is on, the page that is shown among it; disables what cannot be done just now, and says why.
 - (BOOL)validateMenuItem:(NSMenuItem *)item;
+/// Pops the menu up that the rules and switches make, at the preview button.
+- (void)previewMenu:(id)sender;
+- (void)showPreviewedRule:(PreviewedRule *)sender;
 /// Selects the next row of the page that something is wrong with.
 - (void)showNextFault:(id)sender;
 

@@ -2,6 +2,7 @@
 
 #import "adapters/foundation/StringConversion.h"
 #import "front/ControlMaking.h"
+#import "front/PreviewMenu.h"
 #import "front/Selectors.h"
 #import "front/SettingsViewController+Finding.h"
 
@@ -64,6 +65,18 @@ std::optional<Page> pageShownBy(SEL action) {
     mark(item, state.isOn, state.isMixed);
     [item setToolTip:state.isPossible() ? nil : tarnwick::localizedText(state.obstacle)];
     return state.isPossible();
+}
+
+- (void)previewMenu:(id)sender {
+    const auto &preview = _controller->preview();
+    NSMenu *menu = tarnwick::makePreviewMenu(preview, preview.items(), self);
+    [menu popUpMenuPositioningItem:nil
+                        atLocation:NSMakePoint(0, NSMaxY([_previewButton bounds]))
+                            inView:_previewButton];
+}
+
+- (void)showPreviewedRule:(PreviewedRule *)sender {
+    _controller->showRule([sender category], [sender row]);
 }
 
 - (void)showNextFault:(id)sender {

@@ -48,6 +48,7 @@ class OutletWindow;
     /// Made when it is first needed.
     FindBar *_findBar;
     BOOL _isFinding;
+    NSButton *_previewButton;
 }
 
 @property (nonatomic, assign) NSTextField *Version;
@@ -71,6 +72,7 @@ class OutletWindow;
 @property (nonatomic, assign) NSButton *restartFinderButton;
 @property (nonatomic, assign) NSButton *helpButton;
 @property (nonatomic, retain) NSTextField *tipOfkillFinder;
+@property (nonatomic, assign) NSButton *previewButton;
 
 /// Refuses to run, and ends the process, when the application was started as a login item.
 - (instancetype)initWithPorts:(const tarnwick::Ports &)ports;

@@ -28,7 +28,7 @@ using tarnwick::RuleCategory;
             removeCustomIconViewButton = _removeCustomIconViewButton,
             removeOthersViewButton = _removeOthersViewButton;
 @synthesize restartFinderButton = _restartFinderButton, helpButton = _helpButton,
-            tipOfkillFinder = _tipOfkillFinder;
+            tipOfkillFinder = _tipOfkillFinder, previewButton = _previewButton;
 
 - (instancetype)initWithPorts:(const tarnwick::Ports &)ports {
     self = [super initWithNibName:nil bundle:nil];

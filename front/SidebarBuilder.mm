@@ -96,15 +96,21 @@ NSView *makeSidebar(CGFloat height, SettingsViewController *controller) {
     NSButton *restart =
         makePushButton(localizedText(sidebar::restart), controller, @selector(restartFinderClick:));
 
+    NSButton *preview = makePushButton(localizedText(sidebar::preview), controller, @selector(previewMenu:));
+    [preview setToolTip:localizedText(sidebar::previewToolTip)];
+
     CGFloat bottom = addAtFoot(column, version, 14, 16);
     bottom = addAtFoot(column, help, bottom + 8, 28);
-    bottom = addAtFoot(column, restart, bottom + 6, 28);
-    addAtFoot(column, tip, bottom + 6, 44);
+    bottom = addAtFoot(column, preview, bottom + 8, 28);
+    // The tip stands on its own as long as there is no button to it, which is most of the time.
+    bottom = addAtFoot(column, tip, bottom + 10, 44);
+    addAtFoot(column, restart, bottom + 6, 28);
 
     [controller setVersion:version];
     [controller setHelpButton:help];
     [controller setRestartFinderButton:restart];
     [controller setTipOfkillFinder:tip];
+    [controller setPreviewButton:preview];
     return column;
 }
 

@@ -35,14 +35,24 @@ PlistValue RuleList::toPlist() const {
     return PlistValue(std::move(array));
 }
 
-PlistValue RuleList::enabledToPlist() const {
-    PlistArray array;
+std::vector<std::size_t> RuleList::enabledRows() const {
+    std::vector<std::size_t> rows;
     // Nearly all records are enabled as a rule.
-    array.reserve(records_.size());
-    for (const auto& record : records_) {
-        if (record.isEnabled()) {
-            array.push_back(record.toPlist());
+    rows.reserve(records_.size());
+    for (std::size_t row = 0; row < records_.size(); ++row) {
+        if (records_[row].isEnabled()) {
+            rows.push_back(row);
         }
+    }
+    return rows;
+}
+
+PlistValue RuleList::enabledToPlist() const {
+    const auto rows = enabledRows();
+    PlistArray array;
+    array.reserve(rows.size());
+    for (const auto row : rows) {
+        array.push_back(records_[row].toPlist());
     }
     return PlistValue(std::move(array));
 }

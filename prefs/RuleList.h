@@ -49,6 +49,8 @@ public:
 
     /// The stored form: an array of dictionaries that share the records' contents.
     [[nodiscard]] PlistValue toPlist() const;
+    /// The places of the enabled records: the rules that are published.
+    [[nodiscard]] std::vector<std::size_t> enabledRows() const;
     /// The published form: the enabled records only, in order.
     [[nodiscard]] PlistValue enabledToPlist() const;
 

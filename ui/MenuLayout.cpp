@@ -64,6 +64,11 @@ constexpr std::array rules{
     MenuItemLayout{"Enable All", Command::enableAll},
 };
 
+constexpr std::array viewMenu{
+    separator,
+    MenuItemLayout{"Preview Menu", Command::previewMenu, u'p', KeyModifiers::shiftCommand},
+};
+
 constexpr std::array windowMenu{
     MenuItemLayout{"Minimize", Command::minimize, u'm'},
     MenuItemLayout{"Zoom", Command::zoom},
@@ -82,7 +87,7 @@ constexpr std::array menus{
     MenuLayout{"Tarnwick", applicationMenu},
     MenuLayout{"File", fileMenu},
     MenuLayout{"Edit", editMenu},
-    MenuLayout{"View", {}, MenuRole::pages},
+    MenuLayout{"View", viewMenu, MenuRole::pages},
     MenuLayout{"Rule", rules, MenuRole::rules},
     MenuLayout{"Window", windowMenu, MenuRole::windows},
     MenuLayout{"Help", helpMenu, MenuRole::help},

@@ -36,6 +36,7 @@ enum class Command {
     chooseFolder,
     showInFinder,
     openTemplate,
+    previewMenu,
     moveUp,
     moveDown,
     removeRule,
@@ -76,8 +77,8 @@ enum class MenuRole { ordinary, pages, rules, windows, help };
 
 struct MenuLayout {
     std::string_view title;
-    /// The menu of pages has an item for each page instead; of the menu of rules, what the list that is shown
-    /// has stands there.
+    /// The menu of pages has an item for each page ahead of them; of the menu of rules, what the list that is
+    /// shown has stands there.
     std::span<const MenuItemLayout> items;
     MenuRole role = MenuRole::ordinary;
 };

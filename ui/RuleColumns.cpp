@@ -17,7 +17,12 @@ constexpr Frame actionIconFrame{20, 5, 20, 20};
 
 constexpr Column iconColumn(
     std::string_view identifier, double width, RuleCells::Maker cell, const Frame& frame) {
-    return {.identifier = identifier, .width = width, .label = "Icon of %@", .cell = cell, .frame = frame};
+    return {.identifier = identifier,
+        .width = width,
+        .label = "Icon of %@",
+        .cell = cell,
+        .frame = frame,
+        .role = ColumnRole::icon};
 }
 
 /// The switch at the head of a row.

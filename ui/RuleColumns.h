@@ -10,7 +10,7 @@
 namespace tarnwick {
 
 /// What the menus, the keyboard and those who do not see a table need of a column.
-enum class ColumnRole { none, name, note, enableSwitch, mainMenuSwitch };
+enum class ColumnRole { none, icon, name, note, enableSwitch, mainMenuSwitch };
 
 /// A column of a table: how wide it is, what its cells show and what they say of themselves. Texts are keys
 /// of the localisation table; sizes are points.

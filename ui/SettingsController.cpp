@@ -34,7 +34,8 @@ SettingsController::SettingsController(const Ports& ports, SettingsWindow& windo
       commands_(*this, preferences_, editing_, ports.workspace, window),
       health_(preferences_.lists, ports.folders, ports.bundle, ports.fileStatus, ports.images, ports.runLoop,
           window),
-      remarks_(preferences_.lists, health_, ports.bundle) {
+      remarks_(preferences_.lists, health_, ports.bundle),
+      preview_(preferences_.lists, preferences_.local, rows_, ports.folders, ports.bundle, ports.images) {
     editing_.editor.onChange([this](RuleCategory category) { health_.listChanged(category); });
 }
 
@@ -97,6 +98,12 @@ void SettingsController::showNextFault(RuleCategory category) {
 void SettingsController::putFactoryListBack(RuleCategory category) {
     editing_.editor.endEditing();
     preferences_.factory.reset(category);
+}
+
+void SettingsController::showRule(RuleCategory category, long row) {
+    showPage(pageOf(category));
+    window_.selectRow(category, row);
+    tableClicked(category);
 }
 
 void SettingsController::tableClicked(RuleCategory category) {

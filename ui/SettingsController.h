@@ -5,6 +5,7 @@
 #include "prefs/Preferences.h"
 #include "ui/Finding.h"
 #include "ui/LocalizedStepNames.h"
+#include "ui/MenuPreview.h"
 #include "ui/Page.h"
 #include "ui/RuleCommands.h"
 #include "ui/RowRemarks.h"
@@ -90,6 +91,9 @@ public:
     void watchRules() { health_.watch(); }
     /// Selects the next row that something is wrong with.
     void showNextFault(RuleCategory category);
+    [[nodiscard]] const MenuPreview& preview() const { return preview_; }
+    /// Shows the rule's page and selects its row.
+    void showRule(RuleCategory category, long row);
     /// The user comes back to the application.
     void applicationActivated() { health_.applicationActivated(); }
 
@@ -123,6 +127,7 @@ private:
     RuleCommands commands_;
     RuleHealth health_;
     RowRemarks remarks_;
+    MenuPreview preview_;
 };
 
 } // namespace tarnwick

@@ -50,6 +50,9 @@ struct PageLayout {
 
 /// The texts below the page buttons.
 namespace sidebar {
+inline constexpr std::string_view preview = "Preview Menu";
+inline constexpr std::string_view previewToolTip =
+    "Shows the menu that the Finder is given. Choose an item to see its rule.";
 inline constexpr std::string_view help = "Help";
 inline constexpr std::string_view tip = "Does the menu not show a change? Restarting the Finder helps.";
 inline constexpr std::string_view restart = "Restart Finder";

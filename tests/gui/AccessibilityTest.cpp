@@ -50,7 +50,7 @@ TEST(Accessibility, TheTabKeyGoesFromTheSidebarThroughThePageAndBack) {
     }
     EXPECT_EQ(labels,
         (std::vector<std::string>{"New File", "Copy & Move To", "Common Folders", "Custom Icons",
-            "More Items", "More Apps", "Help", "Offer copying to these folders",
+            "More Items", "More Apps", "Preview Menu", "Help", "Offer copying to these folders",
             "Offer moving to these folders", "Show icons in the menu", "Play a sound after copying or moving",
             "Copy & Move To", "Add Folders\u2026", "Reset List"}));
 }

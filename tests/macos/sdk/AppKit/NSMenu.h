@@ -9,6 +9,8 @@
 @interface NSMenuItem : NSObject <NSCopying>
 @property (copy) NSString *title;
 @property (nullable) SEL action;
+@property (getter=isEnabled) BOOL enabled;
+@property (nullable, strong) NSImage *image;
 @property (nullable, assign) id target;
 @property NSInteger tag;
 @property (copy) NSString *keyEquivalent;
