@@ -12,4 +12,11 @@ void setLayerBackground(NSView *view, NSColor *color) {
     [view setNeedsDisplay:YES];
 }
 
+void fillWithShade(NSRect rect, CGFloat shade) {
+    // As it is just now: the system's own colours do not take another alpha everywhere.
+    NSColor *text = [[NSColor controlTextColor] colorUsingColorSpace:[NSColorSpace deviceRGBColorSpace]];
+    [[text colorWithAlphaComponent:shade] set];
+    [NSBezierPath fillRect:rect];
+}
+
 } // namespace tarnwick

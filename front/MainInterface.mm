@@ -17,8 +17,8 @@
 #include "platform/Clock.h"
 #include "platform/DistributedNotifications.h"
 #include "platform/FileManager.h"
-#include "platform/FileTrees.h"
 #include "platform/FileStatus.h"
+#include "platform/FileTrees.h"
 #include "platform/FinderSync.h"
 #include "platform/Images.h"
 #include "platform/KnownFolders.h"
@@ -73,8 +73,9 @@ struct Adapters {
     std::unique_ptr<UndoHistory> undoHistory = makeUndoHistory([windowUndo.get() steps]);
 
     [[nodiscard]] Ports ports() const {
-        return {*preferences, *files, *trees, *listFiles, *fileStatus, *folders, *bundle, *images, *panels, *workspace,
-            *finderSync, *userScripts, *notifications, *runLoop, *log, *process, *clock, *undoHistory};
+        return {*preferences, *files, *trees, *listFiles, *fileStatus, *folders, *bundle, *images, *panels,
+            *workspace, *finderSync, *userScripts, *notifications, *runLoop, *log, *process, *clock,
+            *undoHistory};
     }
 };
 

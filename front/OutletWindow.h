@@ -26,6 +26,9 @@ public:
     [[nodiscard]] RowRange rowsInSight(RuleCategory category) const override;
     void showFaults(RuleCategory category, std::string_view summary) override;
 
+    void showNotices(const std::vector<Notice> &notices) override;
+    void setSwitchForced(std::string_view key, bool forced) override;
+
     void showVersion(std::string_view text) override;
     /// The keyboard goes to the page's table.
     void showPage(Page page) override;

@@ -4,14 +4,27 @@
 #import "front/Colors.h"
 #import "front/FaultLineView.h"
 #import "front/KeyViewLoop.h"
+#import "front/NoticeBar.h"
+#import "front/PreferenceSwitch.h"
 #import "front/RuleTableView.h"
-#import "front/SettingsViewController+Finding.h"
 #import "front/SettingsViewController+Actions.h"
+#import "front/SettingsViewController+Finding.h"
 
 #include "ui/WindowLayout.h"
 
 namespace tarnwick {
 namespace {
+
+/// On each switch of this key from `view` downwards.
+void showForced(NSView *view, NSString *key, bool forced) {
+    for (NSView *inner in [view subviews]) {
+        if (![inner isKindOfClass:[PreferenceSwitch class]]) {
+            showForced(inner, key, forced);
+        } else if ([[static_cast<PreferenceSwitch *>(inner) key] isEqualToString:key]) {
+            [static_cast<PreferenceSwitch *>(inner) setForced:forced];
+        }
+    }
+}
 
 /// The table that a view stands in; nil when it stands in none.
 NSTableView *tableAround(NSView *view) {
@@ -106,6 +119,22 @@ void OutletWindow::showFaults(RuleCategory category, std::string_view summary) {
             [static_cast<FaultLineView *>(view) showText:toNSString(summary)]) {
             linkKeyViews(tabView);
         }
+    }
+}
+
+void OutletWindow::showNotices(const std::vector<Notice> &notices) {
+    NSTabView *tabView = [controller_ tabView];
+    for (NSView *view in [[tabView superview] subviews]) {
+        if ([view isKindOfClass:[NoticeBar class]] && [static_cast<NoticeBar *>(view) showNotices:notices]) {
+            linkKeyViews(tabView);
+        }
+    }
+}
+
+void OutletWindow::setSwitchForced(std::string_view key, bool forced) {
+    NSTabView *tabView = [controller_ tabView];
+    for (const auto page : allPages) {
+        showForced([[tabView tabViewItemAtIndex:static_cast<NSInteger>(page)] view], toNSString(key), forced);
     }
 }
 

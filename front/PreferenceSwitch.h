@@ -9,9 +9,15 @@
     NSString *_key;
     id _followUpTarget;
     SEL _followUpAction;
+    NSString *_ownToolTip;
+    BOOL _isForced;
 }
 
 - (instancetype)initWithTitle:(NSString *)title key:(NSString *)key;
+- (NSString *)key;
+
+/// Whether an administrator has set the key: the switch is disabled then and says so.
+- (void)setForced:(BOOL)forced;
 
 /// What is told after a click has been stored; the target is not retained.
 - (void)setFollowUpTarget:(id)target action:(SEL)action;

@@ -1,5 +1,7 @@
 #import "front/PreferenceSwitch.h"
 
+#import "front/ControlMaking.h"
+
 @implementation PreferenceSwitch
 
 - (instancetype)initWithTitle:(NSString *)title key:(NSString *)key {
@@ -22,7 +24,30 @@
 - (void)dealloc {
     [[NSNotificationCenter defaultCenter] removeObserver:self];
     [_key release];
+    [_ownToolTip release];
     [super dealloc];
+}
+
+- (NSString *)key {
+    return _key;
+}
+
+- (void)setForced:(BOOL)forced {
+    if (forced == _isForced) {
+        return;
+    }
+    _isForced = forced;
+    [self setEnabled:!forced];
+    if (forced) {
+        _ownToolTip = [[self toolTip] copy];
+        [self
+            setToolTip:tarnwick::localizedText("An administrator has set this; it cannot be changed here.")];
+    } else {
+        [self setToolTip:_ownToolTip];
+        [_ownToolTip release];
+        _ownToolTip = nil;
+    }
+    [self setAccessibilityHelp:forced ? [self toolTip] : nil];
 }
 
 - (void)setFollowUpTarget:(id)target action:(SEL)action {

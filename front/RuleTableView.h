@@ -6,8 +6,8 @@
 extern NSString *const RuleTableViewDidReloadNotification;
 
 /// A table of rules with its keyboard: Delete presses the remove button, Return edits the selected row's
-/// name, Space clicks its switch, the Menu key opens its menu. Each does only what the control itself would do
-/// just then. What is typed selects a row, and Escape closes the find bar: both are its target's, the
+/// name, Space clicks its switch, the Menu key opens its menu. Each does only what the control itself would
+/// do just then. What is typed selects a row, and Escape closes the find bar: both are its target's, the
 /// controller's, business. A menu of a row selects it first. Drags of files are the page's.
 @interface RuleTableView : NSTableView {
 @private

@@ -2,6 +2,7 @@
 
 #import "front/SettingsViewController.h"
 
+@class NoticeButton;
 @class PreviewedRule;
 
 /// What the page buttons, and clicks in the tables, send.
@@ -146,6 +147,8 @@
 /// Pops the menu up that the rules and switches make, at the preview button.
 - (void)previewMenu:(id)sender;
 - (void)showPreviewedRule:(PreviewedRule *)sender;
+- (void)takeNoticeStep:(NoticeButton *)sender;
+- (void)putNoticeAway:(NoticeButton *)sender;
 /// Selects the next row of the page that something is wrong with.
 - (void)showNextFault:(id)sender;
 

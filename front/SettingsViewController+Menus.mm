@@ -2,6 +2,7 @@
 
 #import "adapters/foundation/StringConversion.h"
 #import "front/ControlMaking.h"
+#import "front/NoticeBar.h"
 #import "front/PreviewMenu.h"
 #import "front/Selectors.h"
 #import "front/SettingsViewController+Finding.h"
@@ -77,6 +78,16 @@ std::optional<Page> pageShownBy(SEL action) {
 
 - (void)showPreviewedRule:(PreviewedRule *)sender {
     _controller->showRule([sender category], [sender row]);
+}
+
+- (void)takeNoticeStep:(NoticeButton *)sender {
+    // The button goes if the notice does.
+    const auto notice = [sender notice];
+    _controller->take(notice);
+}
+
+- (void)putNoticeAway:(NoticeButton *)sender {
+    _controller->putAway([sender notice].kind);
 }
 
 - (void)showNextFault:(id)sender {

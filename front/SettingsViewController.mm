@@ -56,7 +56,7 @@ using tarnwick::RuleCategory;
 
 - (void)awakeFromNib {
     _controller->awakeFromNib();
-    _controller->watchRules();
+    _controller->watch();
 }
 
 - (void)viewDidLoad {

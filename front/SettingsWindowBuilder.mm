@@ -3,6 +3,7 @@
 #import "adapters/foundation/StringConversion.h"
 #import "front/ControlMaking.h"
 #import "front/MoreAppsPage.h"
+#import "front/NoticeBar.h"
 #import "front/PageViewBuilder.h"
 #import "front/SettingsViewController.h"
 #import "front/SidebarBuilder.h"
@@ -53,6 +54,7 @@ NSView *makeSettingsView(SettingsViewController *controller, CGFloat &minimumWid
     NSTabView *pages =
         makePages(NSMakeRect(pagesLeft, 0, windowWidth - pagesLeft, windowHeight), controller, pagesWidth);
     [view addSubview:pages];
+    [view addSubview:[[[NoticeBar alloc] initAbove:pages controller:controller] autorelease]];
     [controller setTabView:pages];
     // Some languages need more room than others.
     minimumWidth = pagesLeft + std::ceil(pagesWidth);

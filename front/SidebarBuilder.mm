@@ -1,5 +1,6 @@
 #import "front/SidebarBuilder.h"
 
+#import "front/Colors.h"
 #import "front/ControlMaking.h"
 #import "front/Selectors.h"
 #import "front/SettingsViewController+Actions.h"
@@ -14,11 +15,8 @@
 
 - (void)drawRect:(NSRect)rect {
     constexpr CGFloat shade = 0.04;
-    // As it is just now: the system's own colours do not take another alpha everywhere.
-    NSColor *text = [[NSColor controlTextColor] colorUsingColorSpace:[NSColorSpace deviceRGBColorSpace]];
-    [[text colorWithAlphaComponent:shade] set];
     // What is to be drawn may reach beyond a view that does not clip, as none does from macOS 14 on.
-    [NSBezierPath fillRect:[self bounds]];
+    tarnwick::fillWithShade([self bounds], shade);
 }
 
 @end

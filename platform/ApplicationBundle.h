@@ -11,6 +11,10 @@ public:
     virtual ~ApplicationBundle() = default;
     /// The text for `key` in the application's default string table; the key itself when it has none.
     [[nodiscard]] virtual std::string localized(std::string_view key) const = 0;
+    /// Where the application is, an absolute path without trailing slash.
+    [[nodiscard]] virtual std::string path() const = 0;
+    /// Whether there is an extension of the Finder in it.
+    [[nodiscard]] virtual bool carriesExtension() const = 0;
     /// The folder of the application's resources, without trailing slash.
     [[nodiscard]] virtual std::string resourceFolder() const = 0;
     /// The folder of the built-in plug-ins, without trailing slash; it need not exist.

@@ -30,6 +30,8 @@ public:
     [[nodiscard]] virtual std::unique_ptr<PreferenceStore> openStandardDomain() = 0;
     /// A new handle on a named suite.
     [[nodiscard]] virtual std::unique_ptr<PreferenceStore> openSuite(std::string_view name) = 0;
+    /// Whether an administrator has set this key of the standard domain, so that nothing else counts.
+    [[nodiscard]] virtual bool isForced(std::string_view key) const = 0;
     /// A string of the standard domain or of the system-wide domain behind it; nothing when absent.
     [[nodiscard]] virtual std::optional<std::string> systemWideString(std::string_view key) const = 0;
 };

@@ -4,7 +4,8 @@
 
 namespace tarnwick {
 
-/// Deferred work, and the time that passes meanwhile. Implementations: macOS dispatch queues, GNUstep run loop, in memory.
+/// Deferred work, and the time that passes meanwhile. Implementations: macOS dispatch queues, GNUstep run
+/// loop, in memory.
 class RunLoop {
 public:
     virtual ~RunLoop() = default;

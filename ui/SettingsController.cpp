@@ -3,6 +3,7 @@
 #include "integration/Links.h"
 #include "platform/ApplicationBundle.h"
 #include "platform/Ports.h"
+#include "platform/PreferenceStore.h"
 #include "platform/RunLoop.h"
 #include "platform/SystemLog.h"
 #include "platform/Workspace.h"
@@ -35,7 +36,8 @@ SettingsController::SettingsController(const Ports& ports, SettingsWindow& windo
       health_(preferences_.lists, ports.folders, ports.bundle, ports.fileStatus, ports.images, ports.runLoop,
           window),
       remarks_(preferences_.lists, health_, ports.bundle),
-      preview_(preferences_.lists, preferences_.local, rows_, ports.folders, ports.bundle, ports.images) {
+      preview_(preferences_.lists, preferences_.local, rows_, ports.folders, ports.bundle, ports.images),
+      notices_(integration_.finderExtension, ports.bundle, ports.workspace, ports.preferences) {
     editing_.editor.onChange([this](RuleCategory category) { health_.listChanged(category); });
 }
 
@@ -104,6 +106,48 @@ void SettingsController::showRule(RuleCategory category, long row) {
     showPage(pageOf(category));
     window_.selectRow(category, row);
     tableClicked(category);
+}
+
+void SettingsController::watch() {
+    health_.watch();
+    runLoop_.performAfterDelay(startDelaySeconds, [this] { lookAround(); });
+}
+
+void SettingsController::applicationActivated() {
+    health_.applicationActivated();
+    lookAround();
+}
+
+void SettingsController::lookAround() {
+    window_.showNotices(notices_.current());
+    for (const auto page : allPages) {
+        const auto& layout = layoutOf(page);
+        for (const auto& facts : layout.switches) {
+            window_.setSwitchForced(facts.key, stores_.isForced(facts.key));
+        }
+        if (!layout.enableAllTitle.empty()) {
+            const auto key = factsOf(*layout.category).enableAllKey;
+            window_.setSwitchForced(key, stores_.isForced(key));
+        }
+    }
+}
+
+void SettingsController::take(const Notice& notice) {
+    switch (notice.step) {
+    case NoticeStep::none:
+        break;
+    case NoticeStep::turnOn:
+        integration_.finderExtension.openSystemPreferences();
+        break;
+    case NoticeStep::showInFinder:
+        workspace_.showInFileViewer(notice.path);
+        break;
+    }
+}
+
+void SettingsController::putAway(NoticeKind kind) {
+    notices_.putAway(kind);
+    window_.showNotices(notices_.current());
 }
 
 void SettingsController::tableClicked(RuleCategory category) {

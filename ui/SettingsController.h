@@ -6,6 +6,7 @@
 #include "ui/Finding.h"
 #include "ui/LocalizedStepNames.h"
 #include "ui/MenuPreview.h"
+#include "ui/Notices.h"
 #include "ui/Page.h"
 #include "ui/RuleCommands.h"
 #include "ui/RowRemarks.h"
@@ -87,15 +88,18 @@ public:
     void removeHeldFiles() { preferences_.held.removeAll(); }
     void selectPath(RuleCategory category, long row) { editing_.pathChoosing.selectPath(category, row); }
 
-    /// From now on the window is shown what is wrong with the rules of its page.
-    void watchRules() { health_.watch(); }
+    /// From now on the window is shown what is wrong with the rules of its page, and around the application.
+    void watch();
     /// Selects the next row that something is wrong with.
     void showNextFault(RuleCategory category);
     [[nodiscard]] const MenuPreview& preview() const { return preview_; }
     /// Shows the rule's page and selects its row.
     void showRule(RuleCategory category, long row);
     /// The user comes back to the application.
-    void applicationActivated() { health_.applicationActivated(); }
+    void applicationActivated();
+    /// Does what the notice offers.
+    void take(const Notice& notice);
+    void putAway(NoticeKind kind);
 
     /// What can be done with the list that is shown and its selected row, as the menus offer it.
     [[nodiscard]] RuleCommands& commands() { return commands_; }
@@ -110,9 +114,11 @@ public:
     [[nodiscard]] SystemIntegration& integration() { return integration_; }
 
 private:
+    void lookAround();
+
     PreferenceStores& stores_;
     const ApplicationBundle& bundle_;
-    const Workspace& workspace_;
+    Workspace& workspace_;
     RunLoop& runLoop_;
     SystemLog& log_;
     SettingsWindow& window_;
@@ -128,6 +134,7 @@ private:
     RuleHealth health_;
     RowRemarks remarks_;
     MenuPreview preview_;
+    Notices notices_;
 };
 
 } // namespace tarnwick

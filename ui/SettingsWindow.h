@@ -2,11 +2,13 @@
 
 #include "editing/RuleTables.h"
 #include "ui/FaultDisplay.h"
+#include "ui/Notices.h"
 #include "ui/Page.h"
 
 #include <cstdint>
 #include <span>
 #include <string_view>
+#include <vector>
 
 namespace tarnwick {
 
@@ -25,6 +27,11 @@ public:
     virtual void hideRestartButton() = 0;
     /// The same title of the help button, centred, in this colour.
     virtual void setHelpTitleColour(const Colour& colour) = 0;
+
+    /// At the head of the window, in place of those before.
+    virtual void showNotices(const std::vector<Notice>& notices) = 0;
+    /// The switch of this key cannot be changed by the user, and says so; or it can again.
+    virtual void setSwitchForced(std::string_view key, bool forced) = 0;
 
     /// What a drag of the table's rows may do outside the application and within it, and the only type of
     /// drag that the table accepts.

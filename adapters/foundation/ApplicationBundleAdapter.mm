@@ -24,6 +24,8 @@ public:
         id version = [bundle() objectForInfoDictionaryKey:@"CFBundleShortVersionString"];
         return [version isKindOfClass:[NSString class]] ? toString(version) : std::string();
     }
+    std::string path() const override { return toString([bundle() bundlePath]); }
+    bool carriesExtension() const override { return tarnwick::carriesExtension(); }
     bool isLoginItem() const override { return [bundle() isLoginItem]; }
 
 private:

@@ -4,6 +4,7 @@
 #import "adapters/foundation/StringConversion.h"
 
 #include "adapters/foundation/Adapters.h"
+#include "adapters/foundation/SystemAdapters.h"
 #include "platform/PreferenceStore.h"
 
 namespace tarnwick {
@@ -50,6 +51,7 @@ public:
                 [[NSUserDefaults alloc] initWithSuiteName:toNSString(name)]),
             records_);
     }
+    bool isForced(std::string_view key) const override { return tarnwick::isForced(key); }
     std::optional<std::string> systemWideString(std::string_view key) const override {
         NSString *text = [[NSUserDefaults standardUserDefaults] stringForKey:toNSString(key)];
         return text ? std::optional(toString(text)) : std::nullopt;

@@ -25,5 +25,7 @@ void prepareProcess(int argc, char* argv[]);
 /// Answers that the ports over Foundation and AppKit pass on.
 [[nodiscard]] RegisteredApplications registeredApplications(std::string_view bundleIdentifier);
 [[nodiscard]] bool isSystemAtLeast(int major, int minor, int patch);
+[[nodiscard]] bool carriesExtension();
+[[nodiscard]] bool isForced(std::string_view key);
 
 } // namespace tarnwick

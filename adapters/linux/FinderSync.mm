@@ -1,15 +1,16 @@
 #include "platform/FinderSync.h"
 #include "adapters/foundation/SystemAdapters.h"
+#import "adapters/linux/StandIns.h"
 
 #import <Foundation/Foundation.h>
 
 namespace tarnwick {
 namespace {
 
-/// There is no Finder here whose extension could be switched off.
-class AlwaysEnabled final : public FinderSync {
+/// There is no Finder here whose extension could be switched off, unless a test says so.
+class NoFinderSync final : public FinderSync {
 public:
-    bool isExtensionEnabled() const override { return true; }
+    bool isExtensionEnabled() const override { return ![standInAnswer(@"extensionIsOff") boolValue]; }
     void showExtensionManagementInterface() override {
         NSLog(@"no Finder extensions on this system: there is no management screen");
     }
@@ -18,7 +19,7 @@ public:
 } // namespace
 
 std::unique_ptr<FinderSync> makeFinderSync() {
-    return std::make_unique<AlwaysEnabled>();
+    return std::make_unique<NoFinderSync>();
 }
 
 } // namespace tarnwick

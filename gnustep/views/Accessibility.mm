@@ -26,6 +26,7 @@ NSString *const helpName = @"accessibilityHelp";
     TNSetAttachment(self, helpName, [[help copy] autorelease]);
 }
 
+/// Ahead of its first caller, as the label is.
 - (NSString *)accessibilityHelp {
     return TNAttachment(self, helpName);
 }

@@ -19,7 +19,7 @@ constexpr auto name = "commonPathDisplayName";
 
 /// Adds a common folder that is there, and gives its path.
 std::string addFolder(const std::string& folderName) {
-    const auto path = std::filesystem::path(std::getenv("TARNWICK_SANDBOX")) / folderName;
+    const auto path = std::filesystem::path(std::getenv("TARNWICK_USER_FOLDER")) / folderName;
     std::filesystem::create_directories(path);
     chooseInNextPanel(path);
     const auto before = rowCount(folders);

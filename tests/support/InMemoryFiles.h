@@ -93,11 +93,14 @@ public:
     std::map<std::string, std::string, std::less<>> texts;
     std::string version = "1.2.3";
     bool loginItem = false;
+    bool extension = true;
 
     std::string localized(std::string_view key) const override {
         const auto found = texts.find(key);
         return found == texts.end() ? std::string(key) : found->second;
     }
+    std::string path() const override { return "/Applications/Tarnwick.app"; }
+    bool carriesExtension() const override { return extension; }
     std::string resourceFolder() const override { return "/resources"; }
     std::string plugInsFolder() const override { return "/app/PlugIns"; }
     std::string shortVersion() const override { return version; }

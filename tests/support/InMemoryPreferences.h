@@ -27,6 +27,10 @@ public:
     std::set<std::string, std::less<>> observedKeys;
     std::function<void(std::string_view key, const PlistValue& value)> observer;
 
+    /// What an administrator has set.
+    std::set<std::string, std::less<>> forced;
+
+    bool isForced(std::string_view key) const override { return forced.count(key) != 0; }
     std::unique_ptr<PreferenceStore> openStandardDomain() override;
     std::unique_ptr<PreferenceStore> openSuite(std::string_view name) override;
     std::optional<std::string> systemWideString(std::string_view key) const override;

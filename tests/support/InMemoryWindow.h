@@ -7,6 +7,7 @@
 #include "ui/SettingsWindow.h"
 
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -53,6 +54,15 @@ public:
         for (const auto& key : keys) {
             log_.add("observe " + std::string(key));
             preferences_.observedKeys.emplace(key);
+        }
+    }
+    std::vector<Notice> notices;
+    std::set<std::string, std::less<>> forcedSwitches;
+    void showNotices(const std::vector<Notice>& shown) override { notices = shown; }
+    void setSwitchForced(std::string_view key, bool forced) override {
+        forcedSwitches.erase(std::string(key));
+        if (forced) {
+            forcedSwitches.emplace(key);
         }
     }
     RowRange rowsInSight(RuleCategory) const override { return inSight; }

@@ -18,7 +18,7 @@ protected:
         }
         storeList(folders, std::move(records));
         launch();
-        controller_.watchRules();
+        controller_.watch();
         controller_.showPage(Page::commonPath);
     }
     /// Lets what is put off happen, and gives the paths that were looked at meanwhile.
@@ -161,7 +161,7 @@ TEST_F(LookingTest, APictureIsReadOnceForAsLongAsItsListHoldsIt) {
     const PlistData bad({1, 2, 3});
     storeList(RuleCategory::customIcon, {makeRecord({{"displayName", "A"}, {"icon", bad}})});
     launch();
-    controller_.watchRules();
+    controller_.watch();
     controller_.showPage(Page::customIcon);
     platform_.runLoop.runMain();
     const auto before = platform_.images.reads;

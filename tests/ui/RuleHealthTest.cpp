@@ -19,7 +19,7 @@ protected:
         storeList(folders, std::move(records));
         platform_.files.folders.insert(existing.begin(), existing.end());
         launch();
-        controller_.watchRules();
+        controller_.watch();
         show(Page::commonPath);
     }
     void show(Page page) {
@@ -68,7 +68,7 @@ TEST_F(RuleHealthTest, ASystemThatRefusesToSayLeavesTheRuleAlone) {
 
 TEST_F(RuleHealthTest, ATemplateThatHasLostItsFileIsSaid) {
     launch();
-    controller_.watchRules();
+    controller_.watch();
     platform_.runLoop.runMain();
     EXPECT_EQ(window_.faults[RuleCategory::createNewFile], "");
     platform_.files.files.erase("/container/Templates/CreateNewFile/TXT.txt");
@@ -82,7 +82,7 @@ TEST_F(RuleHealthTest, ATemplateThatHasLostItsFileIsSaid) {
 TEST_F(RuleHealthTest, WithoutTheSharedFolderNothingIsSaidOfTemplates) {
     launch();
     platform_.folders.container.reset();
-    controller_.watchRules();
+    controller_.watch();
     show(Page::createNewFile);
     EXPECT_EQ(window_.faults[RuleCategory::createNewFile], "");
     EXPECT_TRUE(asked().empty());
@@ -93,7 +93,7 @@ TEST_F(RuleHealthTest, APictureThatCannotBeShownIsSaid) {
                                             makeRecord({{"displayName", "Bad"}, {"icon", PlistData({1, 2})}}),
                                             makeRecord({{"displayName", "None"}})});
     launch();
-    controller_.watchRules();
+    controller_.watch();
     show(Page::customIcon);
     EXPECT_FALSE(remark(RuleCategory::customIcon, 0).warns);
     EXPECT_EQ(help(RuleCategory::customIcon, 1),
@@ -105,7 +105,7 @@ TEST_F(RuleHealthTest, AFurtherItemMayLackAPictureButNotHaveABrokenOne) {
     storeList(RuleCategory::others, {makeRecord({{"Action", "Open in VSCode"}}),
                                         makeRecord({{"Action", "Broken"}, {"icon", PlistData({1})}})});
     launch();
-    controller_.watchRules();
+    controller_.watch();
     show(Page::others);
     EXPECT_FALSE(remark(RuleCategory::others, 0).warns);
     EXPECT_EQ(window_.faults[RuleCategory::others], "1 picture cannot be shown");
@@ -113,7 +113,7 @@ TEST_F(RuleHealthTest, AFurtherItemMayLackAPictureButNotHaveABrokenOne) {
 
 TEST_F(RuleHealthTest, WhatCameWithTheApplicationHasNoFault) {
     launch();
-    controller_.watchRules();
+    controller_.watch();
     for (const auto page : allPages) {
         show(page);
     }

@@ -42,6 +42,7 @@ typedef TN_OPTIONS(NSUInteger, NSAutoresizingMaskOptions){
 - (void)setFrameSize:(NSSize)size;
 - (void)setFrameOrigin:(NSPoint)origin;
 - (void)addSubview:(NSView *)view;
+- (void)removeFromSuperview;
 @property (nullable, readonly, strong) NSScrollView *enclosingScrollView;
 - (NSPoint)convertPoint:(NSPoint)point fromView:(nullable NSView *)view;
 - (nullable NSMenu *)menuForEvent:(NSEvent *)event;

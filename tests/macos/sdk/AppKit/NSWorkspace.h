@@ -8,6 +8,7 @@ extern "C" NSString *const NSWorkspaceDidActivateApplicationNotification;
 extern "C" NSString *const NSWorkspaceDidDeactivateApplicationNotification;
 
 @interface NSWorkspace : NSObject
+- (BOOL)selectFile:(nullable NSString *)fullPath inFileViewerRootedAtPath:(NSString *)rootFullPath;
 @property (class, readonly, strong) NSWorkspace *sharedWorkspace;
 @property (readonly, strong) NSNotificationCenter *notificationCenter;
 - (BOOL)isFilePackageAtPath:(NSString *)path;

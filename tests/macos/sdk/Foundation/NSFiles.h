@@ -25,6 +25,8 @@ NSString *NSTemporaryDirectory(void);
 @property (class, readonly, strong) NSFileManager *defaultManager;
 - (BOOL)fileExistsAtPath:(NSString *)path;
 - (BOOL)fileExistsAtPath:(NSString *)path isDirectory:(nullable BOOL *)isDirectory;
+- (nullable NSArray<NSString *> *)contentsOfDirectoryAtPath:(NSString *)path
+                                                      error:(NSError *_Nullable *_Nullable)error;
 - (BOOL)removeItemAtPath:(NSString *)path error:(NSError *_Nullable *_Nullable)error;
 - (BOOL)copyItemAtPath:(NSString *)from toPath:(NSString *)to error:(NSError *_Nullable *_Nullable)error;
 - (BOOL)moveItemAtPath:(NSString *)from toPath:(NSString *)to error:(NSError *_Nullable *_Nullable)error;

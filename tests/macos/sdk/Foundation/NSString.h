@@ -14,6 +14,7 @@ enum : NSStringEncoding { NSUTF8StringEncoding = 4 };
 @interface NSString : NSObject <NSCopying>
 @property (readonly) NSUInteger length;
 @property (readonly) const char *fileSystemRepresentation;
+@property (readonly, copy) NSString *pathExtension;
 - (unichar)characterAtIndex:(NSUInteger)index;
 - (void)getCharacters:(unichar *)buffer range:(NSRange)range;
 - (nullable instancetype)initWithBytes:(const void *)bytes

@@ -16,6 +16,7 @@ extern "C" NSString *const NSUserDefaultsDidChangeNotification;
 - (void)removeObjectForKey:(NSString *)key;
 - (void)setBool:(BOOL)value forKey:(NSString *)key;
 - (BOOL)synchronize;
+- (BOOL)objectIsForcedForKey:(NSString *)key;
 @end
 
 #pragma clang assume_nonnull end

@@ -1,0 +1,32 @@
+#include "tests/gui/Around.h"
+
+#include "tests/gui/SettingsWindow.h"
+
+#import "adapters/foundation/StringConversion.h"
+
+#import <AppKit/AppKit.h>
+
+#include <cstdlib>
+#include <fstream>
+
+namespace tarnwick::gui {
+
+void setSystemState(const std::string &answers) {
+    const std::string path = std::string(std::getenv("TARNWICK_USER_FOLDER")) + "/system-state.plist";
+    std::ofstream(path) << "{" << answers << "}";
+    setenv("TARNWICK_SYSTEM_STATE", path.c_str(), 1);
+}
+
+bool showsNotice(const std::string &text) {
+    NSString *wanted = toNSString(text);
+    return firstView([settingsWindow() contentView], [wanted](NSView *view) {
+        return [view isKindOfClass:[NSTextField class]] &&
+               [[static_cast<NSTextField *>(view) stringValue] isEqualToString:wanted];
+    }) != nil;
+}
+
+std::string toolTipOfButton(const std::string &title) {
+    return toString([visibleButton([settingsWindow() contentView], toNSString(title)) toolTip]);
+}
+
+} // namespace tarnwick::gui
