@@ -3,7 +3,8 @@
 namespace tarnwick {
 
 /// The system's own account of the Finder extension; only to be asked on systems that have one
-/// (macOS 10.14 and later). Implementations: macOS Finder Sync, Linux (enabled, unless a test says otherwise), in memory.
+/// (macOS 10.14 and later). Implementations: macOS Finder Sync, Linux (enabled, unless a test says
+/// otherwise), in memory.
 class FinderSync {
 public:
     virtual ~FinderSync() = default;

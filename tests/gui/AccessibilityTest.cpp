@@ -52,7 +52,7 @@ TEST(Accessibility, TheTabKeyGoesFromTheSidebarThroughThePageAndBack) {
         (std::vector<std::string>{"New File", "Copy & Move To", "Common Folders", "Custom Icons",
             "More Items", "More Apps", "Preview Menu", "Help", "Offer copying to these folders",
             "Offer moving to these folders", "Show icons in the menu", "Play a sound after copying or moving",
-            "Copy & Move To", "Add Folders\u2026", "Reset List"}));
+            "Copy & Move To", "Show Next", "Add Folders\u2026", "Reset List"}));
 }
 
 } // namespace
