@@ -42,7 +42,7 @@ bool isAny(RuleCategory) {
 }
 
 bool choosesFolders(RuleCategory category) {
-    return category == RuleCategory::copyFilesTo;
+    return factsOf(category).source == RuleSource::folders;
 }
 
 bool hasTemplates(RuleCategory category) {
@@ -50,7 +50,7 @@ bool hasTemplates(RuleCategory category) {
 }
 
 bool hasFilesOrFolders(RuleCategory category) {
-    return hasTemplates(category) || factsOf(category).source == RuleSource::folders;
+    return hasTemplates(category) || choosesFolders(category);
 }
 
 bool hasFactoryList(RuleCategory category) {
@@ -234,8 +234,8 @@ void RuleCommands::turn(RuleCategory category, long row) {
     controller_.set(category, row, columnOf(category, role)->field, !isOn);
 }
 
-void RuleCommands::chooseFolder(RuleCategory /*category*/, long row) {
-    controller_.selectPath(row);
+void RuleCommands::chooseFolder(RuleCategory category, long row) {
+    controller_.selectPath(category, row);
 }
 
 /// The end of an edit may give the file another name.

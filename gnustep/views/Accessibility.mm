@@ -17,7 +17,6 @@ NSString *const helpName = @"accessibilityHelp";
     TNSetAttachment(self, labelName, [[label copy] autorelease]);
 }
 
-/// Ahead of its first caller: no assistive technology asks.
 - (NSString *)accessibilityLabel {
     return TNAttachment(self, labelName);
 }
@@ -26,7 +25,7 @@ NSString *const helpName = @"accessibilityHelp";
     TNSetAttachment(self, helpName, [[help copy] autorelease]);
 }
 
-/// Ahead of its first caller, as the label is.
+/// Ahead of its first caller: no assistive technology asks.
 - (NSString *)accessibilityHelp {
     return TNAttachment(self, helpName);
 }

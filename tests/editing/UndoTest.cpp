@@ -50,7 +50,7 @@ public:
         editing_.textEditing.endEditing(identifier, row, text);
     }
     void chooseFolder(long row) {
-        editing_.pathChoosing.selectPath(row);
+        editing_.pathChoosing.selectPath(RuleCategory::copyFilesTo, row);
         platform_.panels.confirm({"/chosen"});
     }
 };

@@ -65,7 +65,7 @@ TEST(RuleCommands, EachListHasThoseOfItsControls) {
         commandsOf(RuleCategory::copyFilesTo), (Commands{rename, turnOnOrOff, chooseFolder, showInFinder,
                                                    moveUp, moveDown, removeRule, addRule, resetList}));
     EXPECT_EQ(commandsOf(RuleCategory::commonPath),
-        (Commands{rename, showInFinder, moveUp, moveDown, removeRule, addRule}));
+        (Commands{rename, chooseFolder, showInFinder, moveUp, moveDown, removeRule, addRule}));
     EXPECT_EQ(commandsOf(RuleCategory::customIcon),
         (Commands{rename, turnOnOrOff, moveUp, moveDown, removeRule, addRule, resetList, enableAll}));
     EXPECT_EQ(commandsOf(RuleCategory::others), (Commands{rename, editNote, turnOnOrOff, moveUp, moveDown,
@@ -105,8 +105,8 @@ constexpr Line lines[]{
                 category, row, "enableMainMenu", !shows(program, category, row, ColumnRole::mainMenuSwitch));
         }},
     {"chooseFolder", Command::chooseFolder,
-        [](Program& program, RuleCategory, long row) {
-            program.controller.selectPath(row);
+        [](Program& program, RuleCategory category, long row) {
+            program.controller.selectPath(category, row);
             program.platform.panels.confirm({"/b/Attic"});
         }},
     {"moveUp", Command::moveUp,

@@ -41,7 +41,7 @@ TEST_F(StepNamesTest, EachKindOfStepHasItsOwnWords) {
     controller_.add(RuleCategory::commonPath);
     platform_.panels.confirm({"/home/One", "/home/Two"});
     controller_.reset(RuleCategory::copyFilesTo);
-    controller_.selectPath(0);
+    controller_.selectPath(RuleCategory::copyFilesTo, 0);
     platform_.panels.confirm({"/chosen"});
     for (const bool on : {false, true}) {
         platform_.preferences.userSets("enableAllOfCustomIcon", on);
