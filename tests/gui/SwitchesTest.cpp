@@ -59,10 +59,10 @@ TEST(Switches, EnableAllIsMixedForTheEyeAloneAndSaysHowManyAreOn) {
 
 TEST(Switches, EnableAllFollowsAnotherProgram) {
     ASSERT_TRUE(buttonIsOn("Enable all templates"));
+    // What was clicked before is written, and so does not come after what the other program writes.
+    ASSERT_TRUE(waitUntil([] { return local("d['enableAllOfCreateNewFiles']") == "True"; }));
     ASSERT_EQ(std::system("defaults write org.halvane.Tarnwick enableAllOfCreateNewFiles -bool NO"), 0);
-    // Settings are read again when something is stored.
-    clickButton("Show icons in the menu");
-    clickButton("Show icons in the menu");
+    becomeActive();
     EXPECT_TRUE(waitUntil([] { return !buttonIsOn("Enable all templates"); }));
     clickButton("Enable all templates");
     EXPECT_TRUE(buttonIsOn("Enable all templates"));
