@@ -27,6 +27,7 @@ typedef TN_ENUM(NSInteger, NSBackgroundStyle){NSBackgroundStyleLight = 0};
 @property NSTextAlignment alignment;
 @property NSLineBreakMode lineBreakMode;
 @property BOOL wraps;
+@property (getter=isScrollable) BOOL scrollable;
 @property (readonly) NSSize cellSize;
 @end
 
@@ -40,7 +41,9 @@ typedef TN_ENUM(NSInteger, NSBackgroundStyle){NSBackgroundStyleLight = 0};
 @property NSTextAlignment alignment;
 @property (nullable, strong) NSFont *font;
 - (void)performClick:(nullable id)sender;
+- (BOOL)sendAction:(nullable SEL)action to:(nullable id)target;
 - (void)sizeToFit;
+- (nullable NSText *)currentEditor;
 - (BOOL)abortEditing;
 @end
 
@@ -57,6 +60,7 @@ typedef TN_ENUM(NSInteger, NSBackgroundStyle){NSBackgroundStyleLight = 0};
 
 @protocol NSControlTextEditingDelegate <NSObject>
 @optional
+- (void)controlTextDidChange:(NSNotification *)notification;
 - (BOOL)control:(NSControl *)control textShouldEndEditing:(NSText *)fieldEditor;
 - (BOOL)control:(NSControl *)control textView:(NSTextView *)textView doCommandBySelector:(SEL)command;
 @end

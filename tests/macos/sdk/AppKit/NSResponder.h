@@ -4,12 +4,13 @@
 
 #pragma clang assume_nonnull begin
 
-@class NSApplication, NSButton, NSEvent, NSMenu, NSMenuItem, NSTabView, NSTableView, NSText, NSTextField, NSView,
-    NSWindow;
+@class NSApplication, NSButton, NSEvent, NSMenu, NSMenuItem, NSTabView, NSTableView, NSText, NSTextField,
+    NSView, NSWindow;
 
 @protocol NSStandardKeyBindingResponding <NSObject>
 @optional
 - (void)cancelOperation:(nullable id)sender;
+- (void)insertNewline:(nullable id)sender;
 @end
 
 @interface NSResponder : NSObject <NSStandardKeyBindingResponding>

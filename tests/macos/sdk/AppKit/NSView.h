@@ -34,10 +34,11 @@ typedef TN_OPTIONS(NSUInteger, NSAutoresizingMaskOptions){
 @property (readonly) BOOL mouseDownCanMoveWindow;
 @property (nullable, copy) NSString *toolTip;
 @property (readonly) NSInteger tag;
+@property (nullable, copy) NSString *accessibilityLabel;
 @property (nullable, assign) NSView *nextKeyView;
+- (BOOL)isDescendantOf:(NSView *)view;
 - (NSRect)convertRect:(NSRect)rect toView:(nullable NSView *)view;
 - (instancetype)initWithFrame:(NSRect)frame;
-- (void)setAccessibilityLabel:(nullable NSString *)label;
 - (void)setAccessibilityHelp:(nullable NSString *)help;
 - (void)setFrameSize:(NSSize)size;
 - (void)setFrameOrigin:(NSPoint)origin;

@@ -1,15 +1,7 @@
 #pragma once
 
 #import "NSObject.h"
-
-typedef struct {
-    NSUInteger location;
-    NSUInteger length;
-} NSRange;
-
-inline NSUInteger NSMaxRange(NSRange range) {
-    return range.location + range.length;
-}
+#import "NSRange.h"
 
 #pragma clang assume_nonnull begin
 
@@ -48,6 +40,7 @@ typedef struct {
 - (instancetype)initWithObjects:(const ObjectType _Nonnull[_Nullable])objects
                         forKeys:(const id<NSCopying> _Nonnull[_Nullable])keys
                           count:(NSUInteger)count;
++ (instancetype)dictionaryWithObject:(ObjectType)object forKey:(KeyType<NSCopying>)key;
 + (instancetype)dictionaryWithObjectsAndKeys:(id)first, ... __attribute__((sentinel(0, 1)));
 @end
 

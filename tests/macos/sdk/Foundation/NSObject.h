@@ -15,6 +15,7 @@ enum : NSInteger { NSNotFound = 0x7fffffffffffffffL };
 - (instancetype)retain;
 - (oneway void)release;
 - (instancetype)autorelease;
+- (BOOL)isEqual:(nullable id)object;
 - (BOOL)isKindOfClass:(Class)wanted;
 @property (readonly, copy) NSString *description;
 @end
@@ -73,6 +74,7 @@ __attribute__((objc_exception))
 - (instancetype)initWithTimeIntervalSinceReferenceDate:(NSTimeInterval)seconds;
 @end
 
+extern "C" NSString *NSStringFromClass(Class kind);
 extern "C" void NSLog(NSString *format, ...) __attribute__((format(__NSString__, 1, 2)));
 
 #pragma clang assume_nonnull end

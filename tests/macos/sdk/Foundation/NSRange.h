@@ -10,3 +10,7 @@ typedef struct _NSRange {
 inline NSRange NSMakeRange(NSUInteger location, NSUInteger length) {
     return {location, length};
 }
+
+inline NSUInteger NSMaxRange(NSRange range) {
+    return range.location + range.length;
+}

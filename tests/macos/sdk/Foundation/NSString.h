@@ -22,6 +22,7 @@ enum : NSStringEncoding { NSUTF8StringEncoding = 4 };
                               encoding:(NSStringEncoding)encoding;
 + (instancetype)stringWithCharacters:(const unichar *)characters length:(NSUInteger)length;
 + (instancetype)stringWithFormat:(NSString *)format, ... __attribute__((format(__NSString__, 1, 2)));
+- (BOOL)isEqualToString:(NSString *)other;
 - (NSString *)stringByAppendingString:(NSString *)other;
 - (NSString *)stringByAppendingPathComponent:(NSString *)other;
 @end
