@@ -4,6 +4,7 @@
 #import "front/LinkButton.h"
 #import "front/PageFrame.h"
 #import "front/SettingsViewController+Actions.h"
+#import "front/SettingsViewController+System.h"
 
 #include "ui/WindowLayout.h"
 

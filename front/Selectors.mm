@@ -2,6 +2,7 @@
 
 #import "front/SettingsViewController+Actions.h"
 #import "front/SettingsViewController+Finding.h"
+#import "front/SettingsViewController+System.h"
 
 /// Actions that the responder chain answers without any header saying so.
 @protocol UndoActions

@@ -1,4 +1,5 @@
 #import "front/SettingsViewController+Actions.h"
+#import "front/SettingsViewController+System.h"
 
 #import "adapters/foundation/StringConversion.h"
 #import "front/ControlMaking.h"

@@ -1,4 +1,4 @@
-#import "front/SettingsViewController+Actions.h"
+#import "front/SettingsViewController+System.h"
 
 #import "adapters/foundation/PlistConversion.h"
 #import "adapters/foundation/StringConversion.h"

@@ -1,4 +1,4 @@
-#import "front/SettingsViewController+Actions.h"
+#import "front/SettingsViewController+System.h"
 
 #import "adapters/foundation/StringConversion.h"
 #import "adapters/foundation/UserScriptObjects.h"

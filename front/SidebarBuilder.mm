@@ -4,6 +4,7 @@
 #import "front/ControlMaking.h"
 #import "front/Selectors.h"
 #import "front/SettingsViewController+Actions.h"
+#import "front/SettingsViewController+System.h"
 
 #include "ui/WindowLayout.h"
 

@@ -2,6 +2,7 @@
 
 #import "adapters/foundation/StringConversion.h"
 #import "front/SettingsViewController+Actions.h"
+#import "front/SettingsViewController+System.h"
 #import "front/TerminalService.h"
 #import "front/TextMeasuring.h"
 #import "tests/gui/SettingsWindow.h"

@@ -7,15 +7,15 @@
 /// What the window shows.
 namespace tarnwick::gui {
 
-struct MenuItemFacts {
+struct StepItem {
     std::string title;
     bool isEnabled = false;
 
-    bool operator==(const MenuItemFacts&) const = default;
+    bool operator==(const StepItem&) const = default;
 };
 /// The items of the Edit menu as they are when it opens.
-[[nodiscard]] MenuItemFacts undoItem();
-[[nodiscard]] MenuItemFacts redoItem();
+[[nodiscard]] StepItem undoItem();
+[[nodiscard]] StepItem redoItem();
 
 [[nodiscard]] int shownPage();
 [[nodiscard]] long rowCount(RuleCategory table);
@@ -29,8 +29,6 @@ struct MenuItemFacts {
 [[nodiscard]] bool cellIsEnabled(RuleCategory table, long row, const std::string& column);
 /// How high the part of the table is that can be seen.
 [[nodiscard]] double shownHeight(RuleCategory table);
-/// Whether all of the row can be seen.
-[[nodiscard]] bool rowIsInSight(RuleCategory table, long row);
 /// How many rows have controls just now.
 [[nodiscard]] long builtRows(RuleCategory table);
 [[nodiscard]] bool removeButtonIsEnabled(RuleCategory table);

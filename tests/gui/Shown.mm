@@ -14,7 +14,7 @@ NSButton *buttonTitled(const std::string &title) {
     return visibleButton([settingsWindow() contentView], toNSString(title));
 }
 
-MenuItemFacts itemFor(SEL action) {
+StepItem itemFor(SEL action) {
     for (NSMenuItem *submenu in [[NSApp mainMenu] itemArray]) {
         [[submenu submenu] update];
         for (NSMenuItem *item in [[submenu submenu] itemArray]) {
@@ -28,11 +28,11 @@ MenuItemFacts itemFor(SEL action) {
 
 } // namespace
 
-MenuItemFacts undoItem() {
+StepItem undoItem() {
     return itemFor(@selector(undo:));
 }
 
-MenuItemFacts redoItem() {
+StepItem redoItem() {
     return itemFor(@selector(redo:));
 }
 
@@ -76,11 +76,6 @@ long builtRows(RuleCategory table) {
 
 double shownHeight(RuleCategory table) {
     return NSHeight([[tableOf(table) enclosingScrollView] frame]);
-}
-
-bool rowIsInSight(RuleCategory table, long row) {
-    NSTableView *view = tableOf(table);
-    return NSContainsRect([view visibleRect], [view rectOfRow:row]);
 }
 
 bool removeButtonIsEnabled(RuleCategory table) {

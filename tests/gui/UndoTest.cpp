@@ -30,23 +30,23 @@ void typeName(long row, const std::string& name) {
 }
 
 TEST(Undo, AtTheStartThereIsNothingToTakeBackOrToRepeat) {
-    EXPECT_EQ(undoItem(), (MenuItemFacts{"Undo", false}));
-    EXPECT_EQ(redoItem(), (MenuItemFacts{"Redo", false}));
+    EXPECT_EQ(undoItem(), (StepItem{"Undo", false}));
+    EXPECT_EQ(redoItem(), (StepItem{"Redo", false}));
 }
 
 TEST(Undo, KeysBringARemovedRuleBackWithItsFileAndRemoveItAgain) {
     clickCell(templates, 3, "Extension");
     press(Key::deleteKey);
     ASSERT_FALSE(hasFile("Word.docx"));
-    EXPECT_EQ(undoItem(), (MenuItemFacts{"Undo Remove \u201CWord\u201D", true}));
+    EXPECT_EQ(undoItem(), (StepItem{"Undo Remove \u201CWord\u201D", true}));
     undo();
     EXPECT_EQ(rowCount(templates), 15);
     EXPECT_EQ(selectedRow(templates), 3);
     EXPECT_TRUE(removeButtonIsEnabled(templates));
     EXPECT_TRUE(hasFile("Word.docx"));
     EXPECT_EQ(shared(names), "['TXT', 'RTF', 'XML', 'Word']");
-    EXPECT_EQ(undoItem(), (MenuItemFacts{"Undo", false}));
-    EXPECT_EQ(redoItem(), (MenuItemFacts{"Redo Remove \u201CWord\u201D", true}));
+    EXPECT_EQ(undoItem(), (StepItem{"Undo", false}));
+    EXPECT_EQ(redoItem(), (StepItem{"Redo Remove \u201CWord\u201D", true}));
     redo();
     EXPECT_EQ(local(names), "['TXT', 'RTF', 'XML', 'Excel']");
     EXPECT_FALSE(hasFile("Word.docx"));
@@ -57,7 +57,7 @@ TEST(Undo, KeysBringARemovedRuleBackWithItsFileAndRemoveItAgain) {
 TEST(Undo, WhileANameIsEditedItMeansTheTypingAlone) {
     clickCell(templates, 4, "Extension");
     press(Key::space);
-    EXPECT_EQ(undoItem(), (MenuItemFacts{"Undo Turn Off \u201CExcel\u201D", true}));
+    EXPECT_EQ(undoItem(), (StepItem{"Undo Turn Off \u201CExcel\u201D", true}));
     typeName(0, "Memo");
     undo();
     EXPECT_TRUE(isEditing());
@@ -68,7 +68,7 @@ TEST(Undo, WhileANameIsEditedItMeansTheTypingAlone) {
     press(Key::escape);
     EXPECT_FALSE(isEditing());
     EXPECT_EQ(local(names), "['TXT', 'RTF', 'XML', 'Word']");
-    EXPECT_EQ(undoItem(), (MenuItemFacts{"Undo Turn Off \u201CExcel\u201D", true}));
+    EXPECT_EQ(undoItem(), (StepItem{"Undo Turn Off \u201CExcel\u201D", true}));
     undo();
     EXPECT_EQ(local("d['arrOfCreateNewFile'][4]['enable']"), "'1'");
 }
@@ -77,9 +77,9 @@ TEST(Undo, ANameThatAnActionEndsIsAStepOfItsOwn) {
     typeName(0, "Memo");
     clickCheckBox(templates, 1, "Enable");
     EXPECT_EQ(local(names), "['Memo', 'RTF', 'XML', 'Word']");
-    EXPECT_EQ(undoItem(), (MenuItemFacts{"Undo Turn Off \u201CRTF\u201D", true}));
+    EXPECT_EQ(undoItem(), (StepItem{"Undo Turn Off \u201CRTF\u201D", true}));
     undo();
-    EXPECT_EQ(undoItem(), (MenuItemFacts{"Undo Rename \u201CTXT\u201D", true}));
+    EXPECT_EQ(undoItem(), (StepItem{"Undo Rename \u201CTXT\u201D", true}));
     EXPECT_EQ(local(names), "['Memo', 'RTF', 'XML', 'Word']");
     undo();
     EXPECT_EQ(local(names), "['TXT', 'RTF', 'XML', 'Word']");
@@ -92,7 +92,7 @@ TEST(Undo, AResetGivesTheUsersListAndFilesBack) {
     press(Key::deleteKey);
     clickButton("Reset List");
     ASSERT_TRUE(hasFile("TXT.txt"));
-    EXPECT_EQ(undoItem(), (MenuItemFacts{"Undo Reset List", true}));
+    EXPECT_EQ(undoItem(), (StepItem{"Undo Reset List", true}));
     undo();
     EXPECT_EQ(rowCount(templates), 14);
     EXPECT_FALSE(hasFile("TXT.txt"));
@@ -103,7 +103,7 @@ TEST(Undo, AResetGivesTheUsersListAndFilesBack) {
     redo();
     EXPECT_EQ(rowCount(templates), 15);
     EXPECT_EQ(shared("len(d['arrOfCreateNewFile'])"), "9");
-    EXPECT_EQ(redoItem(), (MenuItemFacts{"Redo", false}));
+    EXPECT_EQ(redoItem(), (StepItem{"Redo", false}));
 }
 
 } // namespace
