@@ -29,9 +29,12 @@ std::size_t FoldedRows::revision(RuleCategory category) const {
 std::string FoldedRows::textsOf(RuleCategory category, long row) const {
     std::string texts;
     for (const auto& column : columnsOf(category)) {
-        if (column.isSearched) {
-            const auto cell = rows_.cell(category, column.identifier, row);
-            auto text = folded(std::get<TextFieldCell>(cell.control).text);
+        if (!column.isSearched) {
+            continue;
+        }
+        const auto cell = rows_.cell(category, column.identifier, row);
+        if (const auto* field = std::get_if<TextFieldCell>(&cell.control)) {
+            auto text = folded(field->text);
             // What is looked for has no line breaks, and so never reaches from one text into the next.
             std::replace(text.begin(), text.end(), '\n', ' ');
             texts.append(text).append("\n");

@@ -61,7 +61,9 @@ TEST_F(ImportSettingsTest, ThePresentSettingsMayBeExportedFirst) {
     ASSERT_TRUE(machine.platform.panels.isOpen());
     EXPECT_TRUE(machine.isAs(untouched));
     machine.platform.panels.confirm({"/kept"});
-    EXPECT_EQ(std::get<PlistValue>(machine.platform.listFiles.files.at("/kept")), PlistValue(before));
+    const auto* kept = std::get_if<PlistValue>(&machine.platform.listFiles.files.at("/kept"));
+    ASSERT_NE(kept, nullptr);
+    EXPECT_EQ(*kept, PlistValue(before));
     EXPECT_EQ(machine.platform.panels.alerts.size(), 2U) << "is asked again";
     EXPECT_EQ(local().at("arrOfCopyFilesTo"), folders().at("arrOfCopyFilesTo"));
 }

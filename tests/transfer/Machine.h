@@ -29,7 +29,8 @@ public:
     PlistDictionary exported() {
         controller.exportSettings();
         platform.panels.confirm({"/exported"});
-        return *std::get<PlistValue>(platform.listFiles.files.at("/exported")).dictionary();
+        const auto* document = std::get_if<PlistValue>(&platform.listFiles.files.at("/exported"));
+        return document && document->dictionary() ? *document->dictionary() : PlistDictionary();
     }
     /// The first button of the alert, unless `answers` says otherwise.
     void import(const ListFileContent& content) {

@@ -17,7 +17,9 @@ std::optional<ImportFault> faultOf(const PlistValue& document) {
 ImportPlan planOf(const PlistDictionary& document) {
     InMemoryImages images;
     auto understood = understandSettings(document, images);
-    return std::get<ImportPlan>(std::move(understood));
+    auto* plan = std::get_if<ImportPlan>(&understood);
+    EXPECT_NE(plan, nullptr);
+    return plan ? std::move(*plan) : ImportPlan();
 }
 
 PlistDictionary with(std::string_view key, const PlistValue& value) {

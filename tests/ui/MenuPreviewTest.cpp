@@ -33,7 +33,7 @@ protected:
     /// The section's own, or for further items those of the menu itself.
     [[nodiscard]] std::vector<PreviewItem> rulesOf(RuleCategory category, const std::string& title) const {
         std::vector<PreviewItem> found;
-        const auto all = title.empty() ? items() : section(title).value().items;
+        const auto all = title.empty() ? items() : section(title).value_or(PreviewItem{}).items;
         std::copy_if(all.begin(), all.end(), std::back_inserter(found),
             [category](const auto& item) { return item.kind == Kind::rule && item.category == category; });
         return found;
@@ -79,7 +79,7 @@ TEST_F(MenuPreviewTest, TitlesAreThoseOfTheListsAndNotesAreLeftOut) {
     platform_.bundle.texts = {{"Downloads", "Herunterladen"}, {"Cut", "Ausschneiden"}, {"Copy to", "Nach"}};
     storeList(RuleCategory::copyFilesTo, {folder("/Users/anna/Downloads", 1), folder("/a/b", 1)});
     load();
-    EXPECT_EQ(titlesOf(section("Nach").value().items), (Texts{"Herunterladen", "b"}));
+    EXPECT_EQ(titlesOf(section("Nach").value_or(PreviewItem{}).items), (Texts{"Herunterladen", "b"}));
     EXPECT_EQ(rulesOf(RuleCategory::others, "").front().title, "Ausschneiden");
 }
 
@@ -95,8 +95,8 @@ TEST_F(MenuPreviewTest, SectionsThatAreSwitchedOffAreNotThere) {
 
 TEST_F(MenuPreviewTest, AnEmptySectionSaysSo) {
     load();
-    const auto empty = section("Common Folders").value().items;
-    EXPECT_EQ(titlesOf(empty), Texts{"Nothing is offered here"});
+    const auto empty = section("Common Folders").value_or(PreviewItem{}).items;
+    ASSERT_EQ(titlesOf(empty), Texts{"Nothing is offered here"});
     EXPECT_EQ(empty.front().kind, Kind::remark);
     list(RuleCategory::others).assign({});
     const auto titles = titlesOf(items());
@@ -122,12 +122,12 @@ TEST_F(MenuPreviewTest, IconsComeFromRecordsAndSharedFoldersWhereTheSwitchIsOn) 
         {"/container/Templates/CreateNewFile/txt.png", "tiff of txt"}};
     load();
     const auto iconOf = [this](const PreviewItem& item) { return textOf(preview_.icon(item)); };
-    EXPECT_EQ(iconOf(section("Copy to").value()), "tiff of section");
+    EXPECT_EQ(iconOf(section("Copy to").value_or(PreviewItem{})), "tiff of section");
     EXPECT_EQ(iconOf(rulesOf(RuleCategory::copyFilesTo, "Copy to").front()), "icon of /a");
     EXPECT_EQ(iconOf(rulesOf(RuleCategory::createNewFile, "New File").front()), "tiff of txt");
     EXPECT_EQ(iconOf(rulesOf(RuleCategory::customIcon, "Custom Icons").front()), "tiff of App");
     preferences_.local.set("enableIconOfSendFilesTo", false);
-    EXPECT_EQ(iconOf(section("Copy to").value()), "");
+    EXPECT_EQ(iconOf(section("Copy to").value_or(PreviewItem{})), "");
     EXPECT_EQ(iconOf(rulesOf(RuleCategory::copyFilesTo, "Copy to").front()), "");
     EXPECT_EQ(iconOf(items().back()), "");
 }

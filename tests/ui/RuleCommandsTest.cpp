@@ -82,7 +82,9 @@ struct Line {
 
 bool shows(Program& program, RuleCategory category, long row, ColumnRole role) {
     const auto cell = program.controller.rows().cell(category, columnOf(category, role)->identifier, row);
-    return std::get<CheckBoxCell>(cell.control).on;
+    const auto* box = std::get_if<CheckBoxCell>(&cell.control);
+    EXPECT_NE(box, nullptr);
+    return box && box->on;
 }
 
 constexpr Line lines[]{

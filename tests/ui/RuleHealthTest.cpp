@@ -141,7 +141,9 @@ TEST_F(RuleHealthTest, TheToolTipOfAPathIsTheWholePathBelowWhatIsWrong) {
 TEST_F(RuleHealthTest, TheCellsOfARowWithAFaultStayAsTheyAre) {
     launchWith({"/gone"});
     const auto with = controller_.rows().cell(folders, "realPath", 0);
-    EXPECT_EQ(std::get<TextFieldCell>(with.control).text, "/gone");
+    const auto* field = std::get_if<TextFieldCell>(&with.control);
+    ASSERT_NE(field, nullptr);
+    EXPECT_EQ(field->text, "/gone");
     platform_.files.folders.insert("/gone");
     show(Page::commonPath);
     EXPECT_EQ(controller_.rows().cell(folders, "realPath", 0), with);
