@@ -1,6 +1,6 @@
 // Missing: notice of what other programs have written, as of GNUstep Base 1.28, which compares the second in
-// which the folder of defaults was last changed with the time at which it last looked: of a change in the same
-// second it never hears.
+// which the folder of defaults was last changed with the time at which it last looked: of a change in the
+// same second it never hears.
 
 #import "gnustep/defaults/DefaultsFiles.h"
 #import "gnustep/runtime/MethodReplacement.h"

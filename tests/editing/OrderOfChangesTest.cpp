@@ -6,22 +6,34 @@ namespace {
 INSTANTIATE_TEST_SUITE_P(Switching, OrderOfEffectsTest,
     ::testing::Values(
         Effects{"ATemplate",
-            [](auto& window) { window.editing().toggling.set(RuleCategory::createNewFile, 0, field::enable, true); },
+            [](auto& window) {
+                window.editing().toggling.set(RuleCategory::createNewFile, 0, field::enable, true);
+            },
             stored("arrOfCreateNewFile") + Lines{"reload createNewFile"} + publishedTemplates()},
         Effects{"ATemplateInTheMainMenu",
-            [](auto& window) { window.editing().toggling.set(RuleCategory::createNewFile, 0, field::enableMainMenu, true); },
+            [](auto& window) {
+                window.editing().toggling.set(RuleCategory::createNewFile, 0, field::enableMainMenu, true);
+            },
             stored("arrOfCreateNewFile") + Lines{"reload createNewFile"} + publishedTemplates()},
         Effects{"ATarget",
-            [](auto& window) { window.editing().toggling.set(RuleCategory::copyFilesTo, 0, field::enable, true); },
+            [](auto& window) {
+                window.editing().toggling.set(RuleCategory::copyFilesTo, 0, field::enable, true);
+            },
             stored("arrOfCopyFilesTo") + Lines{"reload copyFilesTo"} + publishedTargets()},
         Effects{"AnIcon",
-            [](auto& window) { window.editing().toggling.set(RuleCategory::customIcon, 0, field::enable, false); },
+            [](auto& window) {
+                window.editing().toggling.set(RuleCategory::customIcon, 0, field::enable, false);
+            },
             stored("arrOfCustomIcon") + Lines{"reload customIcon"} + publishedIcons(false)},
         Effects{"AnOthersItem",
-            [](auto& window) { window.editing().toggling.set(RuleCategory::others, 0, field::enable, false); },
+            [](auto& window) {
+                window.editing().toggling.set(RuleCategory::others, 0, field::enable, false);
+            },
             stored("arrOfOthers") + Lines{"reload others"} + publishedOthers(false)},
         Effects{"AFixedOthersItem",
-            [](auto& window) { window.editing().toggling.set(RuleCategory::others, 17, field::enable, false); },
+            [](auto& window) {
+                window.editing().toggling.set(RuleCategory::others, 17, field::enable, false);
+            },
             stored("arrOfOthers") + Lines{"reload others"} + publishedOthers()},
         Effects{"AllTemplates",
             [](auto& window) { window.editing().toggling.enableAll(RuleCategory::createNewFile); },
