@@ -36,6 +36,7 @@ using tarnwick::RuleCategory;
         tarnwick::refuseLoginItemStart(ports.bundle, ports.panels, ports.process);
         _window = std::make_unique<tarnwick::OutletWindow>(self);
         _controller = std::make_unique<tarnwick::SettingsController>(ports, *_window);
+        _isFinding = NO;
     }
     return self;
 }
