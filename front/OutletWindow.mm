@@ -64,7 +64,7 @@ void OutletWindow::reload(RuleCategory category) {
         [reloaded reloadData];
         return;
     }
-    [reloaded performSelector:@selector(reloadData)
+    [reloaded performSelector:@selector(reloadDataUnlessEdited)
                    withObject:nil
                    afterDelay:0
                       inModes:[NSArray arrayWithObjects:NSDefaultRunLoopMode, NSModalPanelRunLoopMode,

@@ -40,3 +40,10 @@ extern NSString *const RuleTableViewDidReloadNotification;
 - (void)setEmptyHint:(NSView *)hint;
 
 @end
+
+@interface NSTableView (RuleReloading)
+
+/// Nothing while one of its fields is being edited: the end of that edit reloads.
+- (void)reloadDataUnlessEdited;
+
+@end

@@ -38,6 +38,18 @@ bool isTyped(NSEvent *event) {
 
 } // namespace
 
+@implementation NSTableView (RuleReloading)
+
+- (void)reloadDataUnlessEdited {
+    id editor = [[self window] firstResponder];
+    id field = [editor isKindOfClass:[NSText class]] ? [editor delegate] : nil;
+    if (![field isKindOfClass:[NSView class]] || ![field isDescendantOf:self]) {
+        [self reloadData];
+    }
+}
+
+@end
+
 @implementation RuleTableView
 
 - (void)dealloc {

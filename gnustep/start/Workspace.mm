@@ -8,6 +8,8 @@
 
 #import "gnustep/runtime/MethodReplacement.h"
 
+#include <cstdlib>
+
 NSString *const NSWorkspaceDidActivateApplicationNotification =
     @"NSWorkspaceDidActivateApplicationNotification";
 NSString *const NSWorkspaceDidDeactivateApplicationNotification =
@@ -19,8 +21,18 @@ NSString *opener = @"/usr/bin/xdg-open";
 
 /// Whether the program could be started; it is not waited for. `what` is for the message if not.
 BOOL launch(NSString *program, NSArray *arguments, NSString *what) {
+    NSMutableDictionary *environment =
+        [NSMutableDictionary dictionaryWithDictionary:[[NSProcessInfo processInfo] environment]];
+    if (const char *path = std::getenv("PATH")) {
+        // As it is now, not as it was at the start.
+        [environment setObject:[NSString stringWithUTF8String:path] forKey:@"PATH"];
+    }
+    NSTask *task = [[[NSTask alloc] init] autorelease];
+    [task setLaunchPath:program];
+    [task setArguments:arguments];
+    [task setEnvironment:environment];
     @try {
-        [NSTask launchedTaskWithLaunchPath:program arguments:arguments];
+        [task launch];
         return YES;
     } @catch (NSException *exception) {
         NSLog(@"%@ could not be opened: %@", what, [exception reason]);

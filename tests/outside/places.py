@@ -15,7 +15,7 @@ METHOD = re.compile(r"- \(CGFloat\)(\w+) \{\s*return ([\d.]+);\s*\}")
 # The toolkit's: the line of column titles above a table, the frame around it, its scroller.
 TABLE_HEAD, TABLE_FRAME, SCROLLER = 22, 1, 12
 # Of a button's title: enough to hit the button beside it.
-LETTER_WIDTH = 7.4
+LETTER_WIDTH, BUTTON_PADDING = 7.4, 32
 
 
 @functools.cache
@@ -162,7 +162,7 @@ class Places:
 
     def _button_width(self, title):
         return max(constant("ControlMaking.minimumButtonWidth"),
-                   len(title) * LETTER_WIDTH + constant("ControlMaking.buttonPadding"))
+                   len(title) * LETTER_WIDTH + BUTTON_PADDING)
 
     def add(self, _=None):
         return self.left + constant("ControlMaking.minimumButtonWidth") / 2, self.middle

@@ -70,6 +70,8 @@ def a_step_of_another_page_is_shown_where_it_takes_place(start):
         desktop.click("remove")
         model.remove(ICONS, 2)
         model.expect("an icon less")
+        desktop.window.move(desktop.place("heading"))
+        desktop.screen.settle(0.5)
         shown = desktop.window.picture()
         desktop.show_list(ACTIONS)
         undo(desktop, model, "the removal")
@@ -77,7 +79,7 @@ def a_step_of_another_page_is_shown_where_it_takes_place(start):
         model.redo()
         model.expect("the removal again")
         desktop.window.move(desktop.place("heading"))
-        desktop.screen.settle(0.3)
+        desktop.screen.settle(0.5)
         require(desktop.window.picture() == shown, "the page of the icons is not the one that is shown")
 
 
