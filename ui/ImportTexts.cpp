@@ -105,7 +105,7 @@ private:
     }
 
     [[nodiscard]] std::string reasonText(const LeftOut& item) const {
-        const auto name = shown(item.name);
+        auto name = shown(item.name);
         switch (item.reason) {
         case LeftOutReason::noRule:
             return filled(bundle_.localized("%1$@, entry %2$@: no rule"),

@@ -50,7 +50,7 @@ std::string_view formatOf(StepKind kind, bool isNamed) {
 
 std::string LocalizedStepNames::nameOf(
     StepKind kind, const RuleList& list, std::optional<std::size_t> row) const {
-    const auto format = bundle_.localized(formatOf(kind, row.has_value()));
+    auto format = bundle_.localized(formatOf(kind, row.has_value()));
     if (!row) {
         return format;
     }
