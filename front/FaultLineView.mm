@@ -55,6 +55,8 @@ constexpr CGFloat textHeight = 20;
     frame.origin.y += taken;
     frame.size.height -= taken;
     [_list setFrame:frame];
+    // What the list leaves, too.
+    [[_list superview] setNeedsDisplay:YES];
     return YES;
 }
 
