@@ -168,10 +168,7 @@ void ListEditor::select(RuleCategory category, std::optional<std::size_t> row) {
     if (row) {
         tables_.selectRow(category, static_cast<long>(*row));
     }
-    const auto& list = lists_[category];
-    const auto selected = tables_.selectedRow(category);
-    tables_.setRemoveButtonEnabled(
-        category, list.holds(selected) && !list.isProtected(static_cast<std::size_t>(selected)));
+    tables_.setRemoveButtonEnabled(category, lists_[category].canRemove(tables_.selectedRow(category)));
 }
 
 ListEditor::UndoStep ListEditor::stepOf(

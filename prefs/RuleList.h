@@ -35,6 +35,10 @@ public:
     [[nodiscard]] bool isProtected(std::size_t index) const {
         return factsOf(category_).hasActions && records_[index].hasProtectedAction();
     }
+    /// Whether there is such a row, and it may be removed.
+    [[nodiscard]] bool canRemove(long row) const {
+        return holds(row) && !isProtected(static_cast<std::size_t>(row));
+    }
 
     void append(RuleRecord record);
     /// Puts the record at `index`; past the end it is appended.

@@ -151,10 +151,8 @@ void SettingsController::putAway(NoticeKind kind) {
 }
 
 void SettingsController::tableClicked(RuleCategory category) {
-    const auto row = window_.selectedRow(category);
-    const auto& list = preferences_.lists[category];
     window_.setRemoveButtonEnabled(
-        category, list.holds(row) && !list.isProtected(static_cast<std::size_t>(row)));
+        category, preferences_.lists[category].canRemove(window_.selectedRow(category)));
 }
 
 void SettingsController::turnAllOnOrOff(RuleCategory category) {

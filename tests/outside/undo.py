@@ -120,12 +120,16 @@ def a_panel_and_a_drag_come_first(start):
         redo(desktop, model, "the drop")
 
 
+def remove_template(desktop, model):
+    desktop.select(2)
+    desktop.click("remove")
+    model.remove(TEMPLATES, 2)
+    model.expect("a template less")
+
+
 def files_that_others_have_changed_are_not_overwritten(start):
     with start() as (desktop, model):
-        desktop.select(2)
-        desktop.click("remove")
-        model.remove(TEMPLATES, 2)
-        model.expect("a template less")
+        remove_template(desktop, model)
         other = desktop.stores.template_folder / "XML.xml"
         other.write_text("of another program")
         desktop.screen.key(UNDO)
@@ -136,10 +140,7 @@ def files_that_others_have_changed_are_not_overwritten(start):
 
 def the_end_leaves_nothing_of_it(start):
     with start() as (desktop, model):
-        desktop.select(2)
-        desktop.click("remove")
-        model.remove(TEMPLATES, 2)
-        model.expect("a template less")
+        remove_template(desktop, model)
         require(held_files(desktop), "the removed file is held nowhere")
         desktop.screen.key(command("q"))
         require(desktop.wait_for_end() == 0, "the application did not end well")
@@ -151,10 +152,7 @@ def the_end_leaves_nothing_of_it(start):
 
 def a_killed_application_leaves_held_files_to_the_next_start(start):
     with start() as (desktop, model):
-        desktop.select(2)
-        desktop.click("remove")
-        model.remove(TEMPLATES, 2)
-        model.expect("a row less")
+        remove_template(desktop, model)
         require(held_files(desktop), "the removed file is held nowhere")
         desktop.end(desktop.application)
         desktop.start()
