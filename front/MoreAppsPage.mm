@@ -14,6 +14,8 @@ namespace {
 constexpr CGFloat tileHeight = 84;
 constexpr CGFloat tilePadding = 16;
 constexpr CGFloat imageSize = 52;
+constexpr CGFloat nameHeight = 20;
+constexpr CGFloat descriptionHeight = 34;
 constexpr CGFloat textLeft = tilePadding + imageSize + tilePadding;
 
 NSView *makeTile(const AppTile &facts, CGFloat width, SettingsViewController *controller) {
@@ -43,16 +45,18 @@ NSView *makeTile(const AppTile &facts, CGFloat width, SettingsViewController *co
     [button setAutoresizingMask:NSViewMinXMargin];
     [content addSubview:button];
 
-    const auto addLine = [&](NSTextField *label, CGFloat bottom) {
-        [label setFrame:NSMakeRect(textLeft, bottom, buttonLeft - textLeft - tilePadding, 20)];
+    const auto addText = [&](NSTextField *label, CGFloat bottom, CGFloat height) {
+        [label setFrame:NSMakeRect(textLeft, bottom, buttonLeft - textLeft - tilePadding, height)];
         [label setAutoresizingMask:NSViewWidthSizable];
         [content addSubview:label];
     };
-    addLine(
+    addText(
         makeLabel(localizedText(facts.name), [NSFont boldSystemFontOfSize:14], [NSColor controlTextColor]),
-        middle);
-    addLine(makeLabel(localizedText(facts.description), [NSFont systemFontOfSize:12], secondaryTextColor()),
-        middle - 21);
+        middle + 3, nameHeight);
+    // Two lines, which it takes in a narrow window.
+    addText(
+        makeLabel(localizedText(facts.description), [NSFont systemFontOfSize:12], secondaryTextColor(), true),
+        middle + 1 - descriptionHeight, descriptionHeight);
     return tile;
 }
 

@@ -18,6 +18,7 @@
 #include "ui/WindowLayout.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace tarnwick {
 namespace {
@@ -25,37 +26,55 @@ namespace {
 constexpr CGFloat margin = PageFrame::margin;
 constexpr CGFloat switchHeight = 22;
 constexpr CGFloat switchRowPitch = 26;
+/// From one switch to that beside it, unless its title needs more.
+constexpr CGFloat switchColumnPitch = 331;
 constexpr CGFloat gap = 12;
 constexpr CGFloat buttonBarHeight = 28;
 
-/// The box as wide as its title needs, at the left of a view that takes the place it is given: what is right
-/// of the title is not to be clicked.
-NSView *makeSwitchPlace(PreferenceSwitch *box) {
+/// As wide as its title needs: what is right of the title is not to be clicked.
+void fitSwitch(PreferenceSwitch *box) {
     [box sizeToFit];
     [box setFrameSize:NSMakeSize(NSWidth([box frame]), switchHeight)];
+}
+
+/// The box at the left of a view that takes the place it is given.
+NSView *makeSwitchPlace(PreferenceSwitch *box) {
+    fitSwitch(box);
     NSView *place = [[[NSView alloc] initWithFrame:[box frame]] autorelease];
     [box setAutoresizingMask:NSViewMaxXMargin];
     [place addSubview:box];
     return place;
 }
 
-/// Two to a row.
+PreferenceSwitch *makeSwitch(const SwitchLayout &facts) {
+    PreferenceSwitch *box = [[[PreferenceSwitch alloc] initWithTitle:localizedText(facts.title)
+                                                                 key:toNSString(facts.key)] autorelease];
+    [box setToolTip:localizedText(facts.toolTip)];
+    fitSwitch(box);
+    return box;
+}
+
+/// Two to a row, the second ones in line, and near the first however wide the window is.
 void addSwitches(PageFrame &column, const PageLayout &layout) {
-    const CGFloat half = column.width() / 2;
-    for (std::size_t index = 0; index < layout.switches.size(); ++index) {
-        const auto &facts = layout.switches[index];
-        const bool right = index % 2 == 1;
-        if (!right) {
+    NSMutableArray *boxes = [NSMutableArray array];
+    CGFloat second = switchColumnPitch;
+    for (const auto &facts : layout.switches) {
+        PreferenceSwitch *box = makeSwitch(facts);
+        if ([boxes count] % 2 == 0) {
+            second = std::max(second, std::ceil(NSWidth([box frame])) + gap);
+        }
+        [boxes addObject:box];
+    }
+    CGFloat left = 0;
+    for (PreferenceSwitch *box in boxes) {
+        if (left == 0) {
             column.skip(switchRowPitch);
         }
-        PreferenceSwitch *box = [[[PreferenceSwitch alloc] initWithTitle:localizedText(facts.title)
-                                                                     key:toNSString(facts.key)] autorelease];
-        [box setToolTip:localizedText(facts.toolTip)];
-        NSView *place = makeSwitchPlace(box);
-        column.need(2 * (NSWidth([box frame]) + (right ? 0 : gap)));
-        column.place(place,
-            NSMakeRect(margin + (right ? half : 0), column.top(), right ? half : half - gap, switchHeight),
-            (right ? NSViewMinXMargin : NSViewMaxXMargin) | NSViewWidthSizable | NSViewMinYMargin);
+        const CGFloat width = NSWidth([box frame]);
+        column.need(left + width);
+        column.place(box, NSMakeRect(margin + left, column.top(), width, switchHeight),
+            NSViewMaxXMargin | NSViewMinYMargin);
+        left = left == 0 ? second : 0;
     }
     column.skip(gap);
 }
@@ -70,15 +89,13 @@ EnableAllSwitch *addEnableAllSwitch(PageFrame &column, const PageLayout &layout,
                                                           category:*layout.category
                                                         controller:controller] autorelease];
     [box setFollowUpTarget:controller action:actions.enableAll];
-    // In line with the check boxes of the rows below it.
-    constexpr CGFloat indent = 7;
     column.skip(switchHeight);
     NSView *place = makeSwitchPlace(box);
-    column.place(place, NSMakeRect(margin + indent, column.top(), column.width() - indent, switchHeight),
+    column.place(place, NSMakeRect(margin, column.top(), column.width(), switchHeight),
         NSViewWidthSizable | NSViewMinYMargin);
     const CGFloat left = NSMaxX([box frame]) + gap;
     // Its text stands at the top of its frame.
-    [[box countLabel] setFrame:NSMakeRect(left, 0, column.width() - indent - left, switchHeight - 4)];
+    [[box countLabel] setFrame:NSMakeRect(left, 0, column.width() - left, switchHeight - 4)];
     [[box countLabel] setAutoresizingMask:NSViewWidthSizable];
     [place addSubview:[box countLabel]];
     column.skip(6);
@@ -113,6 +130,9 @@ RuleTableView *makeTable(
     const PageLayout &layout, const RuleActions &actions, SettingsViewController *controller, NSRect frame) {
     RuleTableView *table = [[[RuleTableView alloc] initWithFrame:frame] autorelease];
     for (const auto &facts : columnsOf(*layout.category)) {
+        if (facts.roomBefore > 0) {
+            [table addTableColumn:makeColumn({.identifier = "Room", .width = facts.roomBefore})];
+        }
         [table addTableColumn:makeColumn(facts)];
     }
     if (@available(macOS 11.0, *)) {

@@ -25,10 +25,13 @@ constexpr Column iconColumn(
         .role = ColumnRole::icon};
 }
 
-/// The switch at the head of a row.
+/// The switch at the head of a row, as far from the edge where the cell is the bare box as elsewhere.
 constexpr Column enableColumn(std::string_view identifier, std::optional<Frame> frame) {
+    constexpr double width = 34;
+    const double room = frame ? 0 : checkBoxFrame.x;
     return {.identifier = identifier,
-        .width = 34,
+        .width = width - room,
+        .roomBefore = room,
         .label = "Offer %@ in the menu",
         .cell = &RuleCells::checkBox,
         .frame = frame,
@@ -71,7 +74,7 @@ constexpr std::array createNewFileColumns{
         .isSearched = true},
     Column{.identifier = "EnableMainMenu",
         .title = "Main Menu",
-        .width = 92,
+        .width = 86,
         .label = "Offer %@ in the main menu",
         .cell = &RuleCells::checkBox,
         .frame = mainMenuFrame,
@@ -109,10 +112,10 @@ constexpr std::array customIconColumns{
 constexpr std::array othersColumns{
     enableColumn("OthersEnable", checkBoxFrame),
     iconColumn("OthersIcon", 52, &RuleCells::recordIcon, actionIconFrame),
-    nameColumn(RuleCategory::others, 240, nameFrame),
+    nameColumn(RuleCategory::others, 210, nameFrame),
     Column{.identifier = "OthersNote",
         .title = "Note",
-        .width = 200,
+        .width = 300,
         .label = "Note of %@",
         .cell = &RuleCells::note,
         .frame = nameFrame,

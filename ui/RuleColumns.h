@@ -19,6 +19,8 @@ struct Column {
     /// Empty: a column without heading.
     std::string_view title;
     double width = 0;
+    /// Empty room at its left, for a cell that has none of its own.
+    double roomBefore = 0;
     /// What a cell's control does or shows, for those who do not see it; the placeholder stands for the row.
     std::string_view label;
     RuleCells::Maker cell = nullptr;

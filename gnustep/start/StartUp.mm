@@ -15,6 +15,7 @@
 #import "gnustep/start/Paths.h"
 #import "gnustep/start/Workspace.h"
 #import "gnustep/theme/ImageReaders.h"
+#import "gnustep/theme/TallLines.h"
 #import "gnustep/theme/WideCharacters.h"
 #import "gnustep/windows/FrameOffsets.h"
 
@@ -89,6 +90,7 @@ void TNPrepareProcess(const TNProgram &program) {
         NSString *const everythingElse = @"DejaVuSans";
         NSString *hanRegular = [han stringByAppendingString:@"-Regular"];
         [NSFont setPreferredFontNames:[NSArray arrayWithObjects:hanRegular, everythingElse, nil]];
+        TNLowerTallLines();
         TNUseFontsForWideCharacters(
             [NSArray arrayWithObjects:@"NotoColorEmoji", hanRegular, everythingElse, nil]);
         TNInstallTheme();

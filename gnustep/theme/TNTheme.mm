@@ -213,7 +213,7 @@ NSBezierPath *TNThemeHairline(NSRect rect, CGFloat radius) {
         NSString *title = [cell stringValue];
         const NSSize size = [title sizeWithAttributes:attributes];
         const CGFloat left =
-            [cell alignment] == NSCenterTextAlignment ? NSMidX(frame) - size.width / 2 : NSMinX(frame) + 2;
+            [cell alignment] == NSCenterTextAlignment ? NSMidX(frame) - size.width / 2 : NSMinX(frame);
         [title drawAtPoint:NSMakePoint(left, NSMidY(frame) - size.height / 2) withAttributes:attributes];
     }
 }

@@ -19,8 +19,11 @@ class Picture:
         """Three bytes each."""
         return self.pixels[3 * self.width * number:3 * self.width * (number + 1)]
 
+    def colour(self, x, y):
+        return self.row(y)[3 * x:3 * x + 3]
+
     def colours(self, left, top, right, bottom):
-        return {self.row(y)[3 * x:3 * x + 3] for y in range(top, bottom) for x in range(left, right)}
+        return {self.colour(x, y) for y in range(top, bottom) for x in range(left, right)}
 
 
 def _luminance(colour):

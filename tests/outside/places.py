@@ -60,10 +60,10 @@ class Page(NamedTuple):
 PAGES = (
     Page("New File", TEMPLATES, 4, True,
          (Column("Enable", 34), Column("NewFileIcon", 44), Column("NewFileDisplayName", 260, True),
-          Column("Extension", 110), Column("EnableMainMenu", 92)),
+          Column("Extension", 110), Column("EnableMainMenu", 86)),
          "NewFileDisplayName", "Enable", "Add Templates\u2026", True),
     Page("Copy & Move To", COPY_TARGETS, 4, False,
-         (Column("Enable", 34), Column("SendFileIcon", 40), Column("Note", 200, True), Column("realPath", 280, True)),
+         (Column("Room", 6), Column("Enable", 28), Column("SendFileIcon", 40), Column("Note", 200, True), Column("realPath", 280, True)),
          "Note", "Enable", "Add Folders\u2026", True),
     Page("Common Folders", COMMON_FOLDERS, 2, False,
          (Column("commonPathIcon", 40), Column("commonPathDisplayName", 200, True), Column("realPath", 280, True)),
@@ -72,8 +72,8 @@ PAGES = (
          (Column("Enable", 34), Column("Icon", 44), Column("CustomIconName", 300, True), Column("Size", 112)),
          "CustomIconName", "Enable", "Add Pictures\u2026", True),
     Page("More Items", ACTIONS, 4, True,
-         (Column("OthersEnable", 34), Column("OthersIcon", 52), Column("OthersDisplayName", 240, True),
-          Column("OthersNote", 200, True)),
+         (Column("OthersEnable", 34), Column("OthersIcon", 52), Column("OthersDisplayName", 210, True),
+          Column("OthersNote", 300, True)),
          "OthersDisplayName", "OthersEnable", "Add Items\u2026", True),
     Page("More Apps"),
 )
@@ -108,9 +108,8 @@ class Places:
 
     def switch(self, number):
         """Two to a row; the box is at the left of its title."""
-        half = (self.right - self.left) / 2
         line = (number // 2 + 1) * constant("PageViewBuilder.switchRowPitch")
-        return (self.left + number % 2 * half + 9,
+        return (self.left + number % 2 * constant("PageViewBuilder.switchColumnPitch") + 9,
                 self.heading_end() + line - constant("PageViewBuilder.switchHeight") / 2)
 
     def switches_end(self, page):
@@ -118,7 +117,7 @@ class Places:
         return self.heading_end() + lines * constant("PageViewBuilder.switchRowPitch") + constant("PageViewBuilder.gap")
 
     def enable_all(self, page):
-        return self.left + 16, self.switches_end(page) + constant("PageViewBuilder.switchHeight") / 2
+        return self.left + 9, self.switches_end(page) + constant("PageViewBuilder.switchHeight") / 2
 
     # The table
 
@@ -151,7 +150,7 @@ class Places:
     def cell(self, page, row, identifier=None, height=0.5):
         """At the left of the cell, where its control is; `height` is a part of the row's."""
         # The one in the middle of its column hits with a scroller in the table and without.
-        offset = 45 - SCROLLER / 2 if identifier == "EnableMainMenu" else 16
+        offset = 42 if identifier == "EnableMainMenu" else 16
         return (self.column_left(page, identifier or page.name_column) + offset,
                 self.first_row_top(page) + (row + height) * constant("CellView.rowHeight"))
 
