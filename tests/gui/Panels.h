@@ -8,11 +8,15 @@ namespace tarnwick::gui {
 
 /// Presses the button with this title in the next alert or panel.
 void pressInNextPanel(const std::string& buttonTitle);
+/// The same in the next alert, be there open or save panels before it.
+void pressInNextAlert(const std::string& buttonTitle);
 /// What the alert said whose button was pressed last.
 [[nodiscard]] std::string lastAlertText();
 
 /// Types a path into the next open panel and confirms.
 void chooseInNextPanel(const std::string& path);
+/// Types a path into the next save panel and confirms.
+void saveInNextPanel(const std::string& path);
 /// Presses Escape in the next open panel.
 void cancelNextPanel();
 

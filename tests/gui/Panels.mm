@@ -35,6 +35,8 @@ bool eventsAreWaiting() {
     BOOL _isLooking;
 }
 - (void)begin;
+/// Whether this is none of the panels that it looks for.
+- (BOOL)passesOver:(NSWindow *)panel;
 /// With a panel up and every event handled: takes the next step. NO once there is none left.
 - (BOOL)goOnIn:(NSWindow *)panel;
 @end
@@ -65,6 +67,9 @@ bool eventsAreWaiting() {
 
 - (BOOL)lookAtPanel:(NSWindow *)panel {
     constexpr int patience = 500;
+    if ([self passesOver:panel]) {
+        return YES;
+    }
     if (_panel && panel != _panel) {
         return NO;
     }
@@ -79,6 +84,10 @@ bool eventsAreWaiting() {
     return !panel || eventsAreWaiting() || [self goOnIn:panel];
 }
 
+- (BOOL)passesOver:(NSWindow *)panel {
+    return NO;
+}
+
 - (BOOL)goOnIn:(NSWindow *)panel {
     return NO;
 }
@@ -88,6 +97,7 @@ bool eventsAreWaiting() {
 @interface ButtonAnswer : PanelAnswer {
 @public
     NSString *title;
+    BOOL wantsAlert;
 }
 @end
 
@@ -96,6 +106,10 @@ bool eventsAreWaiting() {
 - (void)dealloc {
     [title release];
     [super dealloc];
+}
+
+- (BOOL)passesOver:(NSWindow *)panel {
+    return wantsAlert && (!panel || [panel isKindOfClass:[NSSavePanel class]]);
 }
 
 - (BOOL)goOnIn:(NSWindow *)panel {
@@ -170,6 +184,13 @@ void pressInNextPanel(const std::string &buttonTitle) {
     [answer begin];
 }
 
+void pressInNextAlert(const std::string &buttonTitle) {
+    ButtonAnswer *answer = [[[ButtonAnswer alloc] init] autorelease];
+    answer->title = [toNSString(buttonTitle) copy];
+    answer->wantsAlert = YES;
+    [answer begin];
+}
+
 std::string lastAlertText() {
     return alertText;
 }
@@ -179,6 +200,12 @@ void chooseInNextPanel(const std::string &path) {
     NSString *whole = toNSString(path);
     answer->texts = [[NSArray alloc]
         initWithObjects:[whole stringByDeletingLastPathComponent], [whole lastPathComponent], nil];
+    [answer begin];
+}
+
+void saveInNextPanel(const std::string &path) {
+    PathAnswer *answer = [[[PathAnswer alloc] init] autorelease];
+    answer->texts = [[NSArray alloc] initWithObjects:toNSString(path), nil];
     [answer begin];
 }
 
