@@ -13,8 +13,9 @@ namespace tarnwick {
 /// Gives the view's layer the colour as it is in the view's appearance just now; no layer follows an
 /// appearance by itself.
 void setLayerBackground(NSView *view, NSColor *color);
-/// Fills the rectangle with a shade over what is behind it, nearer to the colour of text: 0 nothing, 1 that
+/// A shade to be drawn over what is there, as it is just now, nearer to the colour of text: 0 nothing, 1 that
 /// colour.
+[[nodiscard]] NSColor *shadeColor(CGFloat shade);
 void fillWithShade(NSRect rect, CGFloat shade);
 
 } // namespace tarnwick

@@ -12,10 +12,14 @@ void setLayerBackground(NSView *view, NSColor *color) {
     [view setNeedsDisplay:YES];
 }
 
-void fillWithShade(NSRect rect, CGFloat shade) {
-    // As it is just now: the system's own colours do not take another alpha everywhere.
+NSColor *shadeColor(CGFloat shade) {
+    // The system's own colours do not take another alpha everywhere.
     NSColor *text = [[NSColor controlTextColor] colorUsingColorSpace:[NSColorSpace deviceRGBColorSpace]];
-    [[text colorWithAlphaComponent:shade] set];
+    return [text colorWithAlphaComponent:shade];
+}
+
+void fillWithShade(NSRect rect, CGFloat shade) {
+    [shadeColor(shade) set];
     [NSBezierPath fillRect:rect];
 }
 

@@ -177,9 +177,11 @@ void OutletWindow::setHelpTitleColour(const Colour &colour) {
     }
     NSMutableParagraphStyle *style = [[[NSMutableParagraphStyle alloc] init] autorelease];
     [style setAlignment:NSTextAlignmentCenter];
-    NSDictionary *attributes =
-        [NSDictionary dictionaryWithObjectsAndKeys:colorOf(colour), NSForegroundColorAttributeName, style,
-                      NSParagraphStyleAttributeName, [button font], NSFontAttributeName, nil];
+    // Large and bold: that red stands out from no ground enough for small print.
+    constexpr CGFloat fontSize = 14;
+    NSDictionary *attributes = [NSDictionary
+        dictionaryWithObjectsAndKeys:colorOf(colour), NSForegroundColorAttributeName, style,
+        NSParagraphStyleAttributeName, [NSFont boldSystemFontOfSize:fontSize], NSFontAttributeName, nil];
     [button setAttributedTitle:[[[NSAttributedString alloc] initWithString:[button title]
                                                                 attributes:attributes] autorelease]];
 }

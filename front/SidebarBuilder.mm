@@ -2,6 +2,7 @@
 
 #import "front/Colors.h"
 #import "front/ControlMaking.h"
+#import "front/HelpButton.h"
 #import "front/Selectors.h"
 #import "front/SettingsViewController+Actions.h"
 #import "front/SettingsViewController+System.h"
@@ -33,7 +34,8 @@ constexpr CGFloat pageButtonPitch = 40;
 constexpr CGFloat iconSize = 20;
 constexpr CGFloat iconPadding = 8;
 
-/// The icon with room at its sides: a borderless button has none of its own.
+/// The icon with room at its sides: a borderless button has none of its own. It takes the colour of the
+/// button's title, which stands out from every ground that the button has.
 NSImage *paddedIcon(NSImage *icon) {
     NSImage *padded =
         [[[NSImage alloc] initWithSize:NSMakeSize(iconSize + 2 * iconPadding, iconSize)] autorelease];
@@ -43,6 +45,7 @@ NSImage *paddedIcon(NSImage *icon) {
            operation:NSCompositingOperationSourceOver
             fraction:1];
     [padded unlockFocus];
+    [padded setTemplate:YES];
     return padded;
 }
 
@@ -89,7 +92,9 @@ NSView *makeSidebar(CGFloat height, SettingsViewController *controller) {
     NSFont *smallFont = [NSFont systemFontOfSize:11];
     NSTextField *version = makeLabel(@"", smallFont, secondaryTextColor());
     [version setAlignment:NSTextAlignmentCenter];
-    NSButton *help = makePushButton(localizedText(sidebar::help), controller, @selector(initializeClick:));
+    NSButton *help = [[[HelpButton alloc] init] autorelease];
+    preparePushButton(help, localizedText(sidebar::help), controller, @selector(initializeClick:));
+    [help setBordered:NO];
     NSTextField *tip = makeLabel(localizedText(sidebar::tip), smallFont, secondaryTextColor(), true);
     [tip setAlignment:NSTextAlignmentCenter];
     NSButton *restart =

@@ -29,6 +29,13 @@
 - (NSAppearance *)effectiveAppearance;
 @end
 
+// ButtonImages.mm
+@interface NSImage (TNTemplates)
+/// Drawn by buttons in the colour of their titles; only how opaque its pixels are counts.
+- (void)setTemplate:(BOOL)isTemplate;
+- (BOOL)isTemplate;
+@end
+
 // WindowTabs.mm
 @interface NSWindow (TNTabs)
 /// Without effect: no window has tabs.

@@ -3,7 +3,8 @@
 #import <AppKit/AppKit.h>
 #import <GNUstepGUI/GSTheme.h>
 
-/// The colours of everything that the theme and the layer draw. They live for the whole run.
+/// The colours of everything that the theme and the layer draw. They live for the whole run. Text keeps a
+/// contrast of 4.5 to every ground that it is drawn on, pictures and the borders of controls one of 3.
 struct TNThemeColors {
     NSColor *window;
     NSColor *surface;
@@ -12,12 +13,25 @@ struct TNThemeColors {
     NSColor *selectedRowInactive;
     NSColor *text;
     NSColor *secondaryText;
+    /// Of what cannot be used just now; to be read all the same.
+    NSColor *disabledText;
+    /// What is selected while a text is edited.
+    NSColor *selectedText;
+    /// Between parts that would be told apart without it.
     NSColor *border;
+    /// Around what can be used: buttons, fields, lists.
+    NSColor *controlBorder;
+    /// Around a check box, which also stands on the ground of a selected row.
+    NSColor *boxBorder;
     NSColor *control;
     NSColor *controlPressed;
+    NSColor *controlDisabled;
     NSColor *header;
     NSColor *knob;
+    /// Lines: the focus ring, the mark of a drop.
     NSColor *accent;
+    /// A ground for `accentText`.
+    NSColor *accentFill;
     NSColor *accentText;
 };
 
@@ -37,6 +51,8 @@ void TNThemeUseAppearance(TNThemeAppearance appearance);
 void TNThemeInstallImages();
 /// The name of the picture that GNUstep has none for: a check box of which some is on and some off.
 extern NSString *const TNThemeMixedSwitchImage;
+/// The name that the picture of that name has when its control is disabled, if there is one.
+NSString *TNThemeDisabledImageName(NSString *name);
 /// Those of the open panel and of pop-up buttons; part of the above.
 void TNThemeInstallPanelImages();
 /// Draws a picture and puts it in the place of GNUstep's of that name.

@@ -115,9 +115,9 @@ void drawMark(NSInteger state, NSPoint middle, NSColor *color) {
             NSMakeRect(TNMenuRows::sideMargin, NSMidY(row), NSWidth(row) - 2 * TNMenuRows::sideMargin, 1));
         return;
     }
-    NSColor *color = [item isEnabled] ? colors->text : colors->secondaryText;
+    NSColor *color = [item isEnabled] ? colors->text : colors->disabledText;
     if (isHighlighted) {
-        [colors->accent set];
+        [colors->accentFill set];
         [[NSBezierPath bezierPathWithRoundedRect:NSInsetRect(row, TNMenuRows::padding, 0) xRadius:4
                                          yRadius:4] fill];
         color = colors->accentText;

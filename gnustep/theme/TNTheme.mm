@@ -3,8 +3,6 @@
 
 #import "TNTheme.h"
 
-#import "gnustep/runtime/MethodReplacement.h"
-
 #include <algorithm>
 
 namespace {
@@ -24,10 +22,6 @@ bool isDefaultButton(NSCell *cell) {
 bool isPressed(GSThemeControlState state) {
     return state == GSThemeHighlightedState || state == GSThemeHighlightedFirstResponderState ||
            state == GSThemeSelectedState || state == GSThemeSelectedFirstResponderState;
-}
-
-BOOL dimsImageWhenDisabled(id, SEL) {
-    return YES;
 }
 
 } // namespace
@@ -65,14 +59,21 @@ NSBezierPath *TNThemeHairline(NSRect rect, CGFloat radius) {
     }
     const auto *colors = TNThemeCurrentColors();
     NSBezierPath *path = TNThemeHairline(NSInsetRect(frame, 0, 1), buttonRadius);
-    if (isDefaultButton(cell) && [cell isEnabled]) {
-        [(isPressed(state) ? [colors->accent shadowWithLevel:0.15] : colors->accent) set];
+    if (![cell isEnabled]) {
+        [colors->controlDisabled set];
+        [path fill];
+        [colors->border set];
+        [path stroke];
+        return;
+    }
+    if (isDefaultButton(cell)) {
+        [(isPressed(state) ? [colors->accentFill shadowWithLevel:0.15] : colors->accentFill) set];
         [path fill];
         return;
     }
     [(isPressed(state) ? colors->controlPressed : colors->control) set];
     [path fill];
-    [colors->border set];
+    [colors->controlBorder set];
     [path stroke];
 }
 
@@ -95,7 +96,7 @@ NSBezierPath *TNThemeHairline(NSRect rect, CGFloat radius) {
 
 - (void)drawBorderType:(NSBorderType)type frame:(NSRect)frame view:(NSView *)view {
     if (type != NSNoBorder) {
-        [TNThemeCurrentColors()->border set];
+        [TNThemeCurrentColors()->controlBorder set];
         [TNThemeHairline(frame, 0) stroke];
     }
 }
@@ -129,7 +130,7 @@ NSBezierPath *TNThemeHairline(NSRect rect, CGFloat radius) {
 - (NSRect)drawWhiteBezel:(NSRect)border withClip:(NSRect)clip {
     [TNThemeCurrentColors()->surface set];
     NSRectFill(NSIntersectionRect(border, clip));
-    [TNThemeCurrentColors()->border set];
+    [TNThemeCurrentColors()->controlBorder set];
     [TNThemeHairline(border, 0) stroke];
     return NSInsetRect(border, 2, 2);
 }
@@ -264,15 +265,10 @@ NSBezierPath *TNThemeHairline(NSRect rect, CGFloat radius) {
 
 @implementation NSButtonCell (TNTheme)
 
-/// A check box that cannot be changed looks like one, as on macOS; GNUstep has this off from the start.
-+ (void)load {
-    TNReplaceMethod(self, @selector(imageDimsWhenDisabled), dimsImageWhenDisabled);
-}
-
 - (NSColor *)textColor {
     const auto *colors = TNThemeCurrentColors();
     if (![self isEnabled]) {
-        return colors->secondaryText;
+        return colors->disabledText;
     }
     return [self isBordered] && isDefaultButton(self) ? colors->accentText : colors->text;
 }

@@ -36,15 +36,6 @@ void showUnderName(NSBitmapImageRep *pixels, NSString *name) {
     [drawn setObject:image forKey:name];
 }
 
-void fillShape(NSBezierPath *path, bool on) {
-    const auto *colors = TNThemeCurrentColors();
-    [(on ? colors->accent : colors->control) set];
-    [path fill];
-    [(on ? colors->accent : colors->knob) set];
-    [path setLineWidth:1];
-    [path stroke];
-}
-
 enum class CheckMark { none, tick, dash };
 
 NSBezierPath *pathOf(CheckMark mark) {
@@ -63,15 +54,40 @@ NSBezierPath *pathOf(CheckMark mark) {
     return path;
 }
 
-void installCheckBox(NSString *name, CheckMark mark) {
+struct BoxColors {
+    NSColor *fill;
+    NSColor *border;
+};
+
+BoxColors colorsOf(CheckMark mark, bool isEnabled) {
+    const auto *colors = TNThemeCurrentColors();
+    if (mark == CheckMark::none) {
+        return {isEnabled ? colors->control : colors->controlPressed, colors->boxBorder};
+    }
+    return isEnabled ? BoxColors{colors->accentFill, colors->accent}
+                     : BoxColors{colors->boxBorder, colors->boxBorder};
+}
+
+void installCheckBox(NSString *name, CheckMark mark, bool isEnabled) {
     TNThemeInstallImage(name, NSMakeSize(boxSize, boxSize), ^(NSRect bounds) {
-        fillShape([NSBezierPath bezierPathWithRoundedRect:NSInsetRect(bounds, 1.5, 1.5)
-                                                  xRadius:3.5
-                                                  yRadius:3.5],
-            mark != CheckMark::none);
-        [TNThemeCurrentColors()->accentText set];
+        const auto box = colorsOf(mark, isEnabled);
+        NSBezierPath *path = [NSBezierPath bezierPathWithRoundedRect:NSInsetRect(bounds, 1.5, 1.5)
+                                                             xRadius:3.5
+                                                             yRadius:3.5];
+        [box.fill set];
+        [path fill];
+        [box.border set];
+        [path setLineWidth:1];
+        [path stroke];
+        [(isEnabled ? TNThemeCurrentColors()->accentText : TNThemeCurrentColors()->control) set];
         [pathOf(mark) stroke];
     });
+}
+
+/// As it is, and as it is when it cannot be changed.
+void installCheckBoxes(NSString *name, CheckMark mark) {
+    installCheckBox(name, mark, true);
+    installCheckBox(TNThemeDisabledImageName(name), mark, false);
 }
 
 /// Nothing but a name.
@@ -94,6 +110,10 @@ void installBlank(NSString *name) {
 
 NSString *const TNThemeMixedSwitchImage = @"TNSwitchMixed";
 
+NSString *TNThemeDisabledImageName(NSString *name) {
+    return [name stringByAppendingString:@"Disabled"];
+}
+
 void TNThemeInstallImage(NSString *name, NSSize size, void (^drawing)(NSRect bounds)) {
     const NSRect bounds = NSMakeRect(0, 0, size.width, size.height);
     NSImage *canvas = [[[NSImage alloc] initWithSize:size] autorelease];
@@ -107,9 +127,9 @@ void TNThemeInstallImage(NSString *name, NSSize size, void (^drawing)(NSRect bou
 }
 
 void TNThemeInstallImages() {
-    installCheckBox(@"GSSwitch", CheckMark::none);
-    installCheckBox(@"GSSwitchSelected", CheckMark::tick);
-    installCheckBox(TNThemeMixedSwitchImage, CheckMark::dash);
+    installCheckBoxes(@"GSSwitch", CheckMark::none);
+    installCheckBoxes(@"GSSwitchSelected", CheckMark::tick);
+    installCheckBoxes(TNThemeMixedSwitchImage, CheckMark::dash);
     // The arrow of the default button, the marks of menu items, and the parts of a scroller.
     for (NSString *name in
         [NSArray arrayWithObjects:@"common_ret", @"common_retH", @"GSMenuSelected", @"GSMenuMixed",

@@ -10,8 +10,8 @@ namespace tarnwick::probe {
 double inkOfBareTabView();
 /// What is seen, 0 to 1, where a tab view stands in front of something black.
 double brightnessOfTabView(bool toldToDrawNone);
-/// How dark a ticked check box without title is, 0 to 1.
-double darknessOfCheckBox(bool enabled);
+/// How far a ticked check box without title is from grey, 0 to 1.
+double saturationOfCheckBox(bool enabled);
 enum class CheckBox { off, on, mixed, onAfterMixed };
 /// The brightness of each pixel of a check box without title.
 std::vector<double> pictureOfCheckBox(CheckBox state);

@@ -96,7 +96,7 @@ double inkOfBareTabView() {
     }
 }
 
-double darknessOfCheckBox(bool enabled) {
+double saturationOfCheckBox(bool enabled) {
     @autoreleasepool {
         startUp();
         NSButton *box = [[[NSButton alloc] initWithFrame:NSMakeRect(10, 10, 18, 18)] autorelease];
@@ -105,11 +105,11 @@ double darknessOfCheckBox(bool enabled) {
         [box setState:NSControlStateValueOn];
         [box setEnabled:enabled];
         NSBitmapImageRep *pixels = pixelsOf(box);
-        double darkest = 0;
+        double highest = 0;
         for (NSInteger column = 0; column < [pixels pixelsWide]; ++column) {
-            darkest = std::max(darkest, 1 - brightness(colorAt(pixels, column, 9)));
+            highest = std::max<double>(highest, [colorAt(pixels, column, 9) saturationComponent]);
         }
-        return darkest;
+        return highest;
     }
 }
 

@@ -13,9 +13,9 @@ TEST(Appearance, ATabViewHidesWhatIsBehindItUntilItIsToldNotTo) {
     EXPECT_EQ(brightnessOfTabView(true), 0);
 }
 
-TEST(Appearance, ADisabledCheckBoxIsPaler) {
-    EXPECT_GT(darknessOfCheckBox(true), 0.4);
-    EXPECT_LT(darknessOfCheckBox(false), 0.7 * darknessOfCheckBox(true));
+TEST(Appearance, ADisabledCheckBoxIsGrey) {
+    EXPECT_GT(saturationOfCheckBox(true), 0.5);
+    EXPECT_LT(saturationOfCheckBox(false), 0.15);
 }
 
 TEST(Appearance, AMixedCheckBoxHasAPictureAndAValueOfItsOwn) {

@@ -27,6 +27,7 @@ typedef TN_ENUM(NSInteger, NSBackgroundStyle){NSBackgroundStyleLight = 0};
 @property NSTextAlignment alignment;
 @property NSLineBreakMode lineBreakMode;
 @property BOOL wraps;
+@property (getter=isHighlighted) BOOL highlighted;
 @property (getter=isScrollable) BOOL scrollable;
 @property (readonly) NSSize cellSize;
 @end

@@ -50,6 +50,7 @@ extern NSString *const NSParagraphStyleAttributeName;
 @property CGFloat lineWidth;
 + (NSBezierPath *)bezierPathWithRoundedRect:(NSRect)rect xRadius:(CGFloat)xRadius yRadius:(CGFloat)yRadius;
 + (void)fillRect:(NSRect)rect;
+- (void)fill;
 - (void)stroke;
 @end
 
@@ -76,6 +77,7 @@ typedef TN_OPTIONS(NSUInteger, NSFontTraitMask){NSItalicFontMask = 1};
 @interface NSImage : NSObject <NSCopying>
 @property NSSize size;
 @property (readonly, getter=isValid) BOOL valid;
+- (void)setTemplate:(BOOL)isTemplate;
 @property (nullable, readonly, copy) NSData *TIFFRepresentation;
 + (nullable NSImage *)imageNamed:(NSString *)name;
 - (instancetype)initWithSize:(NSSize)size;
