@@ -14,19 +14,15 @@
 #include "adapters/foundation/SystemAdapters.h"
 #include "app/ApplicationDelegate.h"
 #include "platform/ApplicationBundle.h"
-#include "platform/Clock.h"
 #include "platform/DistributedNotifications.h"
+#include "platform/FileContents.h"
 #include "platform/FileManager.h"
-#include "platform/FileStatus.h"
-#include "platform/FileTrees.h"
-#include "platform/FinderSync.h"
 #include "platform/Images.h"
 #include "platform/KnownFolders.h"
 #include "platform/Panels.h"
 #include "platform/Ports.h"
 #include "platform/PreferenceStore.h"
 #include "platform/Process.h"
-#include "platform/PropertyListFiles.h"
 #include "platform/RunLoop.h"
 #include "platform/SystemLog.h"
 #include "platform/UserScript.h"
@@ -54,28 +50,23 @@ void observeEnds(SettingsViewController *controller, NSWindow *window) {
 struct Adapters {
     std::unique_ptr<PreferenceStores> preferences = makePreferenceStores();
     std::unique_ptr<FileManager> files = makeFileManager();
-    std::unique_ptr<FileTrees> trees = makeFileTrees();
-    std::unique_ptr<PropertyListFiles> listFiles = makePropertyListFiles();
-    std::unique_ptr<FileStatus> fileStatus = makeFileStatus();
+    std::unique_ptr<FileContents> contents = makeFileContents();
     std::unique_ptr<KnownFolders> folders = makeKnownFolders();
     std::unique_ptr<ApplicationBundle> bundle = makeApplicationBundle();
     std::unique_ptr<Images> images = makeImages();
     std::unique_ptr<Panels> panels = makePanels();
     std::unique_ptr<Workspace> workspace = makeWorkspace();
-    std::unique_ptr<FinderSync> finderSync = makeFinderSync();
     std::unique_ptr<UserScripts> userScripts = makeUserScripts();
     std::unique_ptr<DistributedNotifications> notifications = makeDistributedNotifications();
     std::unique_ptr<RunLoop> runLoop = makeRunLoop();
     std::unique_ptr<SystemLog> log = makeSystemLog();
     std::unique_ptr<Process> process = makeProcess();
-    std::unique_ptr<Clock> clock = makeClock();
     ObjectPointer<WindowUndo> windowUndo = ObjectPointer<WindowUndo>::adopting([[WindowUndo alloc] init]);
     std::unique_ptr<UndoHistory> undoHistory = makeUndoHistory([windowUndo.get() steps]);
 
     [[nodiscard]] Ports ports() const {
-        return {*preferences, *files, *trees, *listFiles, *fileStatus, *folders, *bundle, *images, *panels,
-            *workspace, *finderSync, *userScripts, *notifications, *runLoop, *log, *process, *clock,
-            *undoHistory};
+        return {*preferences, *files, *contents, *folders, *bundle, *images, *panels, *workspace,
+            *userScripts, *notifications, *runLoop, *log, *process, *undoHistory};
     }
 };
 

@@ -1,7 +1,7 @@
 #include "integration/FinderExtension.h"
 
 #include "integration/Links.h"
-#include "platform/FinderSync.h"
+#include "platform/ApplicationBundle.h"
 #include "platform/Panels.h"
 #include "platform/Process.h"
 #include "platform/RunLoop.h"
@@ -20,7 +20,7 @@ bool hasManagementInterface(const Process& process) {
 } // namespace
 
 bool FinderExtension::isExtensionEnabled() const {
-    return !hasManagementInterface(process_) || finderSync_.isExtensionEnabled();
+    return !hasManagementInterface(process_) || bundle_.isExtensionEnabled();
 }
 
 void FinderExtension::promptToEnableExtension() {
@@ -35,7 +35,7 @@ void FinderExtension::promptToEnableExtension() {
 
 void FinderExtension::openSystemPreferences() {
     if (hasManagementInterface(process_)) {
-        finderSync_.showExtensionManagementInterface();
+        bundle_.showExtensionManagementInterface();
     } else {
         workspace_.openURL(link::systemPreferences);
     }

@@ -2,7 +2,7 @@
 
 namespace tarnwick {
 
-class FinderSync;
+class ApplicationBundle;
 class LocalPreferences;
 class Panels;
 class Process;
@@ -12,10 +12,10 @@ class Workspace;
 /// The application's dealings with its Finder extension.
 class FinderExtension {
 public:
-    FinderExtension(FinderSync& finderSync, Workspace& workspace, Panels& panels, const Process& process,
+    FinderExtension(ApplicationBundle& bundle, Workspace& workspace, Panels& panels, const Process& process,
         RunLoop& runLoop, LocalPreferences& local)
-        : finderSync_(finderSync), workspace_(workspace), panels_(panels), process_(process),
-          runLoop_(runLoop), local_(local) {}
+        : bundle_(bundle), workspace_(workspace), panels_(panels), process_(process), runLoop_(runLoop),
+          local_(local) {}
 
     /// Before macOS 10.14 true without asking.
     [[nodiscard]] bool isExtensionEnabled() const;
@@ -29,7 +29,7 @@ public:
     void checkAtStart();
 
 private:
-    FinderSync& finderSync_;
+    ApplicationBundle& bundle_;
     Workspace& workspace_;
     Panels& panels_;
     const Process& process_;

@@ -7,10 +7,10 @@ namespace tarnwick {
 
 SystemIntegration::SystemIntegration(const Ports& ports, Preferences& preferences)
     : finderExtension(
-          ports.finderSync, ports.workspace, ports.panels, ports.process, ports.runLoop, preferences.local),
+          ports.bundle, ports.workspace, ports.panels, ports.process, ports.runLoop, preferences.local),
       restartRequest(ports.preferences, ports.notifications),
       scriptHelper(ports.userScripts, ports.files, ports.folders, ports.bundle, ports.panels, ports.runLoop,
           ports.log),
-      tools(ports.process, ports.workspace, ports.panels, ports.files, ports.folders, ports.log) {}
+      tools(ports.process, ports.workspace, ports.panels, ports.contents, ports.folders, ports.log) {}
 
 } // namespace tarnwick

@@ -1,6 +1,6 @@
 #include "integration/SystemTools.h"
 
-#include "platform/FileManager.h"
+#include "platform/FileContents.h"
 #include "platform/KnownFolders.h"
 #include "platform/Panels.h"
 #include "platform/Process.h"
@@ -33,7 +33,7 @@ void SystemTools::chooseSystemShortcuts() {
         for (const auto& path : answer.paths) {
             log_.write(path);
             // Nothing is done with the table yet, nor with a file that cannot be read.
-            static_cast<void>(files_.propertyList(path));
+            static_cast<void>(contents_.propertyList(path));
         }
     });
 }

@@ -6,7 +6,7 @@
 
 namespace tarnwick {
 
-class FileManager;
+class FileContents;
 class KnownFolders;
 class Panels;
 class Process;
@@ -16,9 +16,9 @@ class Workspace;
 /// Tools beside the settings; nothing of the program itself depends on them.
 class SystemTools {
 public:
-    SystemTools(Process& process, Workspace& workspace, Panels& panels, FileManager& files,
+    SystemTools(Process& process, Workspace& workspace, Panels& panels, const FileContents& contents,
         const KnownFolders& folders, SystemLog& log)
-        : process_(process), workspace_(workspace), panels_(panels), files_(files), folders_(folders),
+        : process_(process), workspace_(workspace), panels_(panels), contents_(contents), folders_(folders),
           log_(log) {}
 
     /// Runs a command with /bin/sh -c, blocks until it closes its output, and gives that as text; nothing
@@ -39,7 +39,7 @@ private:
     Process& process_;
     Workspace& workspace_;
     Panels& panels_;
-    FileManager& files_;
+    const FileContents& contents_;
     const KnownFolders& folders_;
     SystemLog& log_;
 };

@@ -5,7 +5,8 @@
 
 namespace tarnwick {
 
-/// What the application carries with it. Implementations: AppKit main bundle, in memory.
+/// The application itself: what it carries with it, and what the system knows of it and of its extension of
+/// the Finder. Implementations: AppKit main bundle, in memory.
 class ApplicationBundle {
 public:
     virtual ~ApplicationBundle() = default;
@@ -23,6 +24,10 @@ public:
     [[nodiscard]] virtual std::string shortVersion() const = 0;
     /// Whether it is one of the applications that start with the user's session.
     [[nodiscard]] virtual bool isLoginItem() const = 0;
+    /// Whether the user has the extension switched on, as far as the system says; only to be asked, like
+    /// showing where that is done, on systems that can say (macOS 10.14 and later).
+    [[nodiscard]] virtual bool isExtensionEnabled() const = 0;
+    virtual void showExtensionManagementInterface() = 0;
 };
 
 } // namespace tarnwick

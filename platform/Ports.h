@@ -3,18 +3,14 @@
 namespace tarnwick {
 
 class ApplicationBundle;
-class Clock;
 class DistributedNotifications;
+class FileContents;
 class FileManager;
-class FileTrees;
-class FileStatus;
-class FinderSync;
 class Images;
 class KnownFolders;
 class Panels;
 class PreferenceStores;
 class Process;
-class PropertyListFiles;
 class RunLoop;
 class SystemLog;
 class UndoHistory;
@@ -26,21 +22,17 @@ class Workspace;
 struct Ports {
     PreferenceStores& preferences;
     FileManager& files;
-    FileTrees& trees;
-    PropertyListFiles& listFiles;
-    FileStatus& fileStatus;
+    FileContents& contents;
     KnownFolders& folders;
     ApplicationBundle& bundle;
     Images& images;
     Panels& panels;
     Workspace& workspace;
-    FinderSync& finderSync;
     UserScripts& userScripts;
     DistributedNotifications& notifications;
     RunLoop& runLoop;
     SystemLog& log;
     Process& process;
-    Clock& clock;
     UndoHistory& undoHistory;
 };
 

@@ -1,7 +1,6 @@
 #include "prefs/HeldFiles.h"
 
 #include "platform/FileManager.h"
-#include "platform/FileTrees.h"
 #include "platform/KnownFolders.h"
 #include "platform/Process.h"
 
@@ -75,7 +74,7 @@ void HeldFiles::removeAll() {
 }
 
 void HeldFiles::removeAbandoned() {
-    for (const auto& name : trees_.namesIn(folders_.temporary())) {
+    for (const auto& name : files_.namesIn(folders_.temporary())) {
         const auto process = processOf(name);
         // A number may come back: what lies under this process's own is not its own yet.
         if (process && (*process == process_.identifier() || !process_.isRunning(*process))) {

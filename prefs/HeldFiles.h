@@ -7,7 +7,6 @@
 namespace tarnwick {
 
 class FileManager;
-class FileTrees;
 class KnownFolders;
 class Process;
 
@@ -15,8 +14,8 @@ class Process;
 /// there from the first file on until the process ends. Each file or folder has a place of its own in it.
 class HeldFiles {
 public:
-    HeldFiles(FileManager& files, const FileTrees& trees, const KnownFolders& folders, const Process& process)
-        : files_(files), trees_(trees), folders_(folders), process_(process) {}
+    HeldFiles(FileManager& files, const KnownFolders& folders, const Process& process)
+        : files_(files), folders_(folders), process_(process) {}
 
     /// A path at which nothing is yet; nothing when the folder cannot be made.
     [[nodiscard]] std::optional<std::string> newPlace();
@@ -35,7 +34,6 @@ private:
     [[nodiscard]] std::string folderOf(int process) const;
 
     FileManager& files_;
-    const FileTrees& trees_;
     const KnownFolders& folders_;
     const Process& process_;
     int places_ = 0;

@@ -5,8 +5,7 @@
 namespace tarnwick {
 
 Preferences::Preferences(const Ports& ports)
-    : publisher(ports.preferences, local, lists),
-      held(ports.files, ports.trees, ports.folders, ports.process),
+    : publisher(ports.preferences, local, lists), held(ports.files, ports.folders, ports.process),
       templateFiles(ports.files, ports.folders, ports.bundle, ports.log, local, held),
       factory(ports.images, ports.folders, ports.log, local, lists, publisher, templateFiles),
       icons(ports.files, ports.folders, ports.bundle, ports.log),

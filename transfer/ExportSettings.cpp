@@ -1,9 +1,9 @@
 #include "transfer/ExportSettings.h"
 
 #include "platform/ApplicationBundle.h"
-#include "platform/Clock.h"
+#include "platform/FileContents.h"
 #include "platform/FileManager.h"
-#include "platform/FileTrees.h"
+#include "platform/RunLoop.h"
 #include "prefs/GroupContainer.h"
 #include "prefs/LocalPreferences.h"
 #include "prefs/PreferenceKeys.h"
@@ -43,7 +43,7 @@ ExportedSettings ExportSettings::collect() const {
     settings.emplace(document::format, settingsFormat);
     settings.emplace(document::version, bundle_.shortVersion());
     // A file of settings has whole seconds.
-    settings.emplace(document::date, PlistDate{std::floor(clock_.now().secondsSinceReferenceDate)});
+    settings.emplace(document::date, PlistDate{std::floor(clock_.date().secondsSinceReferenceDate)});
     addLists(settings);
     settings.emplace(document::switches, switches());
     settings.emplace(document::templateFiles, templateFiles(exported.leftOut));
@@ -87,7 +87,7 @@ PlistDictionary ExportSettings::templateFiles(std::vector<std::string>& leftOut)
         if (!isFileName(name) || !files_.exists(path)) {
             continue;
         }
-        if (auto tree = trees_.read(path)) {
+        if (auto tree = contents_.readTree(path)) {
             trees.emplace(name, *std::move(tree));
         } else {
             leftOut.push_back(name);

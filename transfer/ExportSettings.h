@@ -8,11 +8,11 @@
 namespace tarnwick {
 
 class ApplicationBundle;
-class Clock;
+class FileContents;
 class FileManager;
-class FileTrees;
 class KnownFolders;
 class LocalPreferences;
+class RunLoop;
 
 struct ExportedSettings {
     /// See SettingsDocument.h.
@@ -24,9 +24,10 @@ struct ExportedSettings {
 /// Puts the settings together as they are stored. Changes nothing.
 class ExportSettings {
 public:
-    ExportSettings(const LocalPreferences& local, const FileManager& files, const FileTrees& trees,
-        const KnownFolders& folders, const ApplicationBundle& bundle, const Clock& clock)
-        : local_(local), files_(files), trees_(trees), folders_(folders), bundle_(bundle), clock_(clock) {}
+    ExportSettings(const LocalPreferences& local, const FileManager& files, const FileContents& contents,
+        const KnownFolders& folders, const ApplicationBundle& bundle, const RunLoop& clock)
+        : local_(local), files_(files), contents_(contents), folders_(folders), bundle_(bundle),
+          clock_(clock) {}
 
     [[nodiscard]] ExportedSettings collect() const;
 
@@ -37,10 +38,10 @@ private:
 
     const LocalPreferences& local_;
     const FileManager& files_;
-    const FileTrees& trees_;
+    const FileContents& contents_;
     const KnownFolders& folders_;
     const ApplicationBundle& bundle_;
-    const Clock& clock_;
+    const RunLoop& clock_;
 };
 
 } // namespace tarnwick

@@ -3,7 +3,7 @@
 #include "editing/ListEditor.h"
 #include "editing/RuleTables.h"
 #include "editing/StepNames.h"
-#include "platform/FileTrees.h"
+#include "platform/FileContents.h"
 #include "prefs/HeldFiles.h"
 #include "prefs/LocalPreferences.h"
 #include "prefs/RuleList.h"
@@ -15,7 +15,7 @@ namespace tarnwick {
 
 bool ImportSettings::apply(const ImportPlan& plan) {
     const auto place = held_.newPlace();
-    if (!place || !trees_.write(*place, PlistValue(plan.templateFiles))) {
+    if (!place || !contents_.writeTree(*place, PlistValue(plan.templateFiles))) {
         return false;
     }
     const UndoSteps::Group step(editor_.steps(), stepName());

@@ -5,7 +5,7 @@
 
 namespace tarnwick {
 
-class FileTrees;
+class FileContents;
 class HeldFiles;
 class ListEditor;
 class LocalPreferences;
@@ -15,9 +15,9 @@ class StepNames;
 /// Makes the settings what a plan asks for, in one step of undo.
 class ImportSettings {
 public:
-    ImportSettings(LocalPreferences& local, FileTrees& trees, HeldFiles& held, ListEditor& editor,
+    ImportSettings(LocalPreferences& local, FileContents& contents, HeldFiles& held, ListEditor& editor,
         RuleTables& tables, const StepNames& names)
-        : local_(local), trees_(trees), held_(held), editor_(editor), tables_(tables), names_(names) {}
+        : local_(local), contents_(contents), held_(held), editor_(editor), tables_(tables), names_(names) {}
 
     /// Order: the template files, made ready where held files are; the switches that change, into
     /// `LocalPreferences` alone; then each list with its files, in the order of an edited row, and without a
@@ -31,7 +31,7 @@ private:
     [[nodiscard]] std::string stepName() const;
 
     LocalPreferences& local_;
-    FileTrees& trees_;
+    FileContents& contents_;
     HeldFiles& held_;
     ListEditor& editor_;
     RuleTables& tables_;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/FileStatus.h"
+#include "platform/FileManager.h"
 
 #include <set>
 #include <string>
@@ -14,7 +14,7 @@ class RunLoop;
 /// that let a look wait is spared: it is not looked at again until the user comes back to the application.
 class FileLooks {
 public:
-    FileLooks(const FileStatus& files, const RunLoop& clock) : files_(files), clock_(clock) {}
+    FileLooks(const FileManager& files, const RunLoop& clock) : files_(files), clock_(clock) {}
 
     /// As last seen; unknown when it never was. Looks at nothing.
     [[nodiscard]] FileKind known(const std::string& path) const;
@@ -23,7 +23,7 @@ public:
     void forgetSlowVolumes() { slowVolumes_.clear(); }
 
 private:
-    const FileStatus& files_;
+    const FileManager& files_;
     const RunLoop& clock_;
     std::unordered_map<std::string, FileKind> known_;
     std::set<std::string, std::less<>> slowVolumes_;

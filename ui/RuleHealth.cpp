@@ -28,7 +28,7 @@ bool hasFolder(const RuleRecord& record) {
 } // namespace
 
 RuleHealth::RuleHealth(const RuleLists& lists, const KnownFolders& folders, const ApplicationBundle& bundle,
-    const FileStatus& files, Images& images, RunLoop& runLoop, FaultDisplay& display)
+    const FileManager& files, Images& images, RunLoop& runLoop, FaultDisplay& display)
     : lists_(lists), folders_(folders), bundle_(bundle), runLoop_(runLoop), display_(display),
       files_(files, runLoop),
       pictures_(PerCategory<PictureLooks>::madeBy([&images](RuleCategory) { return PictureLooks(images); })) {

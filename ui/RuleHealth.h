@@ -24,7 +24,7 @@ class RuleRecord;
 class RuleHealth {
 public:
     RuleHealth(const RuleLists& lists, const KnownFolders& folders, const ApplicationBundle& bundle,
-        const FileStatus& files, Images& images, RunLoop& runLoop, FaultDisplay& display);
+        const FileManager& files, Images& images, RunLoop& runLoop, FaultDisplay& display);
 
     void watch();
     /// The page of this list is shown now, or one without a list.

@@ -33,8 +33,8 @@ SettingsController::SettingsController(const Ports& ports, SettingsWindow& windo
       rows_(preferences_.lists, ports.folders, ports.bundle, ports.images),
       finding_(preferences_.lists, rows_, ports.bundle, editing_.editor, window),
       commands_(*this, preferences_, editing_, ports.workspace, window),
-      health_(preferences_.lists, ports.folders, ports.bundle, ports.fileStatus, ports.images, ports.runLoop,
-          window),
+      health_(
+          preferences_.lists, ports.folders, ports.bundle, ports.files, ports.images, ports.runLoop, window),
       remarks_(preferences_.lists, health_, ports.bundle),
       preview_(preferences_.lists, preferences_.local, rows_, ports.folders, ports.bundle, ports.images),
       notices_(integration_.finderExtension, ports.bundle, ports.workspace, ports.preferences) {

@@ -2,10 +2,10 @@
 
 #include "editing/ListEditor.h"
 #include "platform/ApplicationBundle.h"
-#include "platform/Clock.h"
+#include "platform/FileContents.h"
 #include "platform/Panels.h"
 #include "platform/Ports.h"
-#include "platform/PropertyListFiles.h"
+#include "platform/RunLoop.h"
 #include "prefs/Preferences.h"
 #include "transfer/UnderstandSettings.h"
 #include "ui/ImportTexts.h"
@@ -40,10 +40,10 @@ ImportFault faultOf(ListFileFault fault) {
 
 SettingsTransfer::SettingsTransfer(const Ports& ports, Preferences& preferences, ListEditor& editor,
     RuleTables& tables, const StepNames& names)
-    : exporting_(preferences.local, ports.files, ports.trees, ports.folders, ports.bundle, ports.clock),
-      importing_(preferences.local, ports.trees, preferences.held, editor, tables, names),
-      lists_(preferences.lists), panels_(ports.panels), files_(ports.listFiles), images_(ports.images),
-      bundle_(ports.bundle), clock_(ports.clock), editor_(editor) {}
+    : exporting_(preferences.local, ports.files, ports.contents, ports.folders, ports.bundle, ports.runLoop),
+      importing_(preferences.local, ports.contents, preferences.held, editor, tables, names),
+      lists_(preferences.lists), panels_(ports.panels), contents_(ports.contents), images_(ports.images),
+      bundle_(ports.bundle), clock_(ports.runLoop), editor_(editor) {}
 
 void SettingsTransfer::exportSettings() {
     exportSettings([] {});
@@ -65,7 +65,7 @@ void SettingsTransfer::exportSettings(std::function<void()> then) {
 void SettingsTransfer::exportTo(const std::string& path) {
     editor_.endEditing();
     const auto exported = exporting_.collect();
-    switch (files_.write(path, exported.document)) {
+    switch (contents_.writeList(path, exported.document)) {
     case ListFileWriting::done:
         break;
     case ListFileWriting::tooLarge:
@@ -99,7 +99,7 @@ void SettingsTransfer::importSettings() {
 }
 
 void SettingsTransfer::importFrom(const std::string& path) {
-    const auto content = files_.read(path);
+    const auto content = contents_.readList(path);
     if (const auto* fault = std::get_if<ListFileFault>(&content)) {
         refuse(faultOf(*fault));
         return;

@@ -11,13 +11,13 @@
 namespace tarnwick {
 
 class ApplicationBundle;
-class Clock;
+class FileContents;
 class Images;
 class ListEditor;
 class Panels;
-class PropertyListFiles;
 class RuleLists;
 class RuleTables;
+class RunLoop;
 class StepNames;
 struct Ports;
 struct Preferences;
@@ -49,10 +49,10 @@ private:
     ImportSettings importing_;
     const RuleLists& lists_;
     Panels& panels_;
-    PropertyListFiles& files_;
+    FileContents& contents_;
     Images& images_;
     const ApplicationBundle& bundle_;
-    const Clock& clock_;
+    const RunLoop& clock_;
     ListEditor& editor_;
 };
 

@@ -5,16 +5,13 @@
 namespace tarnwick {
 
 class ApplicationBundle;
-class Clock;
+class FileContents;
 class FileManager;
-class FileTrees;
-class FileStatus;
 class Images;
 class KnownFolders;
 class Panels;
 class PreferenceStores;
 class Process;
-class PropertyListFiles;
 class SystemLog;
 class Workspace;
 
@@ -22,9 +19,7 @@ class Workspace;
 
 [[nodiscard]] std::unique_ptr<PreferenceStores> makePreferenceStores();
 [[nodiscard]] std::unique_ptr<FileManager> makeFileManager();
-[[nodiscard]] std::unique_ptr<FileTrees> makeFileTrees();
-[[nodiscard]] std::unique_ptr<PropertyListFiles> makePropertyListFiles();
-[[nodiscard]] std::unique_ptr<FileStatus> makeFileStatus();
+[[nodiscard]] std::unique_ptr<FileContents> makeFileContents();
 [[nodiscard]] std::unique_ptr<KnownFolders> makeKnownFolders();
 [[nodiscard]] std::unique_ptr<ApplicationBundle> makeApplicationBundle();
 [[nodiscard]] std::unique_ptr<Images> makeImages();
@@ -32,6 +27,5 @@ class Workspace;
 [[nodiscard]] std::unique_ptr<Workspace> makeWorkspace();
 [[nodiscard]] std::unique_ptr<SystemLog> makeSystemLog();
 [[nodiscard]] std::unique_ptr<Process> makeProcess();
-[[nodiscard]] std::unique_ptr<Clock> makeClock();
 
 } // namespace tarnwick

@@ -27,6 +27,8 @@ public:
     std::string path() const override { return toString([bundle() bundlePath]); }
     bool carriesExtension() const override { return tarnwick::carriesExtension(); }
     bool isLoginItem() const override { return [bundle() isLoginItem]; }
+    bool isExtensionEnabled() const override { return tarnwick::isExtensionEnabled(); }
+    void showExtensionManagementInterface() override { tarnwick::showExtensionManagementInterface(); }
 
 private:
     static NSBundle *bundle() { return [NSBundle mainBundle]; }

@@ -1,12 +1,14 @@
-#import "adapters/foundation/PlistConversion.h"
 #import "adapters/foundation/StringConversion.h"
 
 #include "adapters/foundation/Adapters.h"
+#include "adapters/foundation/FileTrees.h"
 #include "platform/FileManager.h"
 
 #import <Foundation/Foundation.h>
 
+#include <cerrno>
 #include <cstdio>
+#include <sys/stat.h>
 
 namespace tarnwick {
 namespace {
@@ -16,14 +18,26 @@ public:
     bool exists(const std::string &path) const override {
         return [manager() fileExistsAtPath:toNSString(path)];
     }
+    FileKind kindOf(const std::string &path) const override {
+        struct stat status {};
+        if (::stat(path.c_str(), &status) == 0) {
+            return S_ISDIR(status.st_mode) ? FileKind::folder : FileKind::file;
+        }
+        return errno == ENOENT || errno == ENOTDIR ? FileKind::missing : FileKind::unknown;
+    }
+    std::vector<std::string> namesIn(const std::string &folder) const override {
+        return namesInFolder(folder).value_or(std::vector<std::string>());
+    }
     bool remove(const std::string &path) override {
         return [manager() removeItemAtPath:toNSString(path) error:nullptr];
     }
     bool createFolder(const std::string &path) override {
-        return [manager() createDirectoryAtPath:toNSString(path)
-                    withIntermediateDirectories:YES
-                                     attributes:nil
-                                          error:nullptr];
+        const bool isDone = [manager() createDirectoryAtPath:toNSString(path)
+                                 withIntermediateDirectories:YES
+                                                  attributes:nil
+                                                       error:nullptr];
+        // GNUstep takes a file in the folder's place for one.
+        return isDone && kindOf(path) == FileKind::folder;
     }
     bool copy(const std::string &from, const std::string &to) override {
         return !exists(to) && [manager() copyItemAtPath:toNSString(from) toPath:toNSString(to) error:nullptr];
@@ -34,18 +48,6 @@ public:
     bool rename(const std::string &from, const std::string &to) override {
         return !exists(to) && std::rename([toNSString(from) fileSystemRepresentation],
                                   [toNSString(to) fileSystemRepresentation]) == 0;
-    }
-    std::optional<PlistValue> propertyList(const std::string &path) const override {
-        NSData *bytes = [NSData dataWithContentsOfFile:toNSString(path)];
-        if (!bytes) {
-            return std::nullopt;
-        }
-        NSPropertyListFormat format = NSPropertyListXMLFormat_v1_0;
-        NSError *error = nil;
-        return toPlistValue([NSPropertyListSerialization propertyListWithData:bytes
-                                                                      options:NSPropertyListImmutable
-                                                                       format:&format
-                                                                        error:&error]);
     }
 
 private:

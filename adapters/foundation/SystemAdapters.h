@@ -8,7 +8,6 @@
 namespace tarnwick {
 
 class DistributedNotifications;
-class FinderSync;
 class RunLoop;
 class UserScripts;
 
@@ -17,15 +16,16 @@ class UserScripts;
 /// What must happen before anything else of the toolkit is touched, first of all in `main`.
 void prepareProcess(int argc, char* argv[]);
 
-[[nodiscard]] std::unique_ptr<FinderSync> makeFinderSync();
 [[nodiscard]] std::unique_ptr<UserScripts> makeUserScripts();
 [[nodiscard]] std::unique_ptr<DistributedNotifications> makeDistributedNotifications();
 [[nodiscard]] std::unique_ptr<RunLoop> makeRunLoop();
 
-/// Answers that the ports over Foundation and AppKit pass on.
+/// What the ports over Foundation and AppKit pass on.
 [[nodiscard]] RegisteredApplications registeredApplications(std::string_view bundleIdentifier);
 [[nodiscard]] bool isSystemAtLeast(int major, int minor, int patch);
 [[nodiscard]] bool carriesExtension();
+[[nodiscard]] bool isExtensionEnabled();
+void showExtensionManagementInterface();
 [[nodiscard]] bool isForced(std::string_view key);
 
 } // namespace tarnwick

@@ -1,5 +1,6 @@
 #import "adapters/foundation/DeferredWork.h"
 
+#include "adapters/foundation/Clocks.h"
 #include "adapters/foundation/SystemAdapters.h"
 #include "platform/RunLoop.h"
 
@@ -22,6 +23,8 @@ public:
         [NSRunLoop mainRunLoop];
     }
     double now() const override { return steadySeconds(); }
+    PlistDate date() const override { return dateNow(); }
+    std::string today() const override { return localDay(); }
     void performAfterDelay(double seconds, std::function<void()> work) override {
         [[TNDeferredWork deferredWork:std::move(work)] performSelector:@selector(run:)
                                                             withObject:nil

@@ -5,6 +5,8 @@
 
 namespace tarnwick {
 
+// Unless a test says otherwise:
+
 /// Linux keeps no register of applications by bundle identifier.
 RegisteredApplications registeredApplications(std::string_view) {
     RegisteredApplications applications;
@@ -16,6 +18,15 @@ RegisteredApplications registeredApplications(std::string_view) {
 
 bool carriesExtension() {
     return ![standInAnswer(@"carriesNoExtension") boolValue];
+}
+
+/// There is no Finder here whose extension could be switched off.
+bool isExtensionEnabled() {
+    return ![standInAnswer(@"extensionIsOff") boolValue];
+}
+
+void showExtensionManagementInterface() {
+    NSLog(@"no Finder extensions on this system: there is no management screen");
 }
 
 /// Nobody administers settings here.

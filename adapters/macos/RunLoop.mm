@@ -1,5 +1,6 @@
 #import "adapters/foundation/DeferredWork.h"
 
+#include "adapters/foundation/Clocks.h"
 #include "adapters/foundation/SystemAdapters.h"
 #include "platform/RunLoop.h"
 
@@ -13,6 +14,8 @@ namespace {
 class DispatchQueues final : public RunLoop {
 public:
     double now() const override { return steadySeconds(); }
+    PlistDate date() const override { return dateNow(); }
+    std::string today() const override { return localDay(); }
     void performAfterDelay(double seconds, std::function<void()> work) override {
         TNDeferredWork *later = [TNDeferredWork deferredWork:std::move(work)];
         [later performSelector:@selector(run:) withObject:nil afterDelay:seconds];

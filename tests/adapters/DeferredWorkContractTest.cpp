@@ -4,9 +4,12 @@
 #include "adapters/foundation/SystemAdapters.h"
 #include "platform/DistributedNotifications.h"
 #include "platform/RunLoop.h"
-#include "tests/support/InMemorySystem.h"
+#include "tests/support/InMemoryNotifications.h"
+#include "tests/support/InMemoryRunLoop.h"
 
 #include <atomic>
+#include <ctime>
+#include <regex>
 
 namespace tarnwick::testing {
 namespace {
@@ -78,7 +81,36 @@ TEST_P(RunLoopContract, WorkInTheBackgroundIsDoneAndMayQueueMoreForTheMainThread
     EXPECT_TRUE(harness_.work([&done] { return done.load(); }));
 }
 
+TEST_P(RunLoopContract, TheSteadyClockNeverGoesBack) {
+    const auto before = harness_.port().now();
+    EXPECT_GE(before, 0);
+    EXPECT_GE(harness_.port().now(), before);
+}
+
+TEST_P(RunLoopContract, WorkThatIsDelayedIsDoneOnceThatTimeHasPassed) {
+    auto& loop = harness_.port();
+    const auto before = loop.now();
+    double done = -1;
+    loop.performAfterDelay(0.05, [&] { done = loop.now(); });
+    EXPECT_TRUE(harness_.work([&done] { return done >= 0; }));
+    EXPECT_GE(done - before, 0.05);
+}
+
+TEST_P(RunLoopContract, TheDateIsTheOneThatTheUserSees) {
+    EXPECT_GT(harness_.port().date().secondsSinceReferenceDate, 0);
+    const auto day = harness_.port().today();
+    EXPECT_TRUE(std::regex_match(day, std::regex("20\\d\\d-[01]\\d-[0-3]\\d"))) << day;
+}
+
 TARNWICK_BOTH_IMPLEMENTATIONS(RunLoopContract);
+
+TEST(SystemClock, GoesWithTheSystems) {
+    constexpr double from1970To2001 = 978'307'200;
+    const auto before = static_cast<double>(std::time(nullptr));
+    const auto now = makeRunLoop()->date().secondsSinceReferenceDate + from1970To2001;
+    EXPECT_GE(now, before);
+    EXPECT_LE(now, static_cast<double>(std::time(nullptr)) + 1);
+}
 
 class Centre {
 public:

@@ -1,80 +1,21 @@
-#include "Pool.h"
-
-#include "adapters/foundation/Adapters.h"
 #include "platform/FileManager.h"
-#include "tests/support/InMemoryFiles.h"
-
-#include <gtest/gtest.h>
-
-#include <cstdlib>
-#include <fstream>
-#include <iterator>
-#include <memory>
-#include <ostream>
-#include <sys/stat.h>
+#include "tests/adapters/WorkFolder.h"
 
 namespace tarnwick::testing {
 namespace {
 
-/// One implementation of the port with a folder to work in.
-struct Files {
-    virtual ~Files() = default;
-    virtual FileManager& manager() = 0;
-    virtual std::string folder() = 0;
-    virtual void write(const std::string& path, const std::string& content) = 0;
-    virtual std::string read(const std::string& path) = 0;
-};
+using Names = std::vector<std::string>;
 
-struct InMemory final : Files {
-    CallLog log;
-    InMemoryFiles files{log};
-
-    InMemory() { files.folders.insert("/work"); }
-    FileManager& manager() override { return files; }
-    std::string folder() override { return "/work"; }
-    void write(const std::string& path, const std::string& content) override { files.files[path] = content; }
-    std::string read(const std::string& path) override { return files.files.at(path); }
-};
-
-struct OnDisk final : Files {
-    std::unique_ptr<FileManager> files = makeFileManager();
-    std::string root = std::string(std::getenv("TARNWICK_USER_FOLDER")) + "/contract-XXXXXX";
-
-    OnDisk() { EXPECT_NE(mkdtemp(root.data()), nullptr); }
-    ~OnDisk() override { files->remove(root); }
-    FileManager& manager() override { return *files; }
-    std::string folder() override { return root; }
-    void write(const std::string& path, const std::string& content) override {
-        std::ofstream(path) << content;
-    }
-    std::string read(const std::string& path) override {
-        std::ifstream stream(path);
-        return {std::istreambuf_iterator<char>(stream), {}};
-    }
-};
-
-struct Implementation {
-    const char* name;
-    std::unique_ptr<Files> (*make)();
-};
-
-void PrintTo(const Implementation& implementation, std::ostream* stream) {
-    *stream << implementation.name;
-}
-
-class FileManagerContract : public ::testing::TestWithParam<Implementation> {
+class FileManagerContract : public Contract<WorkFolder> {
 protected:
-    [[nodiscard]] std::string at(const std::string& name) { return files->folder() + "/" + name; }
-    FileManager& manager() { return files->manager(); }
-
-    Pool pool;
-    std::unique_ptr<Files> files = GetParam().make();
+    [[nodiscard]] std::string at(const std::string& name) { return harness_.at(name); }
+    FileManager& manager() { return harness_.files(); }
 };
 
 TEST_P(FileManagerContract, FilesAndFoldersExist) {
-    EXPECT_TRUE(manager().exists(files->folder()));
+    EXPECT_TRUE(manager().exists(harness_.path()));
     EXPECT_FALSE(manager().exists(at("a")));
-    files->write(at("a"), "1");
+    harness_.write("a", "1");
     EXPECT_TRUE(manager().exists(at("a")));
 }
 
@@ -86,7 +27,7 @@ TEST_P(FileManagerContract, AFolderIsMadeWithThoseAboveIt) {
 
 TEST_P(FileManagerContract, RemovingAFolderTakesItsContents) {
     manager().createFolder(at("one/two"));
-    files->write(at("one/two/a"), "1");
+    harness_.write("one/two/a", "1");
     EXPECT_TRUE(manager().remove(at("one")));
     EXPECT_FALSE(manager().exists(at("one/two/a")));
     EXPECT_FALSE(manager().exists(at("one")));
@@ -100,62 +41,118 @@ TEST_P(FileManagerContract, WhatIsNotThereCannotBeRemovedCopiedOrMoved) {
 }
 
 TEST_P(FileManagerContract, ACopyLeavesTheOriginal) {
-    files->write(at("a"), "1");
+    harness_.write("a", "1");
     EXPECT_TRUE(manager().copy(at("a"), at("b")));
-    EXPECT_EQ(files->read(at("a")), "1");
-    EXPECT_EQ(files->read(at("b")), "1");
+    EXPECT_EQ(harness_.read("a"), "1");
+    EXPECT_EQ(harness_.read("b"), "1");
 }
 
 TEST_P(FileManagerContract, AMoveTakesTheOriginalAway) {
-    files->write(at("a"), "1");
+    harness_.write("a", "1");
     EXPECT_TRUE(manager().move(at("a"), at("b")));
     EXPECT_FALSE(manager().exists(at("a")));
-    EXPECT_EQ(files->read(at("b")), "1");
+    EXPECT_EQ(harness_.read("b"), "1");
 }
 
 TEST_P(FileManagerContract, NothingIsEverOverwritten) {
-    files->write(at("a"), "1");
-    files->write(at("b"), "2");
+    harness_.write("a", "1");
+    harness_.write("b", "2");
     EXPECT_FALSE(manager().copy(at("a"), at("b")));
     EXPECT_FALSE(manager().move(at("a"), at("b")));
-    EXPECT_EQ(files->read(at("a")), "1");
-    EXPECT_EQ(files->read(at("b")), "2");
+    EXPECT_EQ(harness_.read("a"), "1");
+    EXPECT_EQ(harness_.read("b"), "2");
 }
 
 TEST_P(FileManagerContract, ARenamedFolderTakesItsContentsAlong) {
     manager().createFolder(at("one/two"));
-    files->write(at("one/two/a"), "1");
+    harness_.write("one/two/a", "1");
     EXPECT_TRUE(manager().rename(at("one"), at("\u8868")));
     EXPECT_FALSE(manager().exists(at("one")));
-    EXPECT_EQ(files->read(at("\u8868/two/a")), "1");
+    EXPECT_EQ(harness_.read("\u8868/two/a"), "1");
 }
 
 TEST_P(FileManagerContract, RenamingNeitherOverwritesNorMakesAnything) {
-    files->write(at("a"), "1");
-    files->write(at("b"), "2");
+    harness_.write("a", "1");
+    harness_.write("b", "2");
     manager().createFolder(at("empty"));
     EXPECT_FALSE(manager().rename(at("a"), at("b")));
     EXPECT_FALSE(manager().rename(at("one"), at("empty")));
     EXPECT_FALSE(manager().rename(at("one"), at("two")));
     EXPECT_FALSE(manager().rename(at("a"), at("no folder/a")));
-    EXPECT_EQ(files->read(at("a")), "1");
-    EXPECT_EQ(files->read(at("b")), "2");
+    EXPECT_EQ(harness_.read("a"), "1");
+    EXPECT_EQ(harness_.read("b"), "2");
     EXPECT_FALSE(manager().exists(at("two")));
 }
 
 TEST_P(FileManagerContract, NamesOfAnyScriptWork) {
-    const auto name = at("\u8868\u683c \U0001F5C2 e\u0301.txt");
-    files->write(name, "1");
-    EXPECT_TRUE(manager().exists(name));
-    EXPECT_TRUE(manager().move(name, at("b")));
-    EXPECT_EQ(files->read(at("b")), "1");
+    const std::string name = "\u8868\u683c \U0001F5C2 e\u0301.txt";
+    harness_.write(name, "1");
+    EXPECT_TRUE(manager().exists(at(name)));
+    EXPECT_TRUE(manager().move(at(name), at("b")));
+    EXPECT_EQ(harness_.read("b"), "1");
 }
 
-INSTANTIATE_TEST_SUITE_P(Every, FileManagerContract,
-    ::testing::Values(
-        Implementation{"InMemory", []() -> std::unique_ptr<Files> { return std::make_unique<InMemory>(); }},
-        Implementation{"Foundation", []() -> std::unique_ptr<Files> { return std::make_unique<OnDisk>(); }}),
-    [](const auto& info) { return std::string(info.param.name); });
+TEST_P(FileManagerContract, AFolderIsNotMadeWhereAFileStandsOrBelowOne) {
+    harness_.write("a", "1");
+    EXPECT_FALSE(manager().createFolder(at("a")));
+    EXPECT_FALSE(manager().createFolder(at("a/b")));
+    EXPECT_EQ(harness_.read("a"), "1");
+}
+
+TEST_P(FileManagerContract, APackageIsCopiedAndMovedWithItsContents) {
+    manager().createFolder(at("a.pages/Data"));
+    harness_.write("a.pages/Data/1", "one");
+    EXPECT_TRUE(manager().copy(at("a.pages"), at("b.pages")));
+    EXPECT_TRUE(manager().move(at("a.pages"), at("c.pages")));
+    EXPECT_EQ(harness_.read("b.pages/Data/1"), "one");
+    EXPECT_EQ(harness_.read("c.pages/Data/1"), "one");
+    EXPECT_EQ(manager().namesIn(harness_.path()), (Names{"b.pages", "c.pages"}));
+}
+
+TEST_P(FileManagerContract, NothingIsPutWhereThereIsNoFolder) {
+    harness_.write("a", "1");
+    EXPECT_FALSE(manager().copy(at("a"), at("none/a")));
+    EXPECT_FALSE(manager().move(at("a"), at("none/a")));
+    EXPECT_EQ(manager().namesIn(harness_.path()), Names{"a"});
+}
+
+TEST_P(FileManagerContract, TheKindOfWhatIsThereIsKnown) {
+    harness_.write("a", "1");
+    manager().createFolder(at("folder"));
+    EXPECT_EQ(manager().kindOf(at("a")), FileKind::file);
+    EXPECT_EQ(manager().kindOf(at("folder")), FileKind::folder);
+    EXPECT_EQ(manager().kindOf(at("none")), FileKind::missing);
+    EXPECT_EQ(manager().kindOf(at("a/b")), FileKind::missing) << "below a file";
+    EXPECT_EQ(manager().kindOf(""), FileKind::missing);
+}
+
+TEST_P(FileManagerContract, ALinkStandsForWhatItLeadsTo) {
+    harness_.write("a", "1");
+    manager().createFolder(at("folder"));
+    harness_.link("to a", at("a"));
+    harness_.link("to folder", at("folder"));
+    harness_.link("to nothing", at("none"));
+    EXPECT_EQ(manager().kindOf(at("to a")), FileKind::file);
+    EXPECT_EQ(manager().kindOf(at("to folder")), FileKind::folder);
+    EXPECT_EQ(manager().kindOf(at("to nothing")), FileKind::missing);
+    EXPECT_TRUE(manager().exists(at("to a")));
+    EXPECT_FALSE(manager().exists(at("to nothing")));
+    EXPECT_TRUE(manager().remove(at("to a")));
+    EXPECT_TRUE(manager().exists(at("a")));
+}
+
+TEST_P(FileManagerContract, NamesAreSortedAndThoseOfTheFolderAlone) {
+    manager().createFolder(at("b/inner"));
+    harness_.write("b/inner/deep", "1");
+    harness_.write("c", "1");
+    harness_.write(".a", "1");
+    harness_.link("d", at("none"));
+    EXPECT_EQ(manager().namesIn(harness_.path()), (Names{".a", "b", "c", "d"}));
+    EXPECT_EQ(manager().namesIn(at("c")), Names());
+    EXPECT_EQ(manager().namesIn(at("none")), Names());
+}
+
+TARNWICK_BOTH_IMPLEMENTATIONS(FileManagerContract);
 
 } // namespace
 } // namespace tarnwick::testing

@@ -1,17 +1,13 @@
 #include "Pool.h"
 
 #include "adapters/foundation/Adapters.h"
-#include "platform/Clock.h"
-#include "platform/FileManager.h"
 #include "platform/Images.h"
 #include "platform/Process.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <ctime>
 #include <fstream>
-#include <regex>
 
 namespace tarnwick::testing {
 namespace {
@@ -39,34 +35,6 @@ TEST_F(SystemAdaptersTest, ATaskGivesWhatItsProgramWrote) {
 
 TEST_F(SystemAdaptersTest, ATaskWithALotToSayIsReadToItsEnd) {
     EXPECT_EQ(makeProcess()->output("/bin/sh", {"-c", "head -c 1000000 /dev/zero"}).size(), 1'000'000U);
-}
-
-TEST_F(SystemAdaptersTest, TheClockGoesWithTheSystemsAndKnowsTheDay) {
-    constexpr double from1970To2001 = 978'307'200;
-    const auto clock = makeClock();
-    const auto before = static_cast<double>(std::time(nullptr));
-    const auto now = clock->now().secondsSinceReferenceDate + from1970To2001;
-    EXPECT_GE(now, before);
-    EXPECT_LE(now, static_cast<double>(std::time(nullptr)) + 1);
-    EXPECT_TRUE(std::regex_match(clock->today(), std::regex("20\\d\\d-[01]\\d-[0-3]\\d"))) << clock->today();
-}
-
-TEST_F(SystemAdaptersTest, PropertyListsAreReadInEveryFormat) {
-    const auto files = makeFileManager();
-    EXPECT_EQ(files->propertyList(
-                  file("xml.plist", "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict><key>on</key><true/>"
-                                    "<key>one</key><integer>1</integer></dict></plist>")),
-        PlistValue(PlistDictionary{{"on", true}, {"one", 1}}));
-    EXPECT_EQ(files->propertyList(file("text.plist", "{ name = value; }")),
-        PlistValue(PlistDictionary{{"name", "value"}}));
-}
-
-TEST_F(SystemAdaptersTest, WhatIsNoPropertyListHasNoValue) {
-    const auto files = makeFileManager();
-    EXPECT_FALSE(files->propertyList("/nowhere/at all"));
-    EXPECT_FALSE(files->propertyList(file("empty.plist", "")));
-    EXPECT_FALSE(files->propertyList(
-        file("damaged.plist", "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict><key>")));
 }
 
 TEST_F(SystemAdaptersTest, DamagedPicturesOfAnyFormatGiveNone) {

@@ -4,8 +4,10 @@
 #include "adapters/foundation/Adapters.h"
 #include "adapters/foundation/SystemAdapters.h"
 #include "platform/UserScript.h"
-#include "tests/support/InMemoryFiles.h"
+#include "tests/support/InMemoryBundle.h"
+#include "tests/support/InMemoryFolders.h"
 #include "tests/support/InMemorySystem.h"
+#include "tests/support/InMemoryWorkspace.h"
 
 #include <cstdlib>
 #include <fstream>
@@ -22,7 +24,6 @@ public:
 
     SystemLog& log() { return pick<SystemLog>(*realLog_, memoryLog_); }
     Process& process() { return pick<Process>(*realProcess_, memoryProcess_); }
-    FinderSync& finderSync() { return pick<FinderSync>(*realFinderSync_, memoryFinderSync_); }
     ApplicationBundle& bundle() { return pick<ApplicationBundle>(*realBundle_, memoryBundle_); }
     KnownFolders& folders() { return pick<KnownFolders>(*realFolders_, memoryFolders_); }
     UserScripts& scripts() { return pick<UserScripts>(*realScripts_, memoryScripts_); }
@@ -67,14 +68,12 @@ private:
     CallLog calls_;
     InMemorySystemLog memoryLog_{calls_};
     InMemoryProcess memoryProcess_{calls_};
-    InMemoryFinderSync memoryFinderSync_{calls_};
-    InMemoryBundle memoryBundle_;
+    InMemoryBundle memoryBundle_{calls_};
     InMemoryFolders memoryFolders_;
     InMemoryUserScripts memoryScripts_{calls_};
     InMemoryWorkspace memoryWorkspace_{calls_};
     std::unique_ptr<SystemLog> realLog_ = makeSystemLog();
     std::unique_ptr<Process> realProcess_ = makeProcess();
-    std::unique_ptr<FinderSync> realFinderSync_ = makeFinderSync();
     std::unique_ptr<ApplicationBundle> realBundle_ = makeApplicationBundle();
     std::unique_ptr<KnownFolders> realFolders_ = makeKnownFolders();
     std::unique_ptr<UserScripts> realScripts_ = makeUserScripts();
@@ -101,9 +100,9 @@ TEST_P(SystemContract, AnOlderSystemIsNoNewerOne) {
 }
 
 TEST_P(SystemContract, TheExtensionIsEnabledAndItsSettingsMayBeAskedFor) {
-    EXPECT_TRUE(harness_.finderSync().isExtensionEnabled());
-    harness_.finderSync().showExtensionManagementInterface();
-    EXPECT_TRUE(harness_.finderSync().isExtensionEnabled());
+    EXPECT_TRUE(harness_.bundle().isExtensionEnabled());
+    harness_.bundle().showExtensionManagementInterface();
+    EXPECT_TRUE(harness_.bundle().isExtensionEnabled());
 }
 
 TEST_P(SystemContract, ATextThatNoTableHoldsStandsForItself) {

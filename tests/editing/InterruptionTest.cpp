@@ -51,7 +51,7 @@ public:
     void redo() { platform_.undoHistory.redo(); }
     /// The temporary folder lies on a volume of its own.
     void keepTemporaryFilesElsewhere() { platform_.files.volumes.insert("/tmp"); }
-    [[nodiscard]] bool isAnythingHeld() const { return !platform_.trees.namesIn("/tmp").empty(); }
+    [[nodiscard]] bool isAnythingHeld() const { return !platform_.files.namesIn("/tmp").empty(); }
     [[nodiscard]] std::string contentOf(const std::string& name) const {
         const auto found = platform_.files.files.find(templates + "/" + name);
         return found == platform_.files.files.end() ? "" : found->second;
@@ -85,7 +85,8 @@ public:
     }
     /// Files of the folder that are no record's template and no icon.
     [[nodiscard]] std::set<std::string> strangers() const {
-        auto names = platform_.files.namesIn(templates);
+        const auto all = platform_.files.namesIn(templates);
+        std::set<std::string> names(all.begin(), all.end());
         for (const auto& name : templateNames()) {
             names.erase(name);
         }

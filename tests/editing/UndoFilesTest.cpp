@@ -119,11 +119,11 @@ TEST_F(UndoFilesTest, FilesComeBackFromAnotherVolumeToo) {
         undo();
         undo();
         EXPECT_TRUE(everything() == before);
-        EXPECT_EQ(platform_.trees.namesIn(held).size(), 1U);
+        EXPECT_EQ(platform_.files.namesIn(held).size(), 1U);
         redo();
         redo();
         EXPECT_TRUE(everything() == after);
-        EXPECT_EQ(platform_.trees.namesIn(held).size(), 2U);
+        EXPECT_EQ(platform_.files.namesIn(held).size(), 2U);
     }
 }
 

@@ -3,7 +3,7 @@
 // again.
 
 #include "adapters/foundation/Adapters.h"
-#include "platform/PropertyListFiles.h"
+#include "platform/FileContents.h"
 #include "prefs/PreferenceKeys.h"
 #include "tests/adapters/Pool.h"
 #include "tests/fuzz/Driving.h"
@@ -56,11 +56,11 @@ ListFileContent contentOf(const std::uint8_t* bytes, std::size_t size) {
         FuzzInput input(bytes + 1, size - 1);
         return anyDocument(input);
     }
-    static const auto files = makePropertyListFiles();
+    static const auto contents = makeFileContents();
     static const auto path = "/tmp/tarnwick-import-" + std::to_string(getpid());
     std::ofstream(path, std::ios::binary)
         .write(reinterpret_cast<const char*>(bytes), static_cast<std::streamsize>(size));
-    auto content = files->read(path);
+    auto content = contents->readList(path);
     unlink(path.c_str());
     return content;
 }
@@ -82,7 +82,9 @@ struct Disk {
 PlistValue exported(Program& program, testing::InMemoryPlatform& platform) {
     program.controller().exportSettings();
     platform.panels.confirm({"/exported"});
-    return std::get<PlistValue>(platform.listFiles.files.at("/exported"));
+    auto document = *platform.contents.listAt("/exported");
+    platform.files.erase("/exported");
+    return document;
 }
 
 void import(Program& program, testing::InMemoryPlatform& platform, const ListFileContent& content) {
@@ -90,9 +92,10 @@ void import(Program& program, testing::InMemoryPlatform& platform, const ListFil
     platform.panels.requests.clear();
     platform.panels.saveRequests.clear();
     platform.systemLog.lines.clear();
-    platform.listFiles.files.insert_or_assign("/import", content);
+    platform.contents.putList("/import", content);
     program.controller().importSettings();
     platform.panels.confirm({"/import"});
+    platform.files.erase("/import");
     platform.log.clear();
 }
 

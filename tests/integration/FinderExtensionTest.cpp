@@ -32,16 +32,16 @@ TEST_F(FinderExtensionTest, ThePromptsTextsAreNotLocalised) {
 
 TEST_F(FinderExtensionTest, BeforeTheManagementScreenExistedTheExtensionCountsAsEnabledWithoutAsking) {
     useSystem(10, 13);
-    platform_.finderSync.enabled = false;
+    platform_.bundle.extensionEnabled = false;
     EXPECT_TRUE(integration_.finderExtension.isExtensionEnabled());
     EXPECT_FALSE(platform_.log.holds("ask whether the extension is enabled"));
 }
 
 TEST_F(FinderExtensionTest, FromMojaveOnTheSystemIsAsked) {
     useSystem(10, 14);
-    platform_.finderSync.enabled = false;
+    platform_.bundle.extensionEnabled = false;
     EXPECT_FALSE(integration_.finderExtension.isExtensionEnabled());
-    platform_.finderSync.enabled = true;
+    platform_.bundle.extensionEnabled = true;
     EXPECT_TRUE(integration_.finderExtension.isExtensionEnabled());
 }
 

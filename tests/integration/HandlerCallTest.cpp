@@ -80,7 +80,7 @@ TEST_F(HandlerCallTest, AnErrorOfTheRegisterWithoutAnyCopyIsNotInstalledEither) 
 }
 
 TEST_F(HandlerCallTest, SeveralShortcutFilesAreLoggedAndParsedOneAfterTheOtherEvenUnreadableOnes) {
-    platform_.files.propertyLists.insert_or_assign("/b.plist", PlistValue(PlistDictionary{}));
+    platform_.contents.putList("/b.plist", PlistValue(PlistDictionary{}));
     integration_.tools.chooseSystemShortcuts();
     platform_.log.clear();
     platform_.panels.confirm({"/a.plist", "/b.plist"});

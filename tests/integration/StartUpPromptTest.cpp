@@ -38,7 +38,7 @@ TEST_F(StartUpPromptTest, EnabledWithTheFlagNoOrMissingPromptsAndSetsTheFlag) {
 }
 
 TEST_F(StartUpPromptTest, DisabledPromptsWhateverTheFlagAndSetsIt) {
-    platform_.finderSync.enabled = false;
+    platform_.bundle.extensionEnabled = false;
     for (const auto value : {true, false}) {
         setFlag(value);
         EXPECT_EQ(prompts(), 1U) << value;

@@ -144,7 +144,8 @@ void RandomWalk::check() const {
             ASSERT_EQ(local(facts.enableAllKey), PlistValue(enabled.size() == records.size()));
         }
     }
-    ASSERT_EQ(platform_.files.namesIn(templateFolder), model_.files);
+    ASSERT_EQ(platform_.files.namesIn(templateFolder),
+        std::vector<std::string>(model_.files.begin(), model_.files.end()));
 }
 
 } // namespace tarnwick::testing

@@ -1,6 +1,8 @@
 #include "prefs/FactoryTables.h"
 #include "tests/support/PrefsFixture.h"
 
+#include <algorithm>
+
 namespace tarnwick::testing {
 namespace {
 
@@ -35,8 +37,10 @@ TEST_F(FactoryListsTest, TheTemplateFolderHoldsEveryTemplateAndItsIcon) {
     const auto names = platform_.files.namesIn("/container/Templates/CreateNewFile");
     EXPECT_EQ(names.size(), 30U);
     for (const auto& row : factoryTemplates) {
-        EXPECT_EQ(names.count(std::string(row.displayName) + "." + std::string(row.extension)), 1U);
-        EXPECT_EQ(names.count(std::string(row.extension) + ".png"), 1U);
+        const auto extension = std::string(row.extension);
+        for (const auto& name : {std::string(row.displayName) + "." + extension, extension + ".png"}) {
+            EXPECT_EQ(std::count(names.begin(), names.end(), name), 1) << name;
+        }
     }
 }
 

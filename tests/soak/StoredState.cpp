@@ -1,7 +1,7 @@
 #include "tests/soak/StoredState.h"
 
 #include "adapters/foundation/Adapters.h"
-#include "platform/FileManager.h"
+#include "platform/FileContents.h"
 #include "platform/PreferenceStore.h"
 #include "prefs/PreferenceKeys.h"
 #include "tests/soak/EditingApplication.h"
@@ -46,7 +46,7 @@ RuleModel stateOf(const std::string& sandbox) {
     RuleModel model;
     const auto stores = makePreferenceStores();
     const auto local = stores->openStandardDomain();
-    const auto factory = makeFileManager()->propertyList(sandbox + "/factory.plist");
+    const auto factory = makeFileContents()->propertyList(sandbox + "/factory.plist");
     for (const auto category : allRuleCategories) {
         const auto& facts = factsOf(category);
         model.lists[category] = recordsIn(local->value(facts.listKey));

@@ -13,13 +13,56 @@ std::string parentOf(const std::string& path) {
 
 } // namespace
 
+std::string InMemoryFiles::targetOf(const std::string& path) const {
+    const auto link = links.find(path);
+    return link == links.end() ? path : link->second;
+}
+
 bool InMemoryFiles::exists(const std::string& path) const {
-    return files.count(path) != 0 || folders.count(path) != 0;
+    const auto target = targetOf(path);
+    return files.count(target) != 0 || folders.count(target) != 0;
+}
+
+bool InMemoryFiles::isThere(const std::string& path) const {
+    return links.count(path) != 0 || exists(path);
+}
+
+FileKind InMemoryFiles::kindOf(const std::string& path) const {
+    asked.push_back(path);
+    if (asking) {
+        asking(path);
+    }
+    if (const auto found = answers.find(path); found != answers.end()) {
+        return found->second;
+    }
+    if (!exists(path)) {
+        return FileKind::missing;
+    }
+    return folders.count(targetOf(path)) != 0 ? FileKind::folder : FileKind::file;
+}
+
+std::vector<std::string> InMemoryFiles::namesIn(const std::string& folder) const {
+    std::set<std::string> names;
+    const auto add = [&](const std::string& path) {
+        if (path.size() > folder.size() && parentOf(path) == folder) {
+            names.insert(path.substr(folder.size() + 1));
+        }
+    };
+    for (const auto& [path, contents] : files) {
+        add(path);
+    }
+    for (const auto& [path, target] : links) {
+        add(path);
+    }
+    for (const auto& path : folders) {
+        add(path);
+    }
+    return {names.begin(), names.end()};
 }
 
 bool InMemoryFiles::remove(const std::string& path) {
     log_.add("remove " + path);
-    if (failing.count(path) != 0 || !exists(path)) {
+    if (failing.count(path) != 0 || !isThere(path)) {
         return false;
     }
     erase(path);
@@ -28,8 +71,13 @@ bool InMemoryFiles::remove(const std::string& path) {
 
 bool InMemoryFiles::createFolder(const std::string& path) {
     log_.add("create folder " + path);
-    if (failing.count(path) != 0 || files.count(path) != 0) {
+    if (failing.count(path) != 0) {
         return false;
+    }
+    for (auto folder = path; !folder.empty(); folder = parentOf(folder)) {
+        if (files.count(folder) != 0) {
+            return false;
+        }
     }
     for (auto folder = path; !folder.empty(); folder = parentOf(folder)) {
         folders.insert(folder);
@@ -37,9 +85,13 @@ bool InMemoryFiles::createFolder(const std::string& path) {
     return true;
 }
 
+bool InMemoryFiles::canPutAt(const std::string& path) const {
+    const auto parent = parentOf(path);
+    return failing.count(path) == 0 && !isThere(path) && (parent.empty() || folders.count(parent) != 0);
+}
+
 bool InMemoryFiles::canPut(const std::string& from, const std::string& to) const {
-    return failing.count(to) == 0 && exists(from) && !exists(to) && folders.count(parentOf(to)) != 0 &&
-           !liesIn(to, from);
+    return isThere(from) && canPutAt(to) && !liesIn(to, from);
 }
 
 bool InMemoryFiles::copy(const std::string& from, const std::string& to) {
@@ -92,41 +144,18 @@ void InMemoryFiles::put(const std::string& from, const std::string& to) {
             files[moved(path)] = contents;
         }
     }
+    for (const auto& [path, target] : std::map(links)) {
+        if (path == from || liesIn(path, from)) {
+            links[moved(path)] = target;
+        }
+    }
 }
 
 void InMemoryFiles::erase(const std::string& path) {
-    std::erase_if(files, [&](const auto& file) { return file.first == path || liesIn(file.first, path); });
-    std::erase_if(folders, [&](const auto& folder) { return folder == path || liesIn(folder, path); });
-}
-
-std::optional<PlistValue> InMemoryFiles::propertyList(const std::string& path) const {
-    log_.add("parse " + path);
-    const auto found = propertyLists.find(path);
-    return found == propertyLists.end() ? std::nullopt : std::optional(found->second);
-}
-
-std::set<std::string> InMemoryFiles::namesIn(const std::string& folder) const {
-    std::set<std::string> names;
-    for (const auto& [path, contents] : files) {
-        if (parentOf(path) == folder) {
-            names.insert(path.substr(folder.size() + 1));
-        }
-    }
-    return names;
-}
-
-FileKind InMemoryFileStatus::kindOf(const std::string& path) const {
-    asked.push_back(path);
-    if (asking) {
-        asking(path);
-    }
-    if (const auto found = answers.find(path); found != answers.end()) {
-        return found->second;
-    }
-    if (files_.folders.count(path) != 0) {
-        return FileKind::folder;
-    }
-    return files_.files.count(path) != 0 ? FileKind::file : FileKind::missing;
+    const auto goes = [&](const std::string& other) { return other == path || liesIn(other, path); };
+    std::erase_if(files, [&](const auto& file) { return goes(file.first); });
+    std::erase_if(links, [&](const auto& link) { return goes(link.first); });
+    std::erase_if(folders, goes);
 }
 
 } // namespace tarnwick::testing

@@ -24,8 +24,8 @@ void InMemoryPlatform::addResources() {
 }
 
 Ports InMemoryPlatform::ports() {
-    return {preferences, files, trees, listFiles, fileStatus, folders, bundle, images, panels, workspace,
-        finderSync, userScripts, notifications, runLoop, systemLog, process, clock, undoHistory};
+    return {preferences, files, contents, folders, bundle, images, panels, workspace, userScripts,
+        notifications, runLoop, systemLog, process, undoHistory};
 }
 
 } // namespace tarnwick::testing

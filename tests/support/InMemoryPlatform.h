@@ -2,13 +2,18 @@
 
 #include "platform/Ports.h"
 #include "tests/support/CallLog.h"
-#include "tests/support/InMemoryFileTrees.h"
+#include "tests/support/InMemoryBundle.h"
+#include "tests/support/InMemoryFileContents.h"
 #include "tests/support/InMemoryFiles.h"
+#include "tests/support/InMemoryFolders.h"
 #include "tests/support/InMemoryImages.h"
+#include "tests/support/InMemoryNotifications.h"
+#include "tests/support/InMemoryPanels.h"
 #include "tests/support/InMemoryPreferences.h"
-#include "tests/support/InMemoryPropertyListFiles.h"
+#include "tests/support/InMemoryRunLoop.h"
 #include "tests/support/InMemorySystem.h"
 #include "tests/support/InMemoryUndoHistory.h"
+#include "tests/support/InMemoryWorkspace.h"
 
 namespace tarnwick::testing {
 
@@ -17,21 +22,17 @@ struct InMemoryPlatform {
     CallLog log;
     InMemoryPreferences preferences{log};
     InMemoryFiles files{log};
-    InMemoryFileTrees trees{log, files};
-    InMemoryPropertyListFiles listFiles{log};
-    InMemoryFileStatus fileStatus{files};
+    InMemoryFileContents contents{log, files};
     InMemoryFolders folders;
-    InMemoryBundle bundle;
+    InMemoryBundle bundle{log};
     InMemoryImages images;
     InMemoryPanels panels{log};
     InMemoryWorkspace workspace{log};
-    InMemoryFinderSync finderSync{log};
     InMemoryUserScripts userScripts{log};
     InMemoryNotifications notifications{log};
     InMemoryRunLoop runLoop{log};
     InMemorySystemLog systemLog{log};
     InMemoryProcess process{log};
-    InMemoryClock clock;
     InMemoryUndoHistory undoHistory;
 
     InMemoryPlatform();

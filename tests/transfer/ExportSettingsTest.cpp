@@ -11,13 +11,14 @@ const std::string place = "/chosen/Settings.plist";
 class ExportSettingsTest : public SettingsFixture {
 protected:
     void launch() {
+        platform_.files.folders.insert("/chosen");
         SettingsFixture::launch();
         platform_.panels.alerts.clear();
     }
     PlistDictionary exported() {
         controller_.exportSettings();
         platform_.panels.confirm({place});
-        const auto* value = std::get_if<PlistValue>(&platform_.listFiles.files.at(place));
+        const auto* value = platform_.contents.listAt(place);
         return value && value->dictionary() ? *value->dictionary() : PlistDictionary();
     }
     static PlistDictionary part(const PlistDictionary& document, std::string_view key) {
@@ -146,7 +147,7 @@ TEST_F(ExportSettingsTest, ANameThatLeadsOutOfTheFolderBringsNothingIn) {
 TEST_F(ExportSettingsTest, ATemplateThatCannotBeReadIsLeftOutAndNamed) {
     storeList(RuleCategory::createNewFile, {makeTemplateRecord("Deck", "key", "1", RecordOrigin::user)});
     platform_.files.folders.insert({templates, templates + "/Deck.key"});
-    platform_.trees.links.insert(templates + "/Deck.key/link");
+    platform_.files.links[templates + "/Deck.key/link"] = "/elsewhere";
     launch();
     EXPECT_EQ(part(exported(), "templateFiles"), PlistDictionary());
     ASSERT_EQ(platform_.panels.alerts.size(), 1U);
@@ -161,6 +162,7 @@ TEST_F(ExportSettingsTest, ItChangesNothing) {
     const auto shared = platform_.preferences.shared;
     const auto files = platform_.files.files;
     exported();
+    EXPECT_TRUE(platform_.files.remove(place));
     EXPECT_TRUE(platform_.preferences.local == local);
     EXPECT_TRUE(platform_.preferences.shared == shared);
     EXPECT_EQ(platform_.files.files, files);
@@ -171,7 +173,7 @@ TEST_F(ExportSettingsTest, ACancelledPanelWritesNothing) {
     launch();
     controller_.exportSettings();
     platform_.panels.cancel();
-    EXPECT_TRUE(platform_.listFiles.files.empty());
+    EXPECT_FALSE(platform_.files.exists(place));
 }
 
 TEST_F(ExportSettingsTest, AnEditInProgressIsAmongThem) {
@@ -181,7 +183,7 @@ TEST_F(ExportSettingsTest, AnEditInProgressIsAmongThem) {
     EXPECT_FALSE(window_.openEdit);
     window_.openEdit = [this] { controller_.textEdited("CustomIconName", 1, "Renamed too"); };
     platform_.panels.confirm({place});
-    const auto* document = std::get_if<PlistValue>(&platform_.listFiles.files.at(place));
+    const auto* document = platform_.contents.listAt(place);
     const auto names = texts(*document->dictionary()->at("arrOfCustomIcon").array(), "displayName");
     EXPECT_EQ(names[0], "Renamed");
     EXPECT_EQ(names[1], "Renamed too");
@@ -192,7 +194,7 @@ class FailedExportTest : public ExportSettingsTest,
 
 TEST_P(FailedExportTest, SaysWhy) {
     launch();
-    platform_.listFiles.trouble = GetParam().first;
+    platform_.contents.trouble = GetParam().first;
     controller_.exportSettings();
     platform_.panels.confirm({place});
     ASSERT_EQ(platform_.panels.alerts.size(), 1U);

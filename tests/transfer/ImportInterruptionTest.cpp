@@ -73,7 +73,7 @@ TEST_P(ImportInterruptionTest, TheNextStartFinishesItOrLeavesTheOldStateWhole) {
     machine.launch();
     machine.import(documentOf(templateRecord("Letter", "1"), "old"));
     const auto oldList = machine.platform.preferences.local.at(templatesKey);
-    const auto oldFiles = machine.platform.trees.read(folder);
+    const auto oldFiles = machine.platform.contents.readTree(folder);
     const auto document = documentOf(import.record, import.content);
     const auto moments = interrupted(machine, keeping, document);
     ASSERT_GT(moments.size(), 30U);
@@ -86,12 +86,12 @@ TEST_P(ImportInterruptionTest, TheNextStartFinishesItOrLeavesTheOldStateWhole) {
         next.platform.files.folders = moments[moment].folders;
         next.launch();
         const auto& list = next.platform.preferences.local.at(templatesKey);
-        const auto files = next.platform.trees.read(folder);
+        const auto files = next.platform.contents.readTree(folder);
         const auto isNew = list == document.at(templatesKey) && files == document.at("templateFiles");
         finished += isNew ? 1 : 0;
         EXPECT_TRUE(isNew || (list == oldList && files == oldFiles)) << moment;
         EXPECT_EQ(next.platform.preferences.local.count("pendingTemplateFiles"), 0U) << moment;
-        EXPECT_EQ(next.platform.trees.namesIn("/container/Templates"),
+        EXPECT_EQ(next.platform.files.namesIn("/container/Templates"),
             (std::vector<std::string>{"CreateNewFile", "FunctionIcon", "OthersMenuItemIcon"}))
             << moment;
     }

@@ -61,7 +61,7 @@ TEST_F(ImportSettingsTest, ThePresentSettingsMayBeExportedFirst) {
     ASSERT_TRUE(machine.platform.panels.isOpen());
     EXPECT_TRUE(machine.isAs(untouched));
     machine.platform.panels.confirm({"/kept"});
-    const auto* kept = std::get_if<PlistValue>(&machine.platform.listFiles.files.at("/kept"));
+    const auto* kept = machine.platform.contents.listAt("/kept");
     ASSERT_NE(kept, nullptr);
     EXPECT_EQ(*kept, PlistValue(before));
     EXPECT_EQ(machine.platform.panels.alerts.size(), 2U) << "is asked again";

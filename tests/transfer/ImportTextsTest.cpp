@@ -1,6 +1,6 @@
 #include "ui/ImportTexts.h"
 
-#include "tests/support/InMemoryFiles.h"
+#include "tests/support/InMemoryBundle.h"
 
 #include <gtest/gtest.h>
 
@@ -17,7 +17,8 @@ protected:
         plan.leftOut.push_back({reason, name, std::nullopt, 0});
     }
 
-    InMemoryBundle bundle;
+    CallLog log;
+    InMemoryBundle bundle{log};
     ImportPlan plan;
     PerCategory<std::size_t> present{15U, 4U, 0U, 20U, 18U};
 };

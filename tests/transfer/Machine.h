@@ -29,12 +29,12 @@ public:
     PlistDictionary exported() {
         controller.exportSettings();
         platform.panels.confirm({"/exported"});
-        const auto* document = std::get_if<PlistValue>(&platform.listFiles.files.at("/exported"));
+        const auto* document = platform.contents.listAt("/exported");
         return document && document->dictionary() ? *document->dictionary() : PlistDictionary();
     }
     /// The first button of the alert, unless `answers` says otherwise.
     void import(const ListFileContent& content) {
-        platform.listFiles.files.insert_or_assign("/import", content);
+        platform.contents.putList("/import", content);
         controller.importSettings();
         platform.panels.confirm({"/import"});
     }
@@ -45,7 +45,7 @@ public:
     [[nodiscard]] bool isAs(const Machine& other) const {
         return platform.preferences.local == other.platform.preferences.local &&
                platform.preferences.shared == other.platform.preferences.shared &&
-               platform.trees.read("/container") == other.platform.trees.read("/container");
+               platform.contents.readTree("/container") == other.platform.contents.readTree("/container");
     }
 
     InMemoryPlatform platform;

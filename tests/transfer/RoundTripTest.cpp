@@ -28,8 +28,9 @@ TEST_P(RoundTripTest, TheTemplateFolderHoldsWhatTheFileSaysAndNothingElse) {
     Machine second;
     second.launch();
     second.import(document);
-    EXPECT_EQ(second.platform.trees.read("/container/Templates/CreateNewFile"), document.at("templateFiles"));
-    EXPECT_EQ(second.platform.trees.namesIn("/container/Templates"),
+    EXPECT_EQ(second.platform.contents.readTree("/container/Templates/CreateNewFile"),
+        document.at("templateFiles"));
+    EXPECT_EQ(second.platform.files.namesIn("/container/Templates"),
         (std::vector<std::string>{"CreateNewFile", "FunctionIcon", "OthersMenuItemIcon"}));
 }
 

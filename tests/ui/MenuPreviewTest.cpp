@@ -171,7 +171,7 @@ TEST_F(MenuPreviewTest, LookingChangesNothingAndReadsNeitherSuiteNorFile) {
     EXPECT_TRUE(platform_.log.lines().empty());
     EXPECT_TRUE(platform_.preferences.local == local);
     EXPECT_TRUE(platform_.preferences.shared == shared);
-    EXPECT_TRUE(platform_.fileStatus.asked.empty());
+    EXPECT_TRUE(platform_.files.asked.empty());
 }
 
 TEST_F(MenuPreviewTest, WhatTheSuiteHoldsIsOfNoConsequence) {

@@ -34,7 +34,7 @@ TEST_F(NoticesTest, NothingIsSaidWhileAllIsWell) {
 }
 
 TEST_F(NoticesTest, AnExtensionThatIsOffIsSaidSoonAfterTheStartAndLeadsToWhereItIsTurnedOn) {
-    platform_.finderSync.enabled = false;
+    platform_.bundle.extensionEnabled = false;
     EXPECT_TRUE(window_.notices.empty());
     platform_.runLoop.runMain();
     ASSERT_EQ(window_.notices.size(), 1U);
@@ -46,15 +46,15 @@ TEST_F(NoticesTest, AnExtensionThatIsOffIsSaidSoonAfterTheStartAndLeadsToWhereIt
 }
 
 TEST_F(NoticesTest, ANoticeGoesByItselfWhenTheUserComesBackToABetterState) {
-    platform_.finderSync.enabled = false;
+    platform_.bundle.extensionEnabled = false;
     EXPECT_EQ(notices().size(), 1U);
-    platform_.finderSync.enabled = true;
+    platform_.bundle.extensionEnabled = true;
     EXPECT_TRUE(notices().empty());
 }
 
 TEST_F(NoticesTest, ACopyWithoutExtensionIsSaidInPlaceOfOneThatIsOff) {
     platform_.bundle.extension = false;
-    platform_.finderSync.enabled = false;
+    platform_.bundle.extensionEnabled = false;
     EXPECT_EQ(text(), "This copy of Tarnwick carries no Finder extension, so it has no menu.");
     EXPECT_EQ(window_.notices[0].step, NoticeStep::none);
 }
@@ -70,7 +70,7 @@ TEST_F(NoticesTest, AnotherCopyIsSaidWithItsPlaceAndShown) {
 }
 
 TEST_F(NoticesTest, WhatIsPutAwayStaysAwayAndTheOthersStay) {
-    platform_.finderSync.enabled = false;
+    platform_.bundle.extensionEnabled = false;
     registerCopies({"/Volumes/Old/Tarnwick.app"});
     EXPECT_EQ(notices().size(), 2U);
     controller_.putAway(NoticeKind::extensionOff);
@@ -95,7 +95,7 @@ TEST_F(NoticesTest, SwitchesThatAnAdministratorHasSetAreSaidToTheWindow) {
 }
 
 TEST_F(NoticesTest, LookingAroundWritesNothingAndAsksNoQuestionOfTheUser) {
-    platform_.finderSync.enabled = false;
+    platform_.bundle.extensionEnabled = false;
     platform_.log.clear();
     controller_.applicationActivated();
     EXPECT_TRUE(platform_.log.linesWith("local").empty());

@@ -30,7 +30,7 @@ protected:
         return controller_.remarks().of(category, column, row);
     }
     [[nodiscard]] std::string help(RuleCategory category, long row) { return remark(category, row).help; }
-    [[nodiscard]] std::vector<std::string>& asked() { return platform_.fileStatus.asked; }
+    [[nodiscard]] std::vector<std::string>& asked() { return platform_.files.asked; }
 };
 
 TEST_F(RuleHealthTest, AFolderThatIsNotThereIsSaidOnItsRowAndBelowTheTable) {
@@ -60,7 +60,7 @@ TEST_F(RuleHealthTest, ATargetWithoutAFolderIsAskedForOneWithoutALook) {
 }
 
 TEST_F(RuleHealthTest, ASystemThatRefusesToSayLeavesTheRuleAlone) {
-    platform_.fileStatus.answers["/secret"] = FileKind::unknown;
+    platform_.files.answers["/secret"] = FileKind::unknown;
     launchWith({"/secret"});
     EXPECT_FALSE(remark(folders, 0).warns);
     EXPECT_EQ(window_.faults[folders], "");

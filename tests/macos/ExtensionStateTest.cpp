@@ -1,22 +1,20 @@
 #include "StandInTest.h"
 
-#include "platform/FinderSync.h"
-
 namespace tarnwick::standins {
 namespace {
 
-class FinderSyncTest : public StandInTest {};
+class ExtensionStateTest : public StandInTest {};
 
-TEST_F(FinderSyncTest, TellsWhatTheSystemSaysOfTheExtension) {
+TEST_F(ExtensionStateTest, TellsWhatTheSystemSaysOfTheExtension) {
     for (const bool enabled : {true, false}) {
         answers().extensionEnabled = enabled;
-        EXPECT_EQ(makeFinderSync()->isExtensionEnabled(), enabled);
+        EXPECT_EQ(tarnwick::isExtensionEnabled(), enabled);
     }
     EXPECT_EQ(calls(), (Calls{"isExtensionEnabled", "isExtensionEnabled"}));
 }
 
-TEST_F(FinderSyncTest, ShowsTheManagementInterface) {
-    makeFinderSync()->showExtensionManagementInterface();
+TEST_F(ExtensionStateTest, ShowsTheManagementInterface) {
+    tarnwick::showExtensionManagementInterface();
     EXPECT_EQ(calls(), Calls{"showExtensionManagementInterface"});
 }
 

@@ -2,8 +2,9 @@
 #import "adapters/foundation/StringConversion.h"
 
 #include "adapters/foundation/Adapters.h"
+#include "adapters/foundation/FileTrees.h"
 #include "adapters/foundation/RegularFiles.h"
-#include "platform/PropertyListFiles.h"
+#include "platform/FileContents.h"
 
 #import <Foundation/Foundation.h>
 
@@ -41,9 +42,23 @@ bool isXML(const PlistData &data) {
     return start != std::string_view::npos && bytes[start] == '<';
 }
 
-class FoundationPropertyListFiles final : public PropertyListFiles {
+std::optional<PlistValue> valueIn(NSData *bytes) {
+    NSPropertyListFormat format = NSPropertyListXMLFormat_v1_0;
+    NSError *error = nil;
+    return toPlistValue([NSPropertyListSerialization propertyListWithData:bytes
+                                                                  options:NSPropertyListImmutable
+                                                                   format:&format
+                                                                    error:&error]);
+}
+
+class FoundationFileContents final : public FileContents {
 public:
-    ListFileContent read(const std::string &path) const override {
+    std::optional<PlistValue> readTree(const std::string &path) const override { return readFileTree(path); }
+    bool writeTree(const std::string &path, const PlistValue &tree) override {
+        return writeFileTree(path, tree);
+    }
+
+    ListFileContent readList(const std::string &path) const override {
         const auto content = readRegularFile(path, mostBytes);
         if (const auto *fault = std::get_if<FileFault>(&content)) {
             return faultOf(*fault);
@@ -55,16 +70,11 @@ public:
         if (!isXML(bytes)) {
             return ListFileFault::foreign;
         }
-        NSPropertyListFormat format = NSPropertyListXMLFormat_v1_0;
-        NSError *error = nil;
-        auto value = toPlistValue([NSPropertyListSerialization propertyListWithData:toNSData(bytes)
-                                                                            options:NSPropertyListImmutable
-                                                                             format:&format
-                                                                              error:&error]);
+        auto value = valueIn(toNSData(bytes));
         return value ? ListFileContent(*std::move(value)) : ListFileContent(ListFileFault::damaged);
     }
 
-    ListFileWriting write(const std::string &path, const PlistValue &value) override {
+    ListFileWriting writeList(const std::string &path, const PlistValue &value) override {
         NSError *error = nil;
         NSData *bytes = [NSPropertyListSerialization dataWithPropertyList:toObject(value)
                                                                    format:NSPropertyListXMLFormat_v1_0
@@ -78,12 +88,17 @@ public:
                    ? ListFileWriting::done
                    : ListFileWriting::failed;
     }
+
+    std::optional<PlistValue> propertyList(const std::string &path) const override {
+        NSData *bytes = [NSData dataWithContentsOfFile:toNSString(path)];
+        return bytes ? valueIn(bytes) : std::nullopt;
+    }
 };
 
 } // namespace
 
-std::unique_ptr<PropertyListFiles> makePropertyListFiles() {
-    return std::make_unique<FoundationPropertyListFiles>();
+std::unique_ptr<FileContents> makeFileContents() {
+    return std::make_unique<FoundationFileContents>();
 }
 
 } // namespace tarnwick
