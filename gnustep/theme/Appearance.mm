@@ -6,7 +6,6 @@
 
 #import "TNApplication.h"
 #import "TNStartUp.h"
-#import "gnustep/defaults/DefaultsFiles.h"
 
 namespace {
 
@@ -16,17 +15,6 @@ NSString *const changed = @"AppleInterfaceThemeChangedNotification";
 TNThemeAppearance chosenAppearance() {
     NSString *style = [[NSUserDefaults standardUserDefaults] stringForKey:styleKey];
     return style ? TNThemeAppearance::dark : TNThemeAppearance::light;
-}
-
-/// What another program has written is seen only after this; and even then not that it has removed the last
-/// value of a domain, and with it the file.
-void rereadSettings() {
-    NSUserDefaults *defaults = [NSUserDefaults standardUserDefaults];
-    [defaults synchronize];
-    if (![[NSFileManager defaultManager] fileExistsAtPath:TNSettingsFileOf(NSGlobalDomain)] &&
-        [defaults persistentDomainForName:NSGlobalDomain]) {
-        [defaults removePersistentDomainForName:NSGlobalDomain];
-    }
 }
 
 void redisplay(NSView *view) {
@@ -64,7 +52,8 @@ void redisplay(NSView *view) {
 }
 
 - (void)tnAppearanceChanged:(NSNotification *)notification {
-    rereadSettings();
+    // What another program has written is seen only after this.
+    [[NSUserDefaults standardUserDefaults] synchronize];
     TNInstallTheme();
     for (NSWindow *window in [self windows]) {
         redisplay([[window contentView] superview]);

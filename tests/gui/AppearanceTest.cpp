@@ -43,6 +43,17 @@ TEST(Appearance, TheOpenWindowFollowsTheSystemToDarkAndBack) {
     EXPECT_EQ(brightnessOfEmptyCheckBox(), lightCheckBox);
 }
 
+TEST(Appearance, ItFollowsAgainAndAgainAndLeavesTheSettingToOthers) {
+    for (int time = 0; time < 3; ++time) {
+        turnDark();
+        EXPECT_TRUE(waitUntil([] { return std::abs(brightnessOfPage() - darkPage) < tolerance; })) << time;
+        EXPECT_EQ(std::system("defaults read NSGlobalDomain AppleInterfaceStyle | grep -q Dark"), 0);
+        turnLight();
+        EXPECT_TRUE(waitUntil([] { return brightnessOfPage() == 1; })) << time;
+        EXPECT_NE(std::system("defaults read NSGlobalDomain AppleInterfaceStyle 2>/dev/null"), 0);
+    }
+}
+
 TEST(Appearance, TheColourOfTheWindowIsSeenOnEveryPageAndInTheSidebar) {
     constexpr Colour green{0, 1, 0, 1};
     constexpr double shade = 0.06;
