@@ -81,7 +81,9 @@ std::initializer_list<NSString *> followedNotifications() {
 }
 
 - (NSButton *)makeArrow:(NSString *)title label:(NSString *)label action:(SEL)action {
+    constexpr CGFloat size = 18;
     NSButton *button = tarnwick::makePushButton(title, _controller, action);
+    [button setFont:[NSFont systemFontOfSize:size]];
     [button setFrameSize:NSMakeSize(arrowWidth, NSHeight([button frame]))];
     [button setAccessibilityLabel:label];
     [button setToolTip:label];

@@ -62,3 +62,11 @@ NSColorList *TNThemeMakeColorList();
 
 /// A path around a rectangle, on whole pixels, for a line of one point.
 NSBezierPath *TNThemeHairline(NSRect rect, CGFloat radius);
+
+/// The box in which a field is edited, in its own coordinates; it reaches beyond a field without bezel.
+NSRect TNFrameOfEditedField(NSTextField *field);
+/// Draws what such a field itself does not: the edge of its box, and the room around the text.
+void TNDrawBoxOfEditedField(NSTextField *field, NSRect box);
+
+/// Posted by a window when something else has the keyboard, or may have.
+extern NSString *const TNWindowDidMoveFocus;

@@ -1,5 +1,5 @@
 // Missing: stripes and a selection that dark text can be read on, as of GNUstep GUI 0.29, which selects in a
-// dark colour, whether or not the window is the key one, and draws cells.
+// dark colour, wherever the keyboard is, and draws cells.
 
 #import "TNTableView.h"
 
@@ -41,9 +41,15 @@
     }
 }
 
+/// Also while a field in it is edited.
+- (BOOL)hasKeyboard {
+    NSWindow *window = [self window];
+    return [window isKeyWindow] && ([window firstResponder] == self || [self editedField]);
+}
+
 - (void)highlightSelectionInClipRect:(NSRect)clip {
     const auto *colors = TNThemeCurrentColors();
-    [([[self window] isKeyWindow] ? colors->selectedRow : colors->selectedRowInactive) set];
+    [([self hasKeyboard] ? colors->selectedRow : colors->selectedRowInactive) set];
     NSRectFill(NSIntersectionRect(clip, [self rectOfRow:[self selectedRow]]));
 }
 

@@ -3,6 +3,8 @@
 
 #import "TNTableView.h"
 
+#import "TNTheme.h"
+
 #include <cmath>
 
 namespace {
@@ -124,11 +126,11 @@ bool takesItsOwnClicks(NSView *view) {
     [super viewWillMoveToWindow:window];
     NSNotificationCenter *center = [NSNotificationCenter defaultCenter];
     [center removeObserver:self name:NSControlTextDidEndEditingNotification object:nil];
-    for (NSString *name in
-        [NSArray arrayWithObjects:NSWindowDidBecomeKeyNotification, NSWindowDidResignKeyNotification, nil]) {
+    for (NSString *name in [NSArray arrayWithObjects:NSWindowDidBecomeKeyNotification,
+                                    NSWindowDidResignKeyNotification, TNWindowDidMoveFocus, nil]) {
         [center removeObserver:self name:name object:nil];
         if (window) {
-            [center addObserver:self selector:@selector(keyWindowChanged:) name:name object:window];
+            [center addObserver:self selector:@selector(focusMoved:) name:name object:window];
         }
     }
     if (window) {
@@ -139,9 +141,11 @@ bool takesItsOwnClicks(NSView *view) {
     }
 }
 
-/// The selection has another colour in a window that is not the key one.
-- (void)keyWindowChanged:(NSNotification *)notification {
-    [self setNeedsDisplay:YES];
+/// It has another colour while the keyboard is elsewhere.
+- (void)focusMoved:(NSNotification *)notification {
+    if ([self selectedRow] >= 0) {
+        [self setNeedsDisplayInRect:[self rectOfRow:[self selectedRow]]];
+    }
 }
 
 /// After Return or Tab the table takes over: the field would otherwise begin a second edit.

@@ -85,8 +85,12 @@ NSBezierPath *TNThemeHairline(NSRect rect, CGFloat radius) {
 - (void)setKeyEquivalent:(NSString *)key forButtonCell:(NSButtonCell *)cell {
 }
 
+/// Of a cell among several; that of a whole control is drawn around it, see FocusRing.mm.
 - (void)drawFocusFrame:(NSRect)frame view:(NSView *)view {
-    [[TNThemeCurrentColors()->accent colorWithAlphaComponent:0.55] set];
+    if (![view isKindOfClass:[NSMatrix class]]) {
+        return;
+    }
+    [TNThemeCurrentColors()->accent set];
     NSBezierPath *path = TNThemeHairline(NSInsetRect(frame, 0.5, 0.5), buttonRadius);
     [path setLineWidth:2];
     [path stroke];

@@ -7,6 +7,8 @@
 
 #import <AppKit/AppKit.h>
 
+#include <algorithm>
+
 namespace tarnwick::gui {
 namespace {
 
@@ -162,6 +164,35 @@ std::vector<Contrast> contrasts() {
         Measuring measuring(window);
         measuring.measure([[window contentView] superview]);
         return measuring.take();
+    }
+}
+
+double contrastOfRing() {
+    @autoreleasepool {
+        constexpr CGFloat outside = 10;
+        NSWindow *window = settingsWindow();
+        id responder = [window firstResponder];
+        if ([responder isKindOfClass:[NSText class]]) {
+            responder = [responder delegate];
+        } else if ([responder isKindOfClass:[NSTableView class]]) {
+            responder = [responder enclosingScrollView];
+        }
+        if (![responder isKindOfClass:[NSView class]]) {
+            return 1;
+        }
+        const NSRect place = [responder convertRect:[responder bounds] toView:nil];
+        return Pixels(window).edgeOf(NSMakePoint(NSMinX(place) - outside, NSMidY(place)), outside);
+    }
+}
+
+double saturationOfSelection(RuleCategory category) {
+    @autoreleasepool {
+        NSTableView *table = tableOf(category);
+        const NSRect row = [table convertRect:[table rectOfRow:[table selectedRow]] toView:nil];
+        const unsigned colour = Pixels(settingsWindow()).groundOf(row);
+        const auto part = [colour](unsigned shift) { return static_cast<double>(colour >> shift & 0xFF); };
+        const auto [low, high] = std::minmax({part(16), part(8), part(0)});
+        return high == 0 ? 0 : (high - low) / high;
     }
 }
 

@@ -39,5 +39,57 @@ TEST(Contrast, BoxesOfEachStateStandOut) {
     EXPECT_EQ(numberOf(all, "mark", "Enable all templates"), 1);
 }
 
+TEST(Contrast, TheSelectedRowStandsOutWhereverTheKeyboardIs) {
+    clickPageButton(Page::createNewFile);
+    clickCell(RuleCategory::createNewFile, 2, "NewFileDisplayName");
+    settle();
+    EXPECT_EQ(tooLow(contrasts()), "");
+    EXPECT_GT(saturationOfSelection(RuleCategory::createNewFile), 0.15);
+    press(Key::tab);
+    settle();
+    EXPECT_EQ(tooLow(contrasts()), "");
+    EXPECT_LT(saturationOfSelection(RuleCategory::createNewFile), 0.15);
+}
+
+TEST(Contrast, AnEditedNameHasARing) {
+    clickPageButton(Page::createNewFile);
+    clickCell(RuleCategory::createNewFile, 2, "NewFileDisplayName", 2);
+    settle();
+    EXPECT_GE(contrastOfRing(), 3);
+    EXPECT_EQ(tooLow(contrasts()), "");
+    EXPECT_GT(saturationOfSelection(RuleCategory::createNewFile), 0.15);
+    press(Key::escape);
+}
+
+TEST(Contrast, WhateverHasTheKeyboardHasARingOutside) {
+    for (const auto page : allPages) {
+        clickPageButton(page);
+        settle();
+        if (page == Page::moreApps) {
+            // It has no list to begin with.
+            press(Key::tab);
+            settle();
+        }
+        constexpr int stops = 20;
+        for (int stop = 0; stop < stops; ++stop) {
+            EXPECT_GE(contrastOfRing(), 3) << "page " << static_cast<int>(page) << ", stop " << stop;
+            press(Key::tab);
+            settle();
+        }
+    }
+}
+
+TEST(Contrast, TheFindBarStandsOut) {
+    clickPageButton(Page::createNewFile);
+    pressCommand('f');
+    settle();
+    const auto all = contrasts();
+    EXPECT_EQ(tooLow(all), "");
+    EXPECT_GE(contrastOfRing(), 3);
+    EXPECT_EQ(numberOf(all, "text", "Find:"), 1);
+    press(Key::escape);
+    settle();
+}
+
 } // namespace
 } // namespace tarnwick::gui

@@ -11,9 +11,10 @@ GAP = 0.07
 
 
 def lines_shown(desktop):
-    """How many lines of the accent colour go across the table."""
-    picture = Picture(desktop.screen.picture())
-    has_line = [ACCENT * 100 in picture.row(y) for y in range(picture.height)]
+    """How many lines of the accent colour go across the table, the ring around it left out."""
+    picture = Picture(desktop.window.picture())
+    top, bottom = desktop.places.first_row_top(desktop.page), desktop.places.table_bottom()
+    has_line = [ACCENT * 100 in picture.row(y) for y in range(round(top), round(bottom))]
     return sum(here and not above for here, above in zip(has_line[1:], has_line))
 
 

@@ -1,0 +1,211 @@
+// Wrong: the focus ring, as of GNUstep GUI 0.29, which has each control draw one within its bounds and leaves
+// out tables and fields. Here it is drawn around the control, over whatever is there, as soon as a part of
+// the window has been drawn that it crosses.
+
+#import "TNTheme.h"
+
+#import "gnustep/runtime/MethodReplacement.h"
+#import "gnustep/views/ViewAttachments.h"
+
+NSString *const TNWindowDidMoveFocus = @"TNWindowDidMoveFocus";
+
+@interface NSWindow (TNFocusRing)
+- (void)tnFollowFocus;
+- (void)tnFollowFocusSoon;
+@end
+
+namespace {
+
+constexpr CGFloat ringWidth = 2;
+NSString *const shownRing = @"focus ring";
+
+/// What the ring is around, in the coordinates of the view, and with which corners.
+struct Ring {
+    NSView *view = nil;
+    NSRect inner = NSZeroRect;
+    CGFloat radius = 0;
+};
+
+/// A line of the ground remains between a control and its ring.
+Ring ringAround(NSView *view, NSRect rect, CGFloat radius) {
+    constexpr CGFloat gap = 1;
+    return {view, NSInsetRect(rect, -gap, -gap), radius + gap};
+}
+
+/// A check box's is around its box.
+Ring ringOfButton(NSButton *button) {
+    constexpr CGFloat boxSize = 14;
+    constexpr CGFloat boxRadius = 3.5;
+    constexpr CGFloat buttonRadius = 6;
+    const NSRect bounds = [button bounds];
+    if (![[button cell] alternateImage]) {
+        return ringAround(button, NSInsetRect(bounds, 0, [button isBordered] ? 1 : 0), buttonRadius);
+    }
+    const CGFloat left = [[button title] length] == 0 ? NSMidX(bounds) - boxSize / 2 : NSMinX(bounds) + 1;
+    return ringAround(button, NSMakeRect(left, NSMidY(bounds) - boxSize / 2, boxSize, boxSize), boxRadius);
+}
+
+/// The edited one; nil when no field of the window is edited.
+NSTextField *editedField(NSResponder *responder) {
+    if (![responder isKindOfClass:[NSText class]] || ![(NSText *)responder isFieldEditor]) {
+        return nil;
+    }
+    id field = [(NSText *)responder delegate];
+    return [field isKindOfClass:[NSTextField class]] ? field : nil;
+}
+
+/// Without a view when there is nothing to be seen.
+Ring ringOf(NSWindow *window) {
+    constexpr CGFloat fieldRadius = 1;
+    NSResponder *responder = [window firstResponder];
+    Ring ring;
+    if (NSTextField *field = editedField(responder)) {
+        ring = {field, TNFrameOfEditedField(field), fieldRadius};
+    } else if ([responder isKindOfClass:[NSTableView class]]) {
+        NSView *scrollView = [(NSTableView *)responder enclosingScrollView];
+        ring = {scrollView, [scrollView bounds], 0};
+    } else if ([responder isKindOfClass:[NSButton class]]) {
+        ring = ringOfButton((NSButton *)responder);
+    }
+    const bool isSeen =
+        [window isKeyWindow] && [ring.view window] == window && ![ring.view isHiddenOrHasHiddenAncestor];
+    return isSeen ? ring : Ring();
+}
+
+/// In the window.
+NSRect placeOf(const Ring &ring) {
+    return ring.view ? [ring.view convertRect:NSInsetRect(ring.inner, -ringWidth, -ringWidth) toView:nil]
+                     : NSZeroRect;
+}
+
+void draw(const Ring &ring, NSView *canvas) {
+    if (NSClipView *clip = (NSClipView *)[[ring.view enclosingScrollView] contentView];
+        [ring.view isDescendantOf:clip]) {
+        NSRectClip([canvas convertRect:[clip bounds] fromView:clip]);
+    }
+    const NSRect inner = [canvas convertRect:ring.inner fromView:ring.view];
+    if ([ring.view isKindOfClass:[NSTextField class]]) {
+        TNDrawBoxOfEditedField((NSTextField *)ring.view, inner);
+    }
+    const NSRect middle = NSInsetRect(inner, -ringWidth / 2, -ringWidth / 2);
+    const CGFloat radius = ring.radius + ringWidth / 2;
+    NSBezierPath *path = ring.radius == 0
+                             ? [NSBezierPath bezierPathWithRect:middle]
+                             : [NSBezierPath bezierPathWithRoundedRect:middle xRadius:radius yRadius:radius];
+    [path setLineWidth:ringWidth];
+    [TNThemeCurrentColors()->accent set];
+    [path stroke];
+}
+
+/// A part of the view has just been drawn.
+void drawOver(NSView *view, NSRect rect) {
+    const Ring ring = ringOf([view window]);
+    const NSRect drawn = NSIntersectionRect(rect, [view visibleRect]);
+    if (ring.view && NSIntersectsRect(drawn, [view convertRect:placeOf(ring) fromView:nil])) {
+        [view lockFocusInRect:drawn];
+        draw(ring, view);
+        [view unlockFocus];
+    }
+}
+
+using Display = void (*)(NSView *self, SEL command, NSRect rect, NSGraphicsContext *context);
+Display nativeDisplay = nullptr;
+int depth = 0;
+
+/// Views within views are drawn by this method too: the ring comes after all of them, and before anything of
+/// it is to be seen.
+void display(NSView *self, SEL command, NSRect rect, NSGraphicsContext *context) {
+    NSWindow *window = [self window];
+    const bool isOutermost =
+        depth == 0 && window && [self canDraw] && (!context || context == [window graphicsContext]);
+    if (!isOutermost) {
+        nativeDisplay(self, command, rect, context);
+        return;
+    }
+    [window disableFlushWindow];
+    ++depth;
+    nativeDisplay(self, command, rect, context);
+    --depth;
+    drawOver(self, rect);
+    [window enableFlushWindow];
+    [window flushWindowIfNeeded];
+    [window tnFollowFocusSoon];
+}
+
+using MakeFirst = BOOL (*)(NSWindow *self, SEL command, NSResponder *responder);
+MakeFirst nativeMakeFirst = nullptr;
+
+BOOL makeFirst(NSWindow *self, SEL command, NSResponder *responder) {
+    const BOOL isFirst = nativeMakeFirst(self, command, responder);
+    [self tnFollowFocus];
+    [[NSNotificationCenter defaultCenter] postNotificationName:TNWindowDidMoveFocus object:self];
+    return isFirst;
+}
+
+using Change = void (*)(NSWindow *self, SEL command);
+Change nativeBecomeKey = nullptr;
+Change nativeResignKey = nullptr;
+
+void becomeKey(NSWindow *self, SEL command) {
+    nativeBecomeKey(self, command);
+    [self tnFollowFocus];
+}
+
+void resignKey(NSWindow *self, SEL command) {
+    nativeResignKey(self, command);
+    [self tnFollowFocus];
+}
+
+} // namespace
+
+@implementation NSWindow (TNFocusRing)
+
++ (void)load {
+    nativeMakeFirst = TNReplaceMethod(self, @selector(makeFirstResponder:), makeFirst);
+    nativeBecomeKey = TNReplaceMethod(self, @selector(becomeKeyWindow), becomeKey);
+    nativeResignKey = TNReplaceMethod(self, @selector(resignKeyWindow), resignKey);
+}
+
+- (NSRect)tnShownRing {
+    return [TNAttachment([[self contentView] superview], shownRing) rectValue];
+}
+
+/// Has the places drawn anew where the ring was and where it is now.
+- (void)tnFollowFocus {
+    NSView *frame = [[self contentView] superview];
+    const NSRect before = [self tnShownRing];
+    const NSRect now = placeOf(ringOf(self));
+    if (!frame || NSEqualRects(before, now)) {
+        return;
+    }
+    TNSetAttachment(frame, shownRing, [NSValue valueWithRect:now]);
+    for (const NSRect &place : {before, now}) {
+        if (!NSIsEmptyRect(place)) {
+            [frame setNeedsDisplayInRect:NSIntegralRect([frame convertRect:place fromView:nil])];
+        }
+    }
+}
+
+/// What has the keyboard may have moved, or gone.
+- (void)tnFollowFocusSoon {
+    if (!NSEqualRects([self tnShownRing], placeOf(ringOf(self)))) {
+        [self performSelector:@selector(tnFollowFocus)
+                   withObject:nil
+                   afterDelay:0
+                      inModes:[NSArray arrayWithObjects:NSDefaultRunLoopMode, NSModalPanelRunLoopMode,
+                                       NSEventTrackingRunLoopMode, nil]];
+    }
+}
+
+@end
+
+@interface NSView (TNFocusRing)
+@end
+
+@implementation NSView (TNFocusRing)
+
++ (void)load {
+    nativeDisplay = TNReplaceMethod(self, @selector(displayRectIgnoringOpacity:inContext:), display);
+}
+
+@end
