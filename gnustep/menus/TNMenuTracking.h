@@ -2,9 +2,7 @@
 
 #import <AppKit/AppKit.h>
 
-#import "gnustep/menus/TNMenuWindow.h"
-
-#include <vector>
+#import "gnustep/menus/TNOpenMenus.h"
 
 /// Follows the pointer and the keyboard through a menu and its submenus until an item is chosen, or none.
 class TNMenuTracking {
@@ -16,9 +14,11 @@ public:
     TNMenuTracking &operator=(const TNMenuTracking &) = delete;
 
     /// Opens the menu with its upper left corner there, or with that of one of its items.
-    void openAt(NSMenu *menu, NSPoint upperLeft, NSMenuItem *positioned = nil);
+    void openAt(NSMenu *menu, NSPoint upperLeft, NSMenuItem *positioned = nil) {
+        menus_.openAt(menu, upperLeft, positioned);
+    }
     /// Opens the menu of an item of a menu bar. The pointer and the arrow keys then go from menu to menu.
-    void openFromBar(NSMenuView *bar, NSInteger item);
+    void openFromBar(NSMenuView *bar, NSInteger item) { menus_.openFromBar(bar, item); }
 
     /// Returns when all is closed again, and after the action of the item that was chosen. NO when none was.
     BOOL run();
@@ -32,12 +32,6 @@ private:
         bool isDone = true;
     };
 
-    void open(NSMenu *menu);
-    void openSubmenu(std::size_t depth, NSInteger row);
-    void closeBelow(std::size_t count);
-    void openBarItem(NSInteger item);
-    [[nodiscard]] NSInteger barItemAt(NSPoint point) const;
-
     void handle(NSEvent *event);
     void pointerMoved(NSPoint point);
     void pointerMovedOutside(NSPoint point);
@@ -45,24 +39,15 @@ private:
     void released(NSPoint point);
     void wheel(NSEvent *event);
     void key(unichar character);
-    void moveMark(int step);
-    void openMarked();
-    void back();
     void choose(std::size_t depth, NSInteger row);
     void rest();
     void showTip();
     void hideTip();
 
-    /// How many of the open menus the point is in, from the first one; 0 for none.
-    [[nodiscard]] std::size_t depthAt(NSPoint point) const;
-    /// The place of the open menu that the keyboard works in.
-    [[nodiscard]] std::size_t marked() const;
     [[nodiscard]] NSDate *nextLook() const;
-    [[nodiscard]] NSMenuItem *itemAt(std::size_t depth, NSInteger row) const;
 
     NSWindow *captor_;
-    NSMenuView *bar_ = nil;
-    std::vector<TNMenuWindow *> open_;
+    TNOpenMenus menus_;
     Resting resting_;
     NSPoint start_;
     NSPoint pointer_;
