@@ -45,15 +45,9 @@ std::optional<TemplateWork> FactoryLists::reset(RuleCategory category) {
     return templateFiles_.finish(files, list);
 }
 
-void FactoryLists::recoverHeldTemplateFiles(const RuleList& stored) {
-    templateFiles_.recoverHeld(stored);
-}
-
-void FactoryLists::recoverTemplateFiles() {
-    templateFiles_.recover(lists_[RuleCategory::createNewFile], [](const RuleList& stored) {
-        const auto factory = buildTemplates();
-        return std::equal(stored.begin(), stored.end(), factory.begin(), factory.end());
-    });
+bool FactoryLists::isFactoryTemplates(const RuleList& list) {
+    const auto factory = buildTemplates();
+    return std::equal(list.begin(), list.end(), factory.begin(), factory.end());
 }
 
 std::optional<std::vector<RuleRecord>> FactoryLists::build(RuleCategory category) {

@@ -36,10 +36,8 @@ public:
     /// folder could not be held.
     std::optional<TemplateWork> reset(RuleCategory category);
 
-    /// At a start, ahead of all that looks at the template folder; see `TemplateFiles::recoverHeld`.
-    void recoverHeldTemplateFiles(const RuleList& stored);
-    /// At a start, once the templates are loaded: finishes a change of template files that was interrupted.
-    void recoverTemplateFiles();
+    /// Whether these are the templates that a reset gives.
+    [[nodiscard]] static bool isFactoryTemplates(const RuleList& list);
 
     /// One factory record of the Others list; nothing, with a log line, when its image is missing.
     [[nodiscard]] std::optional<RuleRecord> makeOthersRecord(const FactoryAction& row);

@@ -11,6 +11,7 @@
 #include "prefs/RuleList.h"
 #include "prefs/RulePublisher.h"
 #include "prefs/SharedPreferences.h"
+#include "prefs/TemplateRecovery.h"
 #include "prefs/UnreadableValues.h"
 
 #include <algorithm>
@@ -27,8 +28,7 @@ void PreferenceLoading::prepareStoresAndFolders() {
     if (!local_.contains(factsOf(RuleCategory::copyFilesTo).listKey)) {
         buildFeatureArray();
     }
-    factory_.recoverHeldTemplateFiles(
-        RuleList(RuleCategory::createNewFile, storedRecords(RuleCategory::createNewFile)));
+    recovery_.recoverHeld(RuleList(RuleCategory::createNewFile, storedRecords(RuleCategory::createNewFile)));
     ensureTemplates();
     icons_.rebuild();
 }
@@ -71,7 +71,7 @@ void PreferenceLoading::loadLists() {
     for (const auto category : loadedFirst) {
         load(category);
     }
-    factory_.recoverTemplateFiles();
+    recovery_.recover(lists_[RuleCategory::createNewFile], FactoryLists::isFactoryTemplates);
     if (!local_.contains(key::imageToIcon)) {
         addImageToIconFeature();
     }

@@ -17,6 +17,7 @@ class RuleLists;
 class RulePublisher;
 class SharedPreferences;
 class SystemLog;
+class TemplateRecovery;
 
 /// Brings the preferences into a usable state each time the window is loaded, before any page is shown. No
 /// step reports an error to the user.
@@ -24,9 +25,9 @@ class PreferenceLoading {
 public:
     PreferenceLoading(PreferenceStores& stores, FileManager& files, const KnownFolders& folders,
         SystemLog& log, LocalPreferences& local, RuleLists& lists, RulePublisher& publisher,
-        FactoryLists& factory, IconFolders& icons)
+        FactoryLists& factory, TemplateRecovery& recovery, IconFolders& icons)
         : stores_(stores), files_(files), folders_(folders), log_(log), local_(local), lists_(lists),
-          publisher_(publisher), factory_(factory), icons_(icons) {}
+          publisher_(publisher), factory_(factory), recovery_(recovery), icons_(icons) {}
 
     /// Opens both stores, keeps unreadable originals aside, seeds the switches, builds the feature array on
     /// the first run, puts back template files that an earlier process was about to, lays out the templates
@@ -57,6 +58,7 @@ private:
     RuleLists& lists_;
     RulePublisher& publisher_;
     FactoryLists& factory_;
+    TemplateRecovery& recovery_;
     IconFolders& icons_;
 };
 

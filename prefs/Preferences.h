@@ -8,6 +8,8 @@
 #include "prefs/RuleList.h"
 #include "prefs/RulePublisher.h"
 #include "prefs/TemplateFiles.h"
+#include "prefs/TemplateFolder.h"
+#include "prefs/TemplateRecovery.h"
 
 namespace tarnwick {
 
@@ -23,7 +25,9 @@ struct Preferences {
     RuleLists lists;
     RulePublisher publisher;
     HeldFiles held;
+    TemplateFolder templateFolder;
     TemplateFiles templateFiles;
+    TemplateRecovery recovery;
     FactoryLists factory;
     IconFolders icons;
     PreferenceLoading loading;

@@ -1,5 +1,7 @@
 #include "prefs/TemplateNote.h"
 
+#include "prefs/LocalPreferences.h"
+#include "prefs/PreferenceKeys.h"
 #include "prefs/RuleList.h"
 #include "values/PlistDigest.h"
 
@@ -122,6 +124,17 @@ std::vector<std::string> TemplateNote::names() const {
         }
     }
     return names;
+}
+
+void forgetTemplateNote(LocalPreferences& local) {
+    if (local.contains(key::pendingTemplateFiles)) {
+        local.remove(key::pendingTemplateFiles);
+    }
+}
+
+void forgetTemplateNoteOnDisk(LocalPreferences& local) {
+    forgetTemplateNote(local);
+    local.synchronize();
 }
 
 } // namespace tarnwick

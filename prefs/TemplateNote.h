@@ -8,6 +8,7 @@
 
 namespace tarnwick {
 
+class LocalPreferences;
 class RuleList;
 
 /// What `LocalPreferences` holds under "pendingTemplateFiles" while work on template files is under way: an
@@ -37,5 +38,10 @@ struct TemplateNote {
     /// The names that the work writes or removes.
     [[nodiscard]] std::vector<std::string> names() const;
 };
+
+/// From now on there is no note; nothing is synchronised.
+void forgetTemplateNote(LocalPreferences& local);
+/// On the disk too: a start that found the note would take what is left where files were held for whole.
+void forgetTemplateNoteOnDisk(LocalPreferences& local);
 
 } // namespace tarnwick
