@@ -52,11 +52,11 @@ std::optional<Page> pageShownBy(SEL action) {
 }
 
 - (void)exportSettings:(id)sender {
-    _controller->exportSettings();
+    _controller->transfer().exportSettings();
 }
 
 - (void)importSettings:(id)sender {
-    _controller->importSettings();
+    _controller->transfer().importSettings();
 }
 
 - (BOOL)validateRuleItem:(NSMenuItem *)item {
@@ -84,16 +84,16 @@ std::optional<Page> pageShownBy(SEL action) {
 - (void)takeNoticeStep:(NoticeButton *)sender {
     // The button goes if the notice does.
     const auto notice = [sender notice];
-    _controller->take(notice);
+    _controller->warnings().take(notice);
 }
 
 - (void)putNoticeAway:(NoticeButton *)sender {
-    _controller->putAway([sender notice].kind);
+    _controller->warnings().putAway([sender notice].kind);
 }
 
 - (void)showNextFault:(id)sender {
     if (const auto category = [self shownCategory]) {
-        _controller->showNextFault(*category);
+        _controller->warnings().showNextFault(*category);
     }
 }
 

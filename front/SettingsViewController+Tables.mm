@@ -72,7 +72,7 @@ long firstDraggedRow(NSPasteboard *pasteboard) {
     const auto &rows = _controller->rows();
     NSView *cell = tarnwick::makeCell(rows.cell(category, identifier, row), category,
         tarnwick::toNSString(rows.label(category, identifier, row)), self);
-    tarnwick::remarkOn(cell, _controller->remarks().of(category, identifier, row));
+    tarnwick::remarkOn(cell, _controller->warnings().remarks().of(category, identifier, row));
     return cell;
 }
 
@@ -85,7 +85,7 @@ long firstDraggedRow(NSPasteboard *pasteboard) {
         for (NSUInteger row = rows.location; row < NSMaxRange(rows); ++row) {
             const auto place = static_cast<NSInteger>(row);
             if (NSView *cell = [table viewAtColumn:index row:place makeIfNecessary:NO]) {
-                tarnwick::remarkOn(cell, _controller->remarks().of(category, identifier, place));
+                tarnwick::remarkOn(cell, _controller->warnings().remarks().of(category, identifier, place));
             }
         }
     }

@@ -57,7 +57,7 @@ using tarnwick::RuleCategory;
 
 - (void)awakeFromNib {
     _controller->awakeFromNib();
-    _controller->watch();
+    _controller->warnings().watch();
 }
 
 - (void)viewDidLoad {
@@ -74,7 +74,7 @@ using tarnwick::RuleCategory;
 }
 
 - (void)applicationActivated {
-    _controller->applicationActivated();
+    _controller->warnings().applicationActivated();
 }
 
 - (void)endEditing:(NSNotification *)notification {

@@ -33,13 +33,8 @@ SettingsController::SettingsController(const Ports& ports, SettingsWindow& windo
       rows_(preferences_.lists, ports.folders, ports.bundle, ports.images),
       finding_(preferences_.lists, rows_, ports.bundle, editing_.editor, window),
       commands_(*this, preferences_, editing_, ports.workspace, window),
-      health_(
-          preferences_.lists, ports.folders, ports.bundle, ports.files, ports.images, ports.runLoop, window),
-      remarks_(preferences_.lists, health_, ports.bundle),
-      preview_(preferences_.lists, preferences_.local, rows_, ports.folders, ports.bundle, ports.images),
-      notices_(integration_.finderExtension, ports.bundle, ports.workspace, ports.preferences) {
-    editing_.editor.onChange([this](RuleCategory category) { health_.listChanged(category); });
-}
+      warnings_(ports, preferences_.lists, integration_.finderExtension, editing_.editor, window),
+      preview_(preferences_.lists, preferences_.local, rows_, ports.folders, ports.bundle, ports.images) {}
 
 void SettingsController::awakeFromNib() {
     preferences_.loading.prepareStoresAndFolders();
@@ -87,14 +82,7 @@ void SettingsController::showPage(Page page) {
         // The copy/move-to table in all three cases, on purpose.
         window_.reload(RuleCategory::copyFilesTo);
     }
-    health_.pageShown(layoutOf(page).category);
-}
-
-void SettingsController::showNextFault(RuleCategory category) {
-    editing_.editor.endEditing();
-    if (const auto row = health_.nextFault(category, window_.selectedRow(category))) {
-        window_.selectRow(category, *row);
-    }
+    warnings_.pageShown(layoutOf(page).category);
 }
 
 void SettingsController::putFactoryListBack(RuleCategory category) {
@@ -106,48 +94,6 @@ void SettingsController::showRule(RuleCategory category, long row) {
     showPage(pageOf(category));
     window_.selectRow(category, row);
     tableClicked(category);
-}
-
-void SettingsController::watch() {
-    health_.watch();
-    runLoop_.performAfterDelay(startDelaySeconds, [this] { lookAround(); });
-}
-
-void SettingsController::applicationActivated() {
-    health_.applicationActivated();
-    lookAround();
-}
-
-void SettingsController::lookAround() {
-    window_.showNotices(notices_.current());
-    for (const auto page : allPages) {
-        const auto& layout = layoutOf(page);
-        for (const auto& facts : layout.switches) {
-            window_.setSwitchForced(facts.key, stores_.isForced(facts.key));
-        }
-        if (!layout.enableAllTitle.empty()) {
-            const auto key = factsOf(*layout.category).enableAllKey;
-            window_.setSwitchForced(key, stores_.isForced(key));
-        }
-    }
-}
-
-void SettingsController::take(const Notice& notice) {
-    switch (notice.step) {
-    case NoticeStep::none:
-        break;
-    case NoticeStep::turnOn:
-        integration_.finderExtension.openSystemPreferences();
-        break;
-    case NoticeStep::showInFinder:
-        workspace_.showInFileViewer(notice.path);
-        break;
-    }
-}
-
-void SettingsController::putAway(NoticeKind kind) {
-    notices_.putAway(kind);
-    window_.showNotices(notices_.current());
 }
 
 void SettingsController::tableClicked(RuleCategory category) {

@@ -6,13 +6,11 @@
 #include "ui/Finding.h"
 #include "ui/LocalizedStepNames.h"
 #include "ui/MenuPreview.h"
-#include "ui/Notices.h"
 #include "ui/Page.h"
-#include "ui/RowRemarks.h"
 #include "ui/RuleCommands.h"
-#include "ui/RuleHealth.h"
 #include "ui/RuleRows.h"
 #include "ui/SettingsTransfer.h"
+#include "ui/Warnings.h"
 
 #include <optional>
 #include <string>
@@ -47,7 +45,6 @@ public:
 
     void showPage(Page page);
     [[nodiscard]] const RuleRows& rows() const { return rows_; }
-    [[nodiscard]] const RowRemarks& remarks() const { return remarks_; }
     /// A click in a table: its remove button is enabled exactly while a removable row is selected.
     void tableClicked(RuleCategory category);
 
@@ -87,35 +84,20 @@ public:
     /// When the process ends.
     void removeHeldFiles() { preferences_.held.removeAll(); }
     void selectPath(RuleCategory category, long row) { editing_.pathChoosing.selectPath(category, row); }
-
-    /// From now on the window is shown what is wrong with the rules of its page, and around the application.
-    void watch();
-    /// Selects the next row that something is wrong with.
-    void showNextFault(RuleCategory category);
-    [[nodiscard]] const MenuPreview& preview() const { return preview_; }
     /// Shows the rule's page and selects its row.
     void showRule(RuleCategory category, long row);
-    /// The user comes back to the application.
-    void applicationActivated();
-    /// Does what the notice offers.
-    void take(const Notice& notice);
-    void putAway(NoticeKind kind);
 
+    [[nodiscard]] Warnings& warnings() { return warnings_; }
+    [[nodiscard]] const MenuPreview& preview() const { return preview_; }
+    [[nodiscard]] SettingsTransfer& transfer() { return transfer_; }
     /// What can be done with the list that is shown and its selected row, as the menus offer it.
     [[nodiscard]] RuleCommands& commands() { return commands_; }
-
-    void exportSettings() { transfer_.exportSettings(); }
-    void importSettings() { transfer_.importSettings(); }
-
     /// Finding a rule by its texts.
     [[nodiscard]] Finding& finding() { return finding_; }
-
     /// What the window asks of the system around the program.
     [[nodiscard]] SystemIntegration& integration() { return integration_; }
 
 private:
-    void lookAround();
-
     PreferenceStores& stores_;
     const ApplicationBundle& bundle_;
     Workspace& workspace_;
@@ -131,10 +113,8 @@ private:
     RuleRows rows_;
     Finding finding_;
     RuleCommands commands_;
-    RuleHealth health_;
-    RowRemarks remarks_;
+    Warnings warnings_;
     MenuPreview preview_;
-    Notices notices_;
 };
 
 } // namespace tarnwick

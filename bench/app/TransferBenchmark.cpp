@@ -68,11 +68,11 @@ int main(int argc, char* argv[]) {
 
     const auto path = std::string(std::getenv("TARNWICK_USER_FOLDER")) + "/settings.plist";
     const auto exporting = [&] {
-        controller.exportSettings();
+        controller.transfer().exportSettings();
         inMemory.panels.confirm({path});
     };
     const auto importing = [&] {
-        controller.importSettings();
+        controller.transfer().importSettings();
         inMemory.panels.confirm({path});
     };
     const auto put = [&](const PlistValue& document) {

@@ -80,7 +80,7 @@ struct Disk {
 };
 
 PlistValue exported(Program& program, testing::InMemoryPlatform& platform) {
-    program.controller().exportSettings();
+    program.controller().transfer().exportSettings();
     platform.panels.confirm({"/exported"});
     auto document = *platform.contents.listAt("/exported");
     platform.files.erase("/exported");
@@ -93,7 +93,7 @@ void import(Program& program, testing::InMemoryPlatform& platform, const ListFil
     platform.panels.saveRequests.clear();
     platform.systemLog.lines.clear();
     platform.contents.putList("/import", content);
-    program.controller().importSettings();
+    program.controller().transfer().importSettings();
     platform.panels.confirm({"/import"});
     platform.files.erase("/import");
     platform.log.clear();

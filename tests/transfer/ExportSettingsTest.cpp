@@ -16,7 +16,7 @@ protected:
         platform_.panels.alerts.clear();
     }
     PlistDictionary exported() {
-        controller_.exportSettings();
+        controller_.transfer().exportSettings();
         platform_.panels.confirm({place});
         const auto* value = platform_.contents.listAt(place);
         return value && value->dictionary() ? *value->dictionary() : PlistDictionary();
@@ -33,7 +33,7 @@ protected:
 
 TEST_F(ExportSettingsTest, TheFileIsNamedAfterTheDay) {
     launch();
-    controller_.exportSettings();
+    controller_.transfer().exportSettings();
     EXPECT_EQ(platform_.panels.saveRequests,
         (std::vector{SavePanelRequest{"Tarnwick Settings 2023-03-08.plist", "plist"}}));
 }
@@ -171,7 +171,7 @@ TEST_F(ExportSettingsTest, ItChangesNothing) {
 
 TEST_F(ExportSettingsTest, ACancelledPanelWritesNothing) {
     launch();
-    controller_.exportSettings();
+    controller_.transfer().exportSettings();
     platform_.panels.cancel();
     EXPECT_FALSE(platform_.files.exists(place));
 }
@@ -179,7 +179,7 @@ TEST_F(ExportSettingsTest, ACancelledPanelWritesNothing) {
 TEST_F(ExportSettingsTest, AnEditInProgressIsAmongThem) {
     launch();
     window_.openEdit = [this] { controller_.textEdited("CustomIconName", 0, "Renamed"); };
-    controller_.exportSettings();
+    controller_.transfer().exportSettings();
     EXPECT_FALSE(window_.openEdit);
     window_.openEdit = [this] { controller_.textEdited("CustomIconName", 1, "Renamed too"); };
     platform_.panels.confirm({place});
@@ -195,7 +195,7 @@ class FailedExportTest : public ExportSettingsTest,
 TEST_P(FailedExportTest, SaysWhy) {
     launch();
     platform_.contents.trouble = GetParam().first;
-    controller_.exportSettings();
+    controller_.transfer().exportSettings();
     platform_.panels.confirm({place});
     ASSERT_EQ(platform_.panels.alerts.size(), 1U);
     EXPECT_EQ(platform_.panels.alerts[0].messageText, "The settings were not exported.");

@@ -30,7 +30,7 @@ protected:
 };
 
 TEST_F(ImportSettingsTest, OneListFileMayBeChosen) {
-    machine.controller.importSettings();
+    machine.controller.transfer().importSettings();
     ASSERT_EQ(machine.platform.panels.requests.size(), 1U);
     const auto& request = machine.platform.panels.requests[0];
     EXPECT_EQ(request.allowedFileTypes, (std::vector<std::string>{"plist"}));
@@ -48,7 +48,7 @@ TEST_F(ImportSettingsTest, NothingChangesBeforeTheUserAgrees) {
 }
 
 TEST_F(ImportSettingsTest, ACancelledPanelAsksNothing) {
-    machine.controller.importSettings();
+    machine.controller.transfer().importSettings();
     machine.platform.panels.cancel();
     EXPECT_TRUE(machine.platform.panels.alerts.empty());
     EXPECT_TRUE(machine.isAs(untouched));

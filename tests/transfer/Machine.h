@@ -27,7 +27,7 @@ public:
     }
 
     PlistDictionary exported() {
-        controller.exportSettings();
+        controller.transfer().exportSettings();
         platform.panels.confirm({"/exported"});
         const auto* document = platform.contents.listAt("/exported");
         return document && document->dictionary() ? *document->dictionary() : PlistDictionary();
@@ -35,7 +35,7 @@ public:
     /// The first button of the alert, unless `answers` says otherwise.
     void import(const ListFileContent& content) {
         platform.contents.putList("/import", content);
-        controller.importSettings();
+        controller.transfer().importSettings();
         platform.panels.confirm({"/import"});
     }
     void import(const PlistDictionary& document) { import(ListFileContent(PlistValue(document))); }

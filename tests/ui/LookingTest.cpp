@@ -18,7 +18,7 @@ protected:
         }
         storeList(folders, std::move(records));
         launch();
-        controller_.watch();
+        controller_.warnings().watch();
         controller_.showPage(Page::commonPath);
     }
     /// Lets what is put off happen, and gives the paths that were looked at meanwhile.
@@ -43,7 +43,7 @@ TEST_F(LookingTest, NothingIsLookedAtUnlessTheWindowWantsToKnow) {
     storeList(folders, {makeRecord({{"realPath", "/a"}})});
     launch();
     controller_.showPage(Page::commonPath);
-    controller_.applicationActivated();
+    controller_.warnings().applicationActivated();
     EXPECT_TRUE(looks().empty());
     EXPECT_FALSE(platform_.log.holds("show faults commonPath"));
 }
@@ -53,10 +53,10 @@ TEST_F(LookingTest, ShowingAPageAndComingBackLookAtItsListAlone) {
     launchWith({"/a"});
     EXPECT_EQ(looks(), (std::vector<std::string>{"/a", "/a"}));
     EXPECT_TRUE(looks().empty());
-    controller_.applicationActivated();
+    controller_.warnings().applicationActivated();
     EXPECT_EQ(looks(), (std::vector<std::string>{"/a", "/a"}));
     controller_.showPage(Page::moreApps);
-    controller_.applicationActivated();
+    controller_.warnings().applicationActivated();
     EXPECT_TRUE(looks().empty());
 }
 
@@ -118,7 +118,7 @@ TEST_F(LookingTest, AVolumeThatLetALookWaitIsSparedUntilTheUserComesBack) {
     controller_.showPage(Page::commonPath);
     EXPECT_FALSE(looksAt("/Volumes/Slow/b"));
     delay("", 0);
-    controller_.applicationActivated();
+    controller_.warnings().applicationActivated();
     EXPECT_TRUE(looksAt("/Volumes/Slow/b"));
 }
 
@@ -161,7 +161,7 @@ TEST_F(LookingTest, APictureIsReadOnceForAsLongAsItsListHoldsIt) {
     const PlistData bad({1, 2, 3});
     storeList(RuleCategory::customIcon, {makeRecord({{"displayName", "A"}, {"icon", bad}})});
     launch();
-    controller_.watch();
+    controller_.warnings().watch();
     controller_.showPage(Page::customIcon);
     platform_.runLoop.runMain();
     const auto before = platform_.images.reads;

@@ -9,11 +9,11 @@ class NoticesTest : public SettingsFixture {
 protected:
     void SetUp() override {
         launch();
-        controller_.watch();
+        controller_.warnings().watch();
     }
     /// What the window says once the user comes back.
     [[nodiscard]] const std::vector<Notice>& notices() {
-        controller_.applicationActivated();
+        controller_.warnings().applicationActivated();
         return window_.notices;
     }
     /// The text of the only notice.
@@ -41,7 +41,7 @@ TEST_F(NoticesTest, AnExtensionThatIsOffIsSaidSoonAfterTheStartAndLeadsToWhereIt
     EXPECT_EQ(window_.notices[0].text, "The Finder reports that the extension of Tarnwick is turned off.");
     EXPECT_STREQ(titleOf(window_.notices[0].step), "Turn On\u2026");
     platform_.log.clear();
-    controller_.take(window_.notices[0]);
+    controller_.warnings().take(window_.notices[0]);
     EXPECT_EQ(platform_.log.lines(), std::vector<std::string>{"show extension management"});
 }
 
@@ -64,7 +64,7 @@ TEST_F(NoticesTest, AnotherCopyIsSaidWithItsPlaceAndShown) {
     EXPECT_EQ(text(), "The system knows another copy of Tarnwick, at /Volumes/Old/Tarnwick.app.");
     EXPECT_STREQ(titleOf(window_.notices[0].step), "Show in Finder");
     platform_.log.clear();
-    controller_.take(window_.notices[0]);
+    controller_.warnings().take(window_.notices[0]);
     ASSERT_EQ(platform_.log.lines().size(), 1U);
     EXPECT_NE(platform_.log.lines()[0].find("/Volumes/Old/Tarnwick.app"), std::string::npos);
 }
@@ -73,7 +73,7 @@ TEST_F(NoticesTest, WhatIsPutAwayStaysAwayAndTheOthersStay) {
     platform_.bundle.extensionEnabled = false;
     registerCopies({"/Volumes/Old/Tarnwick.app"});
     EXPECT_EQ(notices().size(), 2U);
-    controller_.putAway(NoticeKind::extensionOff);
+    controller_.warnings().putAway(NoticeKind::extensionOff);
     ASSERT_EQ(window_.notices.size(), 1U);
     EXPECT_EQ(notices()[0].kind, NoticeKind::otherCopy);
 }
@@ -86,18 +86,18 @@ TEST_F(NoticesTest, ListsThatAnAdministratorHasSetAreSaidByTheirPages) {
 
 TEST_F(NoticesTest, SwitchesThatAnAdministratorHasSetAreSaidToTheWindow) {
     platform_.preferences.forced = {"enableCommonPath", "enableAllOfOthers", "unknown"};
-    controller_.applicationActivated();
+    controller_.warnings().applicationActivated();
     EXPECT_EQ(window_.forcedSwitches,
         (std::set<std::string, std::less<>>{"enableCommonPath", "enableAllOfOthers"}));
     platform_.preferences.forced.clear();
-    controller_.applicationActivated();
+    controller_.warnings().applicationActivated();
     EXPECT_TRUE(window_.forcedSwitches.empty());
 }
 
 TEST_F(NoticesTest, LookingAroundWritesNothingAndAsksNoQuestionOfTheUser) {
     platform_.bundle.extensionEnabled = false;
     platform_.log.clear();
-    controller_.applicationActivated();
+    controller_.warnings().applicationActivated();
     EXPECT_TRUE(platform_.log.linesWith("local").empty());
     EXPECT_TRUE(platform_.log.linesWith("shared").empty());
     EXPECT_TRUE(platform_.panels.alerts.size() == 1U) << "the prompt of the first launch alone";

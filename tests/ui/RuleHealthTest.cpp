@@ -19,7 +19,7 @@ protected:
         storeList(folders, std::move(records));
         platform_.files.folders.insert(existing.begin(), existing.end());
         launch();
-        controller_.watch();
+        controller_.warnings().watch();
         show(Page::commonPath);
     }
     void show(Page page) {
@@ -27,7 +27,7 @@ protected:
         platform_.runLoop.runMain();
     }
     [[nodiscard]] CellRemark remark(RuleCategory category, long row, std::string_view column = "realPath") {
-        return controller_.remarks().of(category, column, row);
+        return controller_.warnings().remarks().of(category, column, row);
     }
     [[nodiscard]] std::string help(RuleCategory category, long row) { return remark(category, row).help; }
     [[nodiscard]] std::vector<std::string>& asked() { return platform_.files.asked; }
@@ -68,7 +68,7 @@ TEST_F(RuleHealthTest, ASystemThatRefusesToSayLeavesTheRuleAlone) {
 
 TEST_F(RuleHealthTest, ATemplateThatHasLostItsFileIsSaid) {
     launch();
-    controller_.watch();
+    controller_.warnings().watch();
     platform_.runLoop.runMain();
     EXPECT_EQ(window_.faults[RuleCategory::createNewFile], "");
     platform_.files.files.erase("/container/Templates/CreateNewFile/TXT.txt");
@@ -82,7 +82,7 @@ TEST_F(RuleHealthTest, ATemplateThatHasLostItsFileIsSaid) {
 TEST_F(RuleHealthTest, WithoutTheSharedFolderNothingIsSaidOfTemplates) {
     launch();
     platform_.folders.container.reset();
-    controller_.watch();
+    controller_.warnings().watch();
     show(Page::createNewFile);
     EXPECT_EQ(window_.faults[RuleCategory::createNewFile], "");
     EXPECT_TRUE(asked().empty());
@@ -93,7 +93,7 @@ TEST_F(RuleHealthTest, APictureThatCannotBeShownIsSaid) {
                                             makeRecord({{"displayName", "Bad"}, {"icon", PlistData({1, 2})}}),
                                             makeRecord({{"displayName", "None"}})});
     launch();
-    controller_.watch();
+    controller_.warnings().watch();
     show(Page::customIcon);
     EXPECT_FALSE(remark(RuleCategory::customIcon, 0).warns);
     EXPECT_EQ(help(RuleCategory::customIcon, 1),
@@ -105,7 +105,7 @@ TEST_F(RuleHealthTest, AFurtherItemMayLackAPictureButNotHaveABrokenOne) {
     storeList(RuleCategory::others, {makeRecord({{"Action", "Open in VSCode"}}),
                                         makeRecord({{"Action", "Broken"}, {"icon", PlistData({1})}})});
     launch();
-    controller_.watch();
+    controller_.warnings().watch();
     show(Page::others);
     EXPECT_FALSE(remark(RuleCategory::others, 0).warns);
     EXPECT_EQ(window_.faults[RuleCategory::others], "1 picture cannot be shown");
@@ -113,7 +113,7 @@ TEST_F(RuleHealthTest, AFurtherItemMayLackAPictureButNotHaveABrokenOne) {
 
 TEST_F(RuleHealthTest, WhatCameWithTheApplicationHasNoFault) {
     launch();
-    controller_.watch();
+    controller_.warnings().watch();
     for (const auto page : allPages) {
         show(page);
     }
@@ -153,7 +153,7 @@ TEST_F(RuleHealthTest, TheNextFaultIsBelowTheSelectionAndThenFromTheTop) {
     launchWith({"/a", "/gone", "/a", "Undefined"}, {"/a"});
     auto& table = window_.table(folders);
     for (const long expected : {1L, 3L, 1L}) {
-        controller_.showNextFault(folders);
+        controller_.warnings().showNextFault(folders);
         EXPECT_EQ(table.selected, expected);
     }
 }
@@ -162,7 +162,7 @@ TEST_F(RuleHealthTest, WithoutAFaultTheSelectionStays) {
     launchWith({"/a"}, {"/a"});
     window_.table(folders).selected = 0;
     platform_.log.clear();
-    controller_.showNextFault(folders);
+    controller_.warnings().showNextFault(folders);
     EXPECT_TRUE(platform_.log.lines().empty());
 }
 
