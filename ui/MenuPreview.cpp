@@ -6,24 +6,14 @@
 #include "prefs/RuleList.h"
 #include "ui/RuleColumns.h"
 #include "ui/RuleRows.h"
+#include "ui/WindowLayout.h"
 
-#include <array>
+#include <algorithm>
 #include <iterator>
 
 namespace tarnwick {
 
-/// Which rules stand together. An empty switch: they always do.
-struct MenuPreview::Section {
-    RuleCategory category;
-    std::string_view title;
-    std::string_view switchKey;
-    std::string_view icon;
-};
-
 namespace {
-
-constexpr PerCategory<std::string_view> iconSwitches{"enableIconOfCreateNewFile", "enableIconOfSendFilesTo",
-    "enableIconOfCommonPath", "enableIconOfCustomIcon", "enableIconOfOthers"};
 
 constexpr std::string_view nothingOffered = "Nothing is offered here";
 constexpr std::string_view arrangement = "The Finder decides how this is arranged";
@@ -35,25 +25,24 @@ void append(std::vector<PreviewItem>& items, std::vector<PreviewItem> more) {
 } // namespace
 
 std::vector<PreviewItem> MenuPreview::items() const {
-    static constexpr std::array sections{
-        Section{RuleCategory::createNewFile, "New File", "", "createNewFile"},
-        Section{RuleCategory::copyFilesTo, "Copy to", "enableCopyFilesTo", "copyFilesTo"},
-        Section{RuleCategory::copyFilesTo, "Move to", "enableMoveFilesTo", "moveFilesTo"},
-        Section{RuleCategory::commonPath, "Common Folders", "enableCommonPath", "commonPath"},
-        Section{RuleCategory::customIcon, "Custom Icons", "", "customIcon"},
-    };
     auto items = templatesOfMainMenu();
-    for (const auto& facts : sections) {
-        if (facts.switchKey.empty() || local_.flag(facts.switchKey)) {
-            items.push_back(section(facts));
+    std::vector<PreviewItem> atFoot;
+    for (const auto page : allPages) {
+        const auto& layout = layoutOf(page);
+        for (const auto& facts : layout.sections) {
+            if (facts.switchKey.empty() || local_.flag(facts.switchKey)) {
+                items.push_back(section(*layout.category, facts));
+            }
+        }
+        if (layout.category && layout.sections.empty()) {
+            append(atFoot, rules(*layout.category));
         }
     }
     items.emplace_back();
-    auto others = rules(RuleCategory::others);
-    if (others.empty()) {
-        others.push_back(remark("No further items are offered"));
+    if (atFoot.empty()) {
+        atFoot.push_back(remark("No further items are offered"));
     }
-    append(items, std::move(others));
+    append(items, std::move(atFoot));
     items.emplace_back();
     items.push_back(remark(arrangement));
     return items;
@@ -75,17 +64,23 @@ ImagePointer MenuPreview::icon(const PreviewItem& item) const {
     return image ? image->image : nullptr;
 }
 
-PreviewItem MenuPreview::section(const Section& facts) const {
+PreviewItem MenuPreview::section(RuleCategory category, const MenuSection& facts) const {
     PreviewItem item{.kind = PreviewItem::Kind::section,
         .title = bundle_.localized(facts.title),
-        .hasIcon = local_.flag(iconSwitches[facts.category]),
-        .category = facts.category,
+        .hasIcon = hasIcons(category),
+        .category = category,
         .sectionIcon = facts.icon,
-        .items = rules(facts.category)};
+        .items = rules(category)};
     if (item.items.empty()) {
         item.items.push_back(remark(nothingOffered));
     }
     return item;
+}
+
+bool MenuPreview::hasIcons(RuleCategory category) const {
+    const auto switches = layoutOf(pageOf(category)).switches;
+    return std::any_of(switches.begin(), switches.end(),
+        [this](const auto& facts) { return facts.showsIcons && local_.flag(facts.key); });
 }
 
 std::vector<PreviewItem> MenuPreview::rules(RuleCategory category) const {
@@ -116,7 +111,7 @@ PreviewItem MenuPreview::rule(RuleCategory category, std::size_t row) const {
     const auto* name = std::get_if<TextFieldCell>(&cell.control);
     return {.kind = PreviewItem::Kind::rule,
         .title = name ? name->text : std::string(),
-        .hasIcon = local_.flag(iconSwitches[category]),
+        .hasIcon = hasIcons(category),
         .category = category,
         .row = row};
 }

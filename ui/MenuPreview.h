@@ -15,6 +15,7 @@ class KnownFolders;
 class LocalPreferences;
 class RuleLists;
 class RuleRows;
+struct MenuSection;
 
 /// An item of the menu that the Finder is given.
 struct PreviewItem {
@@ -55,9 +56,8 @@ public:
     [[nodiscard]] ImagePointer icon(const PreviewItem& item) const;
 
 private:
-    struct Section;
-
-    [[nodiscard]] PreviewItem section(const Section& facts) const;
+    [[nodiscard]] PreviewItem section(RuleCategory category, const MenuSection& facts) const;
+    [[nodiscard]] bool hasIcons(RuleCategory category) const;
     [[nodiscard]] std::vector<PreviewItem> rules(RuleCategory category) const;
     [[nodiscard]] std::vector<PreviewItem> templatesOfMainMenu() const;
     [[nodiscard]] PreviewItem rule(RuleCategory category, std::size_t row) const;

@@ -17,8 +17,16 @@ constexpr double sliceSeconds = 0.004;
 /// What a rule cannot do without.
 enum class Need { templateFile, folder, picture, pictureIfAny };
 
-constexpr PerCategory<Need> needs{
-    Need::templateFile, Need::folder, Need::folder, Need::picture, Need::pictureIfAny};
+Need needOf(RuleCategory category) {
+    const auto& facts = factsOf(category);
+    if (facts.hasTemplateFiles) {
+        return Need::templateFile;
+    }
+    if (facts.source == RuleSource::folders) {
+        return Need::folder;
+    }
+    return facts.hasPictures && !facts.hasActions ? Need::picture : Need::pictureIfAny;
+}
 
 bool hasFolder(const RuleRecord& record) {
     const auto path = record.text(field::realPath);
@@ -125,7 +133,7 @@ void RuleHealth::finish() {
 }
 
 void RuleHealth::look(const RuleRecord& record) {
-    switch (needs[pass_.category]) {
+    switch (needOf(pass_.category)) {
     case Need::templateFile:
         if (!templateFolder_.empty()) {
             files_.look(templateFile(record));
@@ -146,7 +154,7 @@ void RuleHealth::look(const RuleRecord& record) {
 }
 
 RuleFault RuleHealth::faultOf(RuleCategory category, const RuleRecord& record) const {
-    const auto need = needs[category];
+    const auto need = needOf(category);
     if (need == Need::templateFile) {
         return !templateFolder_.empty() && files_.known(templateFile(record)) == FileKind::missing
                    ? RuleFault::templateMissing

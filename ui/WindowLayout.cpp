@@ -9,7 +9,8 @@ namespace tarnwick {
 namespace {
 
 constexpr std::array<SwitchLayout, 4> createNewFileSwitches{{
-    {"enableIconOfCreateNewFile", "Show icons in the menu", "Shows each template's icon beside its name."},
+    {"enableIconOfCreateNewFile", "Show icons in the menu", "Shows each template's icon beside its name.",
+        true},
     {"enableAutoOpenAfterCreateNewFile", "Open a new file right away",
         "Opens the file in its application as soon as it has been created."},
     {"soundTipsOfNewFile", "Play a sound after creating a file",
@@ -21,7 +22,7 @@ constexpr std::array<SwitchLayout, 4> createNewFileSwitches{{
 constexpr std::array<SwitchLayout, 4> copyFilesToSwitches{{
     {"enableCopyFilesTo", "Offer copying to these folders", "Shows the section \"Copy to\" in the menu."},
     {"enableMoveFilesTo", "Offer moving to these folders", "Shows the section \"Move to\" in the menu."},
-    {"enableIconOfSendFilesTo", "Show icons in the menu", "Shows each folder's icon beside its name."},
+    {"enableIconOfSendFilesTo", "Show icons in the menu", "Shows each folder's icon beside its name.", true},
     {"soundTipsOfSendFilesTo", "Play a sound after copying or moving",
         "A short sound says that the files have arrived."},
 }};
@@ -29,15 +30,15 @@ constexpr std::array<SwitchLayout, 4> copyFilesToSwitches{{
 constexpr std::array<SwitchLayout, 2> commonPathSwitches{{
     {"enableCommonPath", "Offer these folders in the menu",
         "Shows the section of common folders in the menu."},
-    {"enableIconOfCommonPath", "Show icons in the menu", "Shows each folder's icon beside its name."},
+    {"enableIconOfCommonPath", "Show icons in the menu", "Shows each folder's icon beside its name.", true},
 }};
 
 constexpr std::array<SwitchLayout, 1> customIconSwitches{{
-    {"enableIconOfCustomIcon", "Show icons in the menu", "Shows each picture beside its name."},
+    {"enableIconOfCustomIcon", "Show icons in the menu", "Shows each picture beside its name.", true},
 }};
 
 constexpr std::array<SwitchLayout, 4> othersSwitches{{
-    {"enableIconOfOthers", "Show icons in the menu", "Shows each item's icon beside its name."},
+    {"enableIconOfOthers", "Show icons in the menu", "Shows each item's icon beside its name.", true},
     {"deleteDirectlyRequiresConfirmation", "Confirm before deleting directly",
         "\"Delete directly\" does not use the Trash; this asks first."},
     {"newWindowOfOpenInTerminal", "Open Terminal in a new window",
@@ -54,29 +55,40 @@ constexpr CountTexts iconsOn{
 constexpr CountTexts itemsOn{
     "%1$@ of %2$@ items on: none", "%1$@ of %2$@ items on: one", "%1$@ of %2$@ items on: several"};
 
+constexpr std::array<MenuSection, 1> createNewFileSections{{{"New File", "", "createNewFile"}}};
+constexpr std::array<MenuSection, 2> copyFilesToSections{
+    {{"Copy to", "enableCopyFilesTo", "copyFilesTo"}, {"Move to", "enableMoveFilesTo", "moveFilesTo"}}};
+constexpr std::array<MenuSection, 1> commonPathSections{
+    {{"Common Folders", "enableCommonPath", "commonPath"}}};
+constexpr std::array<MenuSection, 1> customIconSections{{{"Custom Icons", "", "customIcon"}}};
+
 constexpr PerPage<PageLayout> layouts{
     PageLayout{"page-createNewFile", "New File",
         "Templates that the menu offers for creating a new file in the folder at hand.",
         RuleCategory::createNewFile, createNewFileSwitches, "Enable all templates", templatesOn,
         "Add Templates\u2026", "No templates",
-        "Choose \u201CAdd Templates\u2026\u201D and pick a file: the menu then offers new files like it."},
+        "Choose \u201CAdd Templates\u2026\u201D and pick a file: the menu then offers new files like it.",
+        createNewFileSections},
     PageLayout{"page-copyFilesTo", "Copy & Move To",
         "Folders that the selected files can be copied or moved to.", RuleCategory::copyFilesTo,
         copyFilesToSwitches, "", {}, "Add Folders\u2026", "No folders to copy or move to",
-        "Choose \u201CAdd Folders\u2026\u201D and pick a folder: the menu then copies or moves files there."},
+        "Choose \u201CAdd Folders\u2026\u201D and pick a folder: the menu then copies or moves files there.",
+        copyFilesToSections},
     PageLayout{"page-commonPath", "Common Folders", "Folders that are one click away in every menu.",
         RuleCategory::commonPath, commonPathSwitches, "", {}, "Add Folders\u2026", "No common folders",
-        "Choose \u201CAdd Folders\u2026\u201D and pick a folder: the menu then opens it from anywhere."},
+        "Choose \u201CAdd Folders\u2026\u201D and pick a folder: the menu then opens it from anywhere.",
+        commonPathSections},
     PageLayout{"page-customIcon", "Custom Icons",
         "Pictures that the selected files and folders can be given as their icon.", RuleCategory::customIcon,
         customIconSwitches, "Enable all icons", iconsOn, "Add Pictures\u2026", "No pictures",
-        "Choose \u201CAdd Pictures\u2026\u201D and pick a PNG file: the menu then offers it as an icon."},
+        "Choose \u201CAdd Pictures\u2026\u201D and pick a PNG file: the menu then offers it as an icon.",
+        customIconSections},
     PageLayout{"page-others", "More Items",
         "Further actions of the menu, and applications to open files with.", RuleCategory::others,
         othersSwitches, "Enable all items", itemsOn, "Add Items\u2026", "No items",
-        "Choose \u201CAdd Items\u2026\u201D and pick an item: the menu then shows it again."},
+        "Choose \u201CAdd Items\u2026\u201D and pick an item: the menu then shows it again.", {}},
     PageLayout{"page-moreApps", "More Apps", "Other applications by the makers of Tarnwick.", std::nullopt,
-        {}, "", {}, "", "", ""},
+        {}, "", {}, "", "", "", {}},
 };
 
 constexpr std::array<AppTile, 3> tiles{{

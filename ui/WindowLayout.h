@@ -23,6 +23,17 @@ struct SwitchLayout {
     std::string_view key;
     std::string_view title;
     std::string_view toolTip;
+    /// It says whether the menu shows the icons of the page's rules.
+    bool showsIcons = false;
+};
+
+/// Rules that stand together in the Finder's menu, under a title.
+struct MenuSection {
+    std::string_view title;
+    /// Whether it is there; empty: always.
+    std::string_view switchKey;
+    /// Its icon among those that the extension is given.
+    std::string_view icon;
 };
 
 struct PageLayout {
@@ -42,6 +53,8 @@ struct PageLayout {
     /// What stands in the table while it has no rows: what belongs there, and how to add the first.
     std::string_view emptyTitle;
     std::string_view emptyHint;
+    /// Where its rules are in the menu; none: one by one at its foot.
+    std::span<const MenuSection> sections;
 };
 
 [[nodiscard]] const PageLayout& layoutOf(Page page);
