@@ -1,46 +1,41 @@
-#include "Pool.h"
+#include "Contract.h"
 
 #include "adapters/foundation/Adapters.h"
 #include "platform/PreferenceStore.h"
+#include "tests/adapters/SystemState.h"
 #include "tests/support/InMemoryPreferences.h"
-
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <ostream>
 
 namespace tarnwick::testing {
 namespace {
 
-/// One implementation of the port.
-struct Stores {
-    virtual ~Stores() = default;
-    virtual PreferenceStores& stores() = 0;
+class Stores {
+public:
+    explicit Stores(Implementation implementation) {
+        if (implementation == Implementation::overThePlatform) {
+            real_ = makePreferenceStores();
+        }
+    }
+    PreferenceStores& port() { return real_ ? *real_ : static_cast<PreferenceStores&>(memory_); }
+    /// An administrator sets this key.
+    void force(const std::string& key) {
+        if (real_) {
+            state_.set("forced", PlistArray{key});
+        } else {
+            memory_.forced = {key};
+        }
+    }
+
+private:
+    CallLog log_;
+    InMemoryPreferences memory_{log_};
+    std::unique_ptr<PreferenceStores> real_;
+    SystemState state_;
 };
 
-struct InMemory final : Stores {
-    CallLog log;
-    InMemoryPreferences preferences{log};
-    PreferenceStores& stores() override { return preferences; }
-};
-
-struct UserDefaults final : Stores {
-    std::unique_ptr<PreferenceStores> preferences = makePreferenceStores();
-    PreferenceStores& stores() override { return *preferences; }
-};
-
-struct Implementation {
-    const char* name;
-    std::unique_ptr<Stores> (*make)();
-};
 enum class Domain { standard, suite };
 
 const char* nameOf(Domain domain) {
     return domain == Domain::standard ? "StandardDomain" : "Suite";
-}
-
-void PrintTo(const Implementation& implementation, std::ostream* stream) {
-    *stream << implementation.name;
 }
 
 void PrintTo(Domain domain, std::ostream* stream) {
@@ -50,13 +45,14 @@ void PrintTo(Domain domain, std::ostream* stream) {
 class PreferenceStoreContract : public ::testing::TestWithParam<std::tuple<Implementation, Domain>> {
 protected:
     [[nodiscard]] std::unique_ptr<PreferenceStore> open() {
+        auto& port = stores.port();
         return std::get<Domain>(GetParam()) == Domain::standard
-                   ? stores->stores().openStandardDomain()
-                   : stores->stores().openSuite("H7Q2ZK5RX9.org.halvane.Tarnwick");
+                   ? port.openStandardDomain()
+                   : port.openSuite("H7Q2ZK5RX9.org.halvane.Tarnwick");
     }
 
     Pool pool;
-    std::unique_ptr<Stores> stores = std::get<Implementation>(GetParam()).make();
+    Stores stores{std::get<Implementation>(GetParam())};
 };
 
 TEST_P(PreferenceStoreContract, AnAbsentKeyHasNoValue) {
@@ -115,15 +111,38 @@ TEST_P(PreferenceStoreContract, SynchronisingChangesNoValue) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Every, PreferenceStoreContract,
-    ::testing::Combine(
-        ::testing::Values(Implementation{"InMemory",
-                              []() -> std::unique_ptr<Stores> { return std::make_unique<InMemory>(); }},
-            Implementation{"UserDefaults",
-                []() -> std::unique_ptr<Stores> { return std::make_unique<UserDefaults>(); }}),
+    ::testing::Combine(::testing::Values(Implementation::inMemory, Implementation::overThePlatform),
         ::testing::Values(Domain::standard, Domain::suite)),
     [](const auto& info) {
-        return std::string(std::get<Implementation>(info.param).name) + nameOf(std::get<Domain>(info.param));
+        return nameOf(std::get<Implementation>(info.param)) + nameOf(std::get<Domain>(info.param));
     });
+
+using PreferenceStoresContract = Contract<Stores>;
+
+TEST_P(PreferenceStoresContract, AKeyIsForcedWhileAnAdministratorHasSetIt) {
+    EXPECT_FALSE(harness_.port().isForced("arrOfOthers"));
+    harness_.force("arrOfOthers");
+    EXPECT_TRUE(harness_.port().isForced("arrOfOthers"));
+    EXPECT_FALSE(harness_.port().isForced("arrOfOther"));
+}
+
+TEST_P(PreferenceStoresContract, ASystemWideStringIsTheApplicationsOwnIfItHasOne) {
+    EXPECT_EQ(harness_.port().systemWideString("contractString"), std::nullopt);
+    harness_.port().openStandardDomain()->setValue("contractString", "own");
+    EXPECT_EQ(harness_.port().systemWideString("contractString"), "own");
+    harness_.port().openStandardDomain()->setValue("contractString", PlistArray{"own"});
+    EXPECT_EQ(harness_.port().systemWideString("contractString"), std::nullopt);
+}
+
+TEST_P(PreferenceStoresContract, TheDomainsAreApart) {
+    auto& port = harness_.port();
+    port.openStandardDomain()->setValue("apart", 1);
+    EXPECT_EQ(port.openSuite("H7Q2ZK5RX9.org.halvane.Tarnwick")->value("apart"), std::nullopt);
+    port.openSuite("H7Q2ZK5RX9.org.halvane.Tarnwick")->setValue("apart", 2);
+    EXPECT_EQ(port.openStandardDomain()->value("apart"), PlistValue(1));
+}
+
+TARNWICK_BOTH_IMPLEMENTATIONS(PreferenceStoresContract);
 
 } // namespace
 } // namespace tarnwick::testing

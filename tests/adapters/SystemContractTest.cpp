@@ -3,11 +3,15 @@
 
 #include "adapters/foundation/Adapters.h"
 #include "adapters/foundation/SystemAdapters.h"
+#include "platform/ApplicationBundle.h"
+#include "platform/KnownFolders.h"
+#include "platform/Process.h"
+#include "platform/SystemLog.h"
 #include "platform/UserScript.h"
+#include "tests/adapters/SystemState.h"
 #include "tests/support/InMemoryBundle.h"
 #include "tests/support/InMemoryFolders.h"
 #include "tests/support/InMemorySystem.h"
-#include "tests/support/InMemoryWorkspace.h"
 
 #include <cstdlib>
 #include <fstream>
@@ -27,7 +31,6 @@ public:
     ApplicationBundle& bundle() { return pick<ApplicationBundle>(*realBundle_, memoryBundle_); }
     KnownFolders& folders() { return pick<KnownFolders>(*realFolders_, memoryFolders_); }
     UserScripts& scripts() { return pick<UserScripts>(*realScripts_, memoryScripts_); }
-    Workspace& workspace() { return pick<Workspace>(*realWorkspace_, memoryWorkspace_); }
 
     /// What has been logged by `work`.
     std::string logged(const std::function<void()>& work) {
@@ -55,6 +58,13 @@ public:
         runLoopUntil([&] { return static_cast<bool>(std::ifstream(path) >> handler); });
         return handler;
     }
+    /// What the system says of the extension.
+    void setExtension(bool isCarried, bool isEnabled) {
+        memoryBundle_.extension = isCarried;
+        memoryBundle_.extensionEnabled = isEnabled;
+        state_.set("carriesNoExtension", !isCarried);
+        state_.set("extensionIsOff", !isEnabled);
+    }
     /// The in-memory process gives what it is told to.
     void expectOutput(const std::string& output) { memoryProcess_.answer = output; }
 
@@ -65,19 +75,18 @@ private:
     }
 
     bool isReal_;
+    SystemState state_;
     CallLog calls_;
     InMemorySystemLog memoryLog_{calls_};
     InMemoryProcess memoryProcess_{calls_};
     InMemoryBundle memoryBundle_{calls_};
     InMemoryFolders memoryFolders_;
     InMemoryUserScripts memoryScripts_{calls_};
-    InMemoryWorkspace memoryWorkspace_{calls_};
     std::unique_ptr<SystemLog> realLog_ = makeSystemLog();
     std::unique_ptr<Process> realProcess_ = makeProcess();
     std::unique_ptr<ApplicationBundle> realBundle_ = makeApplicationBundle();
     std::unique_ptr<KnownFolders> realFolders_ = makeKnownFolders();
     std::unique_ptr<UserScripts> realScripts_ = makeUserScripts();
-    std::unique_ptr<Workspace> realWorkspace_ = makeWorkspace();
 };
 
 using SystemContract = Contract<System>;
@@ -99,10 +108,21 @@ TEST_P(SystemContract, AnOlderSystemIsNoNewerOne) {
     EXPECT_TRUE(harness_.process().isSystemAtLeast(10, 15, 0));
 }
 
-TEST_P(SystemContract, TheExtensionIsEnabledAndItsSettingsMayBeAskedFor) {
+TEST_P(SystemContract, TheExtensionIsThereAndEnabledUnlessTheSystemSaysOtherwise) {
+    EXPECT_TRUE(harness_.bundle().carriesExtension());
     EXPECT_TRUE(harness_.bundle().isExtensionEnabled());
+    harness_.setExtension(true, false);
+    EXPECT_TRUE(harness_.bundle().carriesExtension());
+    EXPECT_FALSE(harness_.bundle().isExtensionEnabled());
+    harness_.setExtension(false, true);
+    EXPECT_FALSE(harness_.bundle().carriesExtension());
+    EXPECT_TRUE(harness_.bundle().isExtensionEnabled());
+}
+
+TEST_P(SystemContract, AskingWhereTheExtensionIsEnabledChangesNothing) {
+    harness_.setExtension(true, false);
     harness_.bundle().showExtensionManagementInterface();
-    EXPECT_TRUE(harness_.bundle().isExtensionEnabled());
+    EXPECT_FALSE(harness_.bundle().isExtensionEnabled());
 }
 
 TEST_P(SystemContract, ATextThatNoTableHoldsStandsForItself) {
@@ -157,23 +177,6 @@ TEST_P(SystemContract, ATaskRunsTheHandlerOfItsEvent) {
     event.parameterText = "openServices";
     result.task->execute(event);
     EXPECT_EQ(harness_.handlerThatRan(), "openServices");
-}
-
-TEST_P(SystemContract, AnApplicationThatNobodyKnowsIsNowhere) {
-    const auto& workspace = harness_.workspace();
-    EXPECT_EQ(workspace.applicationPath("org.example.Nobody"), std::nullopt);
-    EXPECT_TRUE(workspace.registeredApplications("org.example.Nobody").paths.empty());
-    EXPECT_FALSE(workspace.registeredApplications("org.example.Nobody").failed);
-    EXPECT_FALSE(workspace.isRunning("org.example.Nobody"));
-}
-
-TEST_P(SystemContract, OpeningWhatCannotBeOpenedIsNotReported) {
-    auto& workspace = harness_.workspace();
-    workspace.openURL("no address at all %%");
-    workspace.openURL("");
-    workspace.launchApplication("/nowhere/Nothing.app");
-    workspace.terminateAll("org.example.Nobody");
-    EXPECT_FALSE(workspace.isRunning("org.example.Nobody"));
 }
 
 TARNWICK_BOTH_IMPLEMENTATIONS(SystemContract);
