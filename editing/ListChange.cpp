@@ -104,4 +104,29 @@ ListChange::Records ListChange::applied(Records from) const {
     return from;
 }
 
+std::optional<std::size_t> ListChange::placeOf(std::size_t row) const {
+    if (const auto* exchanged = std::get_if<Exchanged>(&change_)) {
+        const auto end = exchanged->first + exchanged->count;
+        if (row >= end) {
+            return row - exchanged->count + exchanged->records.size();
+        }
+        const auto isEdited = exchanged->count == 1 && exchanged->records.size() == 1;
+        return row < exchanged->first || isEdited ? std::optional(row) : std::nullopt;
+    }
+    if (const auto* moved = std::get_if<Moved>(&change_)) {
+        if (row == moved->from) {
+            return moved->to;
+        }
+        const auto among = row > moved->from ? row - 1 : row;
+        return among >= moved->to ? among + 1 : among;
+    }
+    return row;
+}
+
+std::optional<std::size_t> ListChange::insertedRow() const {
+    const auto* exchanged = std::get_if<Exchanged>(&change_);
+    const auto isOne = exchanged && exchanged->count == 0 && exchanged->records.size() == 1;
+    return isOne ? std::optional(exchanged->first) : std::nullopt;
+}
+
 } // namespace tarnwick

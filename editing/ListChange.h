@@ -21,6 +21,10 @@ public:
     /// The two states are equal.
     [[nodiscard]] bool isEmpty() const;
     [[nodiscard]] Records applied(Records from) const;
+    /// Where the record of that row stands in the other state; nothing when it is not in there.
+    [[nodiscard]] std::optional<std::size_t> placeOf(std::size_t row) const;
+    /// The row that the other state has more, when that is all.
+    [[nodiscard]] std::optional<std::size_t> insertedRow() const;
 
 private:
     /// Another stretch of records in place of one.

@@ -1,6 +1,5 @@
 #include "editing/ListEditor.h"
 
-#include "editing/ListChange.h"
 #include "editing/RuleTables.h"
 #include "prefs/FactoryLists.h"
 #include "prefs/GroupContainer.h"
@@ -9,6 +8,7 @@
 #include "prefs/RulePublisher.h"
 #include "prefs/TemplateFiles.h"
 
+#include <memory>
 #include <utility>
 
 namespace tarnwick {
@@ -117,7 +117,7 @@ void ListEditor::publish(RuleCategory category) {
 }
 
 void ListEditor::commit(RuleCategory category, std::vector<RuleRecord> records, const TemplateWork& files,
-    std::span<const Step> order, const UndoStep& step) {
+    std::span<const Step> order, const StepFacts& step) {
     auto& list = lists_[category];
     const auto before = list.exchange(std::move(records));
     templateFiles_.begin(files, list);
@@ -140,28 +140,31 @@ std::optional<TemplateWork> ListEditor::run(
 }
 
 void ListEditor::remember(RuleCategory category, const std::vector<RuleRecord>& before,
-    const std::optional<TemplateWork>& filesBack, const UndoStep& step) {
-    if (!filesBack) {
-        steps_.forgetAll();
-        return;
-    }
+    const std::optional<TemplateWork>& filesBack, const StepFacts& step) {
     ListChange change(lists_[category].records(), before);
-    if (change.isEmpty() && std::holds_alternative<std::monostate>(*filesBack)) {
+    if (filesBack && change.isEmpty() && std::holds_alternative<std::monostate>(*filesBack)) {
         return;
     }
-    steps_.record(step.name, [this, category, change = std::move(change), files = *filesBack,
-                                 back = UndoStep{step.name, step.rowAfter, step.rowBefore}] {
-        takeBack(category, change, files, back);
-    });
+    auto part = std::make_shared<ListStep>(
+        category, std::move(change), filesBack.value_or(TemplateWork()),
+        StepFacts{step.name, step.rowAfter, step.rowBefore, step.replacesList},
+        [ this, category ]() -> const auto& { return lists_[category].records(); },
+        [this](const ListStep& back) { takeBack(back); });
+    if (filesBack) {
+        steps_.record(step.name, std::move(part));
+    } else {
+        steps_.recordFinal(std::move(part));
+    }
 }
 
-void ListEditor::takeBack(
-    RuleCategory category, const ListChange& change, const TemplateWork& files, const UndoStep& step) {
-    commit(category, change.applied(lists_[category].records()), files, Orders::takenBack, step);
+void ListEditor::takeBack(const ListStep& step) {
+    const auto category = step.category();
+    commit(category, step.back().applied(lists_[category].records()), step.files(), Orders::takenBack,
+        step.facts());
     if (showTakenBack_) {
         showTakenBack_(category);
     }
-    select(category, step.rowAfter);
+    select(category, step.facts().rowAfter);
 }
 
 void ListEditor::select(RuleCategory category, std::optional<std::size_t> row) {
@@ -171,9 +174,9 @@ void ListEditor::select(RuleCategory category, std::optional<std::size_t> row) {
     tables_.setRemoveButtonEnabled(category, lists_[category].canRemove(tables_.selectedRow(category)));
 }
 
-ListEditor::UndoStep ListEditor::stepOf(
-    StepKind kind, RuleCategory category, std::optional<std::size_t> row) const {
-    return {names_.nameOf(kind, lists_[category], row), row, row};
+StepFacts ListEditor::stepOf(StepKind kind, RuleCategory category, std::optional<std::size_t> row) const {
+    const auto replacesList = kind == StepKind::reset || kind == StepKind::importSettings;
+    return {names_.nameOf(kind, lists_[category], row), row, row, replacesList};
 }
 
 void ListEditor::perform(Step step, RuleCategory category) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editing/ListStep.h"
 #include "editing/StepNames.h"
 #include "editing/UndoSteps.h"
 #include "prefs/RuleCategory.h"
@@ -17,7 +18,6 @@
 namespace tarnwick {
 
 class FactoryLists;
-class ListChange;
 class LocalPreferences;
 class RuleList;
 class RuleLists;
@@ -34,7 +34,7 @@ class UndoHistory;
 /// one that changed no record and no file becomes none. Going back and forth has the effects of an edited
 /// row, whatever those of the change were, and selects the row concerned. It moves files only where the
 /// change had moved them. What leads back and forth is kept in memory and in `HeldFiles` alone, until the
-/// process ends; a change that took a template file for good leaves nothing to take back.
+/// process ends; a change that took a template file for good is final (`UndoSteps::recordFinal`).
 class ListEditor {
 public:
     ListEditor(RuleLists& lists, LocalPreferences& local, RulePublisher& publisher, FactoryLists& factory,
@@ -80,24 +80,16 @@ private:
     enum class Step;
     struct Orders;
 
-    /// The rows to select when the step is taken back, and when it is repeated.
-    struct UndoStep {
-        std::string name;
-        std::optional<std::size_t> rowBefore;
-        std::optional<std::size_t> rowAfter;
-    };
-
     void commit(RuleCategory category, std::vector<RuleRecord> records, const TemplateWork& files,
-        std::span<const Step> order, const UndoStep& step);
+        std::span<const Step> order, const StepFacts& step);
     /// Gives the work that leads back; nothing when none does.
     std::optional<TemplateWork> run(
         RuleCategory category, const TemplateWork& files, std::span<const Step> order);
     void remember(RuleCategory category, const std::vector<RuleRecord>& before,
-        const std::optional<TemplateWork>& filesBack, const UndoStep& step);
-    void takeBack(
-        RuleCategory category, const ListChange& change, const TemplateWork& files, const UndoStep& step);
+        const std::optional<TemplateWork>& filesBack, const StepFacts& step);
+    void takeBack(const ListStep& step);
     void select(RuleCategory category, std::optional<std::size_t> row);
-    [[nodiscard]] UndoStep stepOf(
+    [[nodiscard]] StepFacts stepOf(
         StepKind kind, RuleCategory category, std::optional<std::size_t> row = std::nullopt) const;
 
     void perform(Step step, RuleCategory category);

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace tarnwick {
 
@@ -9,12 +11,19 @@ namespace tarnwick {
 /// Implementations: Foundation undo manager, in memory.
 class UndoHistory {
 public:
+    /// Named in the user's words.
+    struct Step {
+        std::string name;
+        std::function<void()> takeBack;
+    };
+
     virtual ~UndoHistory() = default;
-    /// One step, named in the user's words. While a step is being taken back or repeated, this is what leads
-    /// back from there; at any other time what could be repeated until now is forgotten.
+    /// One step. While a step is being taken back or repeated, this is what leads back from there; at any
+    /// other time what could be repeated until now is forgotten.
     virtual void registerUndo(std::string_view name, std::function<void()> takeBack) = 0;
-    /// Nothing can be taken back or repeated any more. While a step is being taken back: once it is over.
-    virtual void clear() = 0;
+    /// These steps, the next one last, and no others can be taken back from now on, and none repeated. While
+    /// a step is being taken back or repeated: once it is over.
+    virtual void replaceAll(std::vector<Step> steps) = 0;
 };
 
 } // namespace tarnwick

@@ -95,6 +95,7 @@ std::optional<TemplateWork> TemplateFiles::remove(const TemplatesRemoved& remove
         }
     }
     if (isLost) {
+        logLoss();
         return std::nullopt;
     }
     return back.files.empty() ? TemplateWork() : TemplateWork(std::move(back));
@@ -152,7 +153,12 @@ std::optional<TemplateWork> TemplateFiles::takeFolder(const std::string& folder)
         return TemplateFolderPutBack{*std::move(place)};
     }
     files_.remove(folder);
+    logLoss();
     return std::nullopt;
+}
+
+void TemplateFiles::logLoss() {
+    log_.write("template files that could not be kept: their removal cannot be undone");
 }
 
 void TemplateFiles::settle(const std::vector<std::string>& places) {

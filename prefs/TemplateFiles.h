@@ -58,6 +58,7 @@ private:
     std::optional<TemplateWork> takeFolder(const std::string& folder);
     /// Forgets the note, on the disk too, then what is left at these places.
     void settle(const std::vector<std::string>& places);
+    void logLoss();
 
     FileManager& files_;
     TemplateFolder& folder_;

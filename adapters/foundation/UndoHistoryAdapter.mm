@@ -9,10 +9,10 @@
 /// What the manager calls back.
 @interface TNUndoTarget : NSObject {
 @private
-    BOOL _clearsManager;
+    std::function<void()> _whenStepIsOver;
 }
 - (void)takeBack:(TNDeferredWork *)work;
-- (void)clear:(NSUndoManager *)manager;
+- (void)whenStepIsOver:(std::function<void()>)work;
 - (void)stepIsOver:(NSNotification *)notification;
 @end
 
@@ -22,17 +22,13 @@
     [work run:nil];
 }
 
-- (void)clear:(NSUndoManager *)manager {
-    _clearsManager = [manager isUndoing] || [manager isRedoing];
-    if (!_clearsManager) {
-        [manager removeAllActions];
-    }
+- (void)whenStepIsOver:(std::function<void()>)work {
+    _whenStepIsOver = std::move(work);
 }
 
-/// A manager that is emptied in the middle of a step loses its count of groups.
 - (void)stepIsOver:(NSNotification *)notification {
-    if (_clearsManager) {
-        [self clear:[notification object]];
+    if (const auto work = std::exchange(_whenStepIsOver, nullptr)) {
+        work();
     }
 }
 
@@ -65,7 +61,7 @@ public:
     void registerUndo(std::string_view name, std::function<void()> takeBack) override {
         NSUndoManager *manager = manager_.get();
         // Within a step there is a group already.
-        const BOOL isStep = ![manager isUndoing] && ![manager isRedoing];
+        const BOOL isStep = !isWithinStep();
         if (isStep) {
             [manager beginUndoGrouping];
         }
@@ -77,9 +73,21 @@ public:
             [manager endUndoGrouping];
         }
     }
-    void clear() override { [target_.get() clear:manager_.get()]; }
+    void replaceAll(std::vector<Step> steps) override {
+        if (isWithinStep()) {
+            // A manager that is emptied in the middle of a step loses its count of groups.
+            [target_.get() whenStepIsOver:[this, steps = std::move(steps)] { replaceAll(steps); }];
+            return;
+        }
+        [manager_.get() removeAllActions];
+        for (auto &step : steps) {
+            registerUndo(step.name, std::move(step.takeBack));
+        }
+    }
 
 private:
+    bool isWithinStep() const { return [manager_.get() isUndoing] || [manager_.get() isRedoing]; }
+
     ObjectPointer<NSUndoManager> manager_;
     ObjectPointer<TNUndoTarget> target_;
 };

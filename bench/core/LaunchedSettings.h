@@ -21,7 +21,7 @@ public:
     /// The platform's log and the kept steps grow with every call; forgotten after each operation.
     void forgetCalls();
     void forgetLog() { platform_.log.clear(); }
-    void forgetSteps() { platform_.undoHistory.clear(); }
+    void forgetSteps() { platform_.undoHistory.replaceAll({}); }
     [[nodiscard]] std::size_t steps() const { return platform_.undoHistory.undoCount(); }
 
 private:

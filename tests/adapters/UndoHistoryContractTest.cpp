@@ -100,11 +100,27 @@ TEST_P(UndoHistoryContract, ThereAreAsManyStepsAsOneLikes) {
     EXPECT_EQ(harness_.undoName(), "");
 }
 
-TEST_P(UndoHistoryContract, AClearedHistoryHasNoSteps) {
+TEST_P(UndoHistoryContract, OtherStepsCanTakeTheirPlace) {
     set(1, "One");
     set(2, "Two");
     harness_.undo();
-    harness_.port().clear();
+    harness_.port().replaceAll({{"Five", [this] { set(5, "Five"); }}, {"Six", [this] { set(6, "Six"); }}});
+    EXPECT_EQ(harness_.undoName(), "Six");
+    EXPECT_EQ(harness_.redoName(), "");
+    harness_.undo();
+    EXPECT_EQ(number, 6);
+    EXPECT_EQ(harness_.redoName(), "Six");
+    EXPECT_EQ(harness_.undoName(), "Five");
+    harness_.undo();
+    EXPECT_EQ(number, 5);
+    EXPECT_EQ(harness_.undoName(), "");
+}
+
+TEST_P(UndoHistoryContract, AHistoryWithoutAnyHasNoSteps) {
+    set(1, "One");
+    set(2, "Two");
+    harness_.undo();
+    harness_.port().replaceAll({});
     EXPECT_EQ(harness_.undoName(), "");
     EXPECT_EQ(harness_.redoName(), "");
     set(3, "Three");
@@ -112,15 +128,15 @@ TEST_P(UndoHistoryContract, AClearedHistoryHasNoSteps) {
     EXPECT_EQ(number, 1);
 }
 
-TEST_P(UndoHistoryContract, WhatAStepClearsIsGoneOnceTheStepIsOver) {
+TEST_P(UndoHistoryContract, WhatAStepReplacesIsAnotherOnceTheStepIsOver) {
     set(1, "One");
     harness_.port().registerUndo("Two", [this] {
         number = -1;
-        harness_.port().clear();
+        harness_.port().replaceAll({{"Zero", [this] { set(0, "Zero"); }}});
     });
     harness_.undo();
     EXPECT_EQ(number, -1);
-    EXPECT_EQ(harness_.undoName(), "");
+    EXPECT_EQ(harness_.undoName(), "Zero");
     EXPECT_EQ(harness_.redoName(), "");
     set(7, "Seven");
     harness_.undo();

@@ -69,39 +69,6 @@ TEST_F(UndoFilesTest, ARenameIsTakenBackWithoutOverwriting) {
     EXPECT_EQ(contentOf("New.x"), "content of A.x");
 }
 
-TEST_F(UndoFilesTest, AnUnwritableFolderMakesARemovalFinalAndHindersNothing) {
-    rename(1, "New");
-    platform_.files.failing.insert(held);
-    remove(templates, 0);
-    EXPECT_EQ(contentOf("A.x"), "(none)");
-    EXPECT_EQ(list(templates).size(), 3U);
-    EXPECT_EQ(sharedList(templates).size(), 1U);
-    EXPECT_EQ(steps(), Names());
-    platform_.files.failing.clear();
-    remove(templates, 0);
-    EXPECT_EQ(steps(), Names{"remove New"});
-}
-
-TEST_F(UndoFilesTest, AFullDiskMakesAResetFinalAndHindersNothing) {
-    platform_.files.failing.insert(held + "/1");
-    editing_.resetting.reset(templates);
-    EXPECT_EQ(platform_.files.namesIn(templateFolder).size(), 30U);
-    EXPECT_EQ(list(templates).size(), 15U);
-    EXPECT_EQ(steps(), Names());
-}
-
-TEST_F(UndoFilesTest, AStepThatCannotBeRepeatedIsStillTakenBack) {
-    add(templates, {"/home/New.txt"});
-    rename(1, "Later");
-    undo();
-    platform_.files.failing.insert(held);
-    undo();
-    EXPECT_EQ(contentOf("New.txt"), "(none)");
-    EXPECT_EQ(list(templates).size(), 4U);
-    EXPECT_EQ(platform_.undoHistory.redoNames(), Names());
-    EXPECT_EQ(steps(), Names());
-}
-
 TEST_F(UndoFilesTest, ARemovalWithoutAFileToHoldIsAStepEvenOnAFullDisk) {
     platform_.files.files.erase(templateFolder + "/A.x");
     platform_.files.failing.insert(held);

@@ -84,6 +84,16 @@ class Model:
         self.changed(key, records, files)
         return max(row - 1, 0) if records else None
 
+    def lose(self, key, record):
+        """A template whose file could not be kept, in this state and in all earlier ones."""
+        def without(records, files):
+            kept = [other for other in records if file_of(other) != file_of(record)]
+            return kept, {name: held for name, held in files.items() if name != file_of(record)}
+
+        self.put(key, *without(self.lists[key], self.files))
+        self.steps = [Step(step.key, *without(step.records, step.files)) for step in self.steps]
+        self.undone.clear()
+
     def toggle(self, key, row, field="enable"):
         record = self.lists[key][row]
         if record.get("Action") in FIXED_ACTIONS:

@@ -2,6 +2,7 @@
 the template files are looked at after each step."""
 
 import glob
+import pathlib
 
 from harness.stores import ACTIONS, COPY_TARGETS, ICONS, TEMPLATES, folder_records
 from harness.waiting import wait_until
@@ -138,6 +139,33 @@ def files_that_others_have_changed_are_not_overwritten(start):
         model.expect("the record again, and the file of the other program")
 
 
+def a_template_that_cannot_be_kept_takes_its_own_step_alone(start):
+    with start() as (desktop, model):
+        desktop.click("row_switch", 6)
+        model.toggle(TEMPLATES, 6)
+        remove_template(desktop, model)
+        folder, = held_files(desktop)
+        # Where the next one would wait.
+        pathlib.Path(folder, "2").write_text("in the way")
+        desktop.select(4)
+        desktop.click("remove")
+        lost = model.lists[TEMPLATES][4]
+        model.lose(TEMPLATES, lost)
+        model.expect("two templates less")
+        desktop.screen.settle(0.3)
+        desktop.click("row_switch", 0)
+        model.toggle(TEMPLATES, 0)
+        model.expect("another row switched")
+        for what in ("the last switch", "the removal that can be undone", "the first switch"):
+            undo(desktop, model, what)
+        require(not model.steps, "a step is left")
+        desktop.screen.key(UNDO)
+        desktop.screen.settle(0.3)
+        model.expect("nothing else to undo")
+        for what in ("the first switch", "the removal", "the last switch"):
+            redo(desktop, model, what)
+
+
 def the_end_leaves_nothing_of_it(start):
     with start() as (desktop, model):
         remove_template(desktop, model)
@@ -163,4 +191,5 @@ def a_killed_application_leaves_held_files_to_the_next_start(start):
 if __name__ == "__main__":
     run_checks(every_kind_of_change_comes_back, a_step_of_another_page_is_shown_where_it_takes_place,
                typing_has_its_own, a_panel_and_a_drag_come_first, files_that_others_have_changed_are_not_overwritten,
+               a_template_that_cannot_be_kept_takes_its_own_step_alone,
                the_end_leaves_nothing_of_it, a_killed_application_leaves_held_files_to_the_next_start)

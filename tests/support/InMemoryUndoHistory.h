@@ -2,6 +2,7 @@
 
 #include "platform/UndoHistory.h"
 
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -17,12 +18,12 @@ public:
         }
         (current_ == Direction::undo ? redo_ : undo_).push_back({std::string(name), std::move(takeBack)});
     }
-    void clear() override {
+    void replaceAll(std::vector<Step> steps) override {
         if (current_ != Direction::none) {
-            clearsAfterwards_ = true;
+            replacement_ = std::move(steps);
             return;
         }
-        undo_.clear();
+        undo_ = std::move(steps);
         redo_.clear();
     }
 
@@ -37,10 +38,6 @@ public:
     [[nodiscard]] std::vector<std::string> redoNames() const { return namesOf(redo_); }
 
 private:
-    struct Step {
-        std::string name;
-        std::function<void()> takeBack;
-    };
     enum class Direction { none, undo, redo };
 
     void take(std::vector<Step>& from, Direction direction) {
@@ -52,8 +49,8 @@ private:
         current_ = direction;
         step.takeBack();
         current_ = Direction::none;
-        if (std::exchange(clearsAfterwards_, false)) {
-            clear();
+        if (auto steps = std::exchange(replacement_, std::nullopt)) {
+            replaceAll(*std::move(steps));
         }
     }
     static std::vector<std::string> namesOf(const std::vector<Step>& steps) {
@@ -67,7 +64,7 @@ private:
     std::vector<Step> undo_;
     std::vector<Step> redo_;
     Direction current_ = Direction::none;
-    bool clearsAfterwards_ = false;
+    std::optional<std::vector<Step>> replacement_;
 };
 
 } // namespace tarnwick::testing
