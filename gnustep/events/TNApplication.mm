@@ -5,6 +5,7 @@
 
 #import "gnustep/events/EventPump.h"
 #import "gnustep/events/Exceptions.h"
+#import "gnustep/menus/MenuBarKeys.h"
 
 @implementation TNApplication
 
@@ -66,7 +67,7 @@
         [editor keyDown:event];
     } else if (key == escape) {
         [editor doCommandBySelector:@selector(cancelOperation:)];
-    } else if (![self showMenuFor:event]) {
+    } else if (!TNOpenMenuBarByKey(event) && ![self showMenuFor:event]) {
         [super sendEvent:event];
     }
 }

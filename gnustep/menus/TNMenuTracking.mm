@@ -5,6 +5,7 @@
 #import "gnustep/menus/TNMenuTracking.h"
 
 #import "TNConstants.h"
+#import "gnustep/menus/MenuBarKeys.h"
 #import "gnustep/menus/TNMenuTip.h"
 
 #include <cmath>
@@ -136,6 +137,7 @@ void TNMenuTracking::handle(NSEvent *event) {
         wheel(event);
         return;
     case NSEventTypeKeyDown:
+        isOver_ = isOver_ || TNIsMenuBarKey(event);
         key([[event characters] length] > 0 ? [[event characters] characterAtIndex:0] : 0);
         return;
     case NSKeyUp:

@@ -1,7 +1,11 @@
 """python3 -m tests.outside.row_drags PROGRAM: rows dragged with a real pointer, and what is left on the screen of the
 lines that show where they would go. Both stores are looked at after each drag."""
 
-from harness.stores import TEMPLATES
+import contextlib
+import os
+import signal
+
+from harness.stores import COPY_TARGETS, TEMPLATES, folder_records
 from tests.outside.checks import require, run_checks
 from tests.outside.picture import Picture
 
@@ -67,5 +71,50 @@ def a_drag_that_comes_to_nothing_leaves_nothing(start):
         model.expect("the list as it was")
 
 
+@contextlib.contextmanager
+def stopped(desktop):
+    """As a program that is very busy: what is done meanwhile reaches it all at once."""
+    os.kill(desktop.application.pid, signal.SIGSTOP)
+    try:
+        yield
+    finally:
+        os.kill(desktop.application.pid, signal.SIGCONT)
+
+
+def a_drag_within_a_moment_in_which_the_program_is_stopped_ends_where_the_pointer_let_go(start):
+    with start({COPY_TARGETS: folder_records(6)}) as (desktop, model):
+        for key, row, end in ((TEMPLATES, 0, 5), (TEMPLATES, 6, 2), (COPY_TARGETS, 1, 4)):
+            desktop.show_list(key)
+            with stopped(desktop):
+                desktop.window.drag_to(desktop.place("cell", row), gap(desktop, end))
+                desktop.screen.release()
+                # Where the pointer is by then does not matter.
+                desktop.window.move(desktop.place("heading"))
+            model.drop(key, row, end)
+            model.expect(f"row {row} in its new place")
+
+
+def a_drag_that_ends_while_the_program_is_stopped_ends_where_the_pointer_let_go(start):
+    with start() as (desktop, model):
+        hold_over(desktop, gap(desktop, 4))
+        with stopped(desktop):
+            desktop.window.drag_on(gap(desktop, 4), gap(desktop, 7))
+            desktop.screen.release()
+            desktop.window.move(desktop.place("heading"))
+        model.drop(TEMPLATES, 0, 7)
+        model.expect("the row where it was let go")
+        hold_over(desktop, gap(desktop, 4))
+        with stopped(desktop):
+            desktop.window.move((20, desktop.place("cell", 5)[1]))
+            desktop.screen.release()
+            desktop.window.move(gap(desktop, 4))
+        desktop.screen.settle()
+        point_elsewhere(desktop)
+        model.expect("nothing moved by a drag that ends outside")
+        require(lines_shown(desktop) == 0, "the line is still there after the drag")
+
+
 if __name__ == "__main__":
-    run_checks(a_drag_that_jumps_shows_one_line, a_drag_that_comes_to_nothing_leaves_nothing)
+    run_checks(a_drag_that_jumps_shows_one_line, a_drag_that_comes_to_nothing_leaves_nothing,
+               a_drag_within_a_moment_in_which_the_program_is_stopped_ends_where_the_pointer_let_go,
+               a_drag_that_ends_while_the_program_is_stopped_ends_where_the_pointer_let_go)
