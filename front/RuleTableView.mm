@@ -211,6 +211,10 @@ bool isTyped(NSEvent *event) {
     }
     NSString *characters = [event charactersIgnoringModifiers];
     const unichar key = [characters length] == 1 ? [characters characterAtIndex:0] : 0;
+    const bool erases = key == NSDeleteCharacter || key == NSBackspaceCharacter;
+    if (erases && [static_cast<SettingsViewController *>([self target]) table:self takesErasingKey:event]) {
+        return;
+    }
     switch (key) {
     case NSDeleteCharacter:
     case NSBackspaceCharacter:

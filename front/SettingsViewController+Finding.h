@@ -7,6 +7,8 @@
 
 /// What the key was meant for: YES when it was part of a name that is being typed.
 - (BOOL)table:(NSTableView *)table takesTypedKey:(NSEvent *)event;
+/// The same for the key that erases a character, which in a table removes the selected row otherwise.
+- (BOOL)table:(NSTableView *)table takesErasingKey:(NSEvent *)event;
 
 - (void)showFindBar:(id)sender;
 /// The keyboard goes back to the table.

@@ -15,6 +15,11 @@ using tarnwick::SearchStep;
            _controller->finding().typed(*category, tarnwick::toString([event characters]), [event timestamp]);
 }
 
+- (BOOL)table:(NSTableView *)table takesErasingKey:(NSEvent *)event {
+    const auto category = [self categoryOf:table];
+    return category && _controller->finding().erased(*category, [event timestamp]);
+}
+
 - (NSTableView *)shownTable {
     const auto category = [self shownCategory];
     return category ? [self tableOf:*category] : nil;

@@ -18,6 +18,12 @@ bool Finding::typed(RuleCategory category, std::string_view characters, double s
     return answer.isTaken;
 }
 
+bool Finding::erased(RuleCategory category, double seconds) {
+    const auto answer = typeSelect_.erase(category, window_.selectedRow(category), seconds);
+    select(category, answer.row);
+    return answer.isTaken;
+}
+
 void Finding::lookFor(RuleCategory category, std::string_view text) {
     editor_.endEditing();
     search_.lookFor(text);

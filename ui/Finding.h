@@ -25,6 +25,8 @@ public:
     /// Characters typed in the category's table, at a time in seconds. False when they were not meant for
     /// this: the key has its other meaning.
     [[nodiscard]] bool typed(RuleCategory category, std::string_view characters, double seconds);
+    /// The same for the key that erases the last character.
+    [[nodiscard]] bool erased(RuleCategory category, double seconds);
 
     /// The text in the find bar is another one. Selects the first row that has it, from the selected row on.
     void lookFor(RuleCategory category, std::string_view text);

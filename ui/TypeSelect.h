@@ -11,7 +11,7 @@ namespace tarnwick {
 class FoldedRows;
 
 /// Typing in a table: what is typed without a pause is the beginning of the name of the row that is wanted.
-/// Case and diacritics do not count.
+/// Case and diacritics do not count. What was typed last can be taken back.
 class TypeSelect {
 public:
     explicit TypeSelect(const FoldedRows& rows) : rows_(rows) {}
@@ -20,7 +20,8 @@ public:
     static constexpr double pauseSeconds = 1;
 
     struct Answer {
-        /// Not so for a space that nothing was typed before: it has another meaning in a table.
+        /// Not so for a space or an erasing key that nothing was typed before: they have other meanings in a
+        /// table.
         bool isTaken = false;
         /// To be selected: the first whose name begins with what has been typed. None: the selection stays.
         std::optional<long> row;
@@ -31,9 +32,13 @@ public:
     /// `seconds` count from any point of time.
     [[nodiscard]] Answer type(
         RuleCategory category, long selected, std::string_view characters, double seconds);
+    /// The same for the key that erases the last character. As long as it comes without a pause it means
+    /// typing, also when nothing is left of that.
+    [[nodiscard]] Answer erase(RuleCategory category, long selected, double seconds);
 
 private:
     [[nodiscard]] bool goesOn(RuleCategory category, long selected, double seconds) const;
+    [[nodiscard]] Answer select(long selected, double seconds);
 
     const FoldedRows& rows_;
     std::string typed_;

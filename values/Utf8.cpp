@@ -80,6 +80,16 @@ std::optional<char32_t> takeCharacter(std::string_view& bytes) {
     return character;
 }
 
+std::size_t startOfLastCharacter(std::string_view bytes) {
+    constexpr unsigned char kind = 0b1100'0000;
+    constexpr unsigned char continuation = 0b1000'0000;
+    auto start = bytes.empty() ? 0 : bytes.size() - 1;
+    while (start > 0 && (static_cast<unsigned char>(bytes[start]) & kind) == continuation) {
+        --start;
+    }
+    return start;
+}
+
 void appendUtf8(std::string& text, char32_t character) {
     const auto append = [&text](
                             char32_t byte) { text += static_cast<char>(static_cast<unsigned char>(byte)); };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -12,6 +13,9 @@ namespace tarnwick {
 /// Takes the first character off the bytes, of which there must be some. Nothing, and nothing taken, when it
 /// is malformed.
 [[nodiscard]] std::optional<char32_t> takeCharacter(std::string_view& bytes);
+
+/// Where the last character of well-formed bytes begins; 0 for none.
+[[nodiscard]] std::size_t startOfLastCharacter(std::string_view bytes);
 
 /// The character must be one that UTF-8 has.
 void appendUtf8(std::string& text, char32_t character);

@@ -22,6 +22,13 @@ class Picture:
     def colour(self, x, y):
         return self.row(y)[3 * x:3 * x + 3]
 
+    def part(self, left, top, right, bottom):
+        return Picture(b"P6\n%d %d\n255\n" % (right - left, bottom - top)
+                       + b"".join(self.row(y)[3 * left:3 * right] for y in range(top, bottom)))
+
+    def __eq__(self, other):
+        return (self.width, self.height, self.pixels) == (other.width, other.height, other.pixels)
+
     def colours(self, left, top, right, bottom):
         return {self.colour(x, y) for y in range(top, bottom) for x in range(left, right)}
 

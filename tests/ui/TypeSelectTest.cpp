@@ -24,6 +24,10 @@ protected:
         }
         return isTaken;
     }
+    bool erase() {
+        seconds_ += 0.1;
+        return controller_.finding().erased(folders, seconds_);
+    }
     [[nodiscard]] long selected() const { return window_.selectedRow(folders); }
 
     double seconds_ = 1000;
@@ -73,6 +77,43 @@ TEST_F(TypeSelectTest, ASpaceIsPartOfTheNameOnlyWhileOneIsBeingTyped) {
     seconds_ += TypeSelect::pauseSeconds;
     EXPECT_FALSE(type({" "}));
     EXPECT_EQ(selected(), 3);
+}
+
+TEST_F(TypeSelectTest, TheLastCharacterCanBeTakenBack) {
+    type({"d", "o", "x"});
+    EXPECT_TRUE(erase());
+    type({"w"});
+    EXPECT_EQ(selected(), 1);
+    EXPECT_TRUE(erase());
+    EXPECT_EQ(selected(), 0);
+    seconds_ += 5;
+    type({"s", "t", "r", "\u00E9"});
+    EXPECT_TRUE(erase());
+    type({"a"});
+    EXPECT_EQ(selected(), 4);
+}
+
+TEST_F(TypeSelectTest, WhereNothingIsLeftTheSelectionStaysAndErasingStillMeansTyping) {
+    type({"s"});
+    for (int time = 0; time < 15; ++time) {
+        EXPECT_TRUE(erase());
+        EXPECT_EQ(selected(), 4);
+    }
+    EXPECT_FALSE(type({" "}));
+    type({"d"});
+    EXPECT_EQ(selected(), 0);
+}
+
+TEST_F(TypeSelectTest, ErasingMeansSomethingElseWhereNothingIsBeingTyped) {
+    EXPECT_FALSE(erase());
+    type({"d"});
+    seconds_ += TypeSelect::pauseSeconds;
+    EXPECT_FALSE(erase());
+    type({"d"});
+    window_.table(folders).selected = 2;
+    EXPECT_FALSE(erase());
+    type({"d"});
+    EXPECT_FALSE(controller_.finding().erased(RuleCategory::others, seconds_));
 }
 
 TEST_F(TypeSelectTest, AnotherSelectionBeginsAnew) {

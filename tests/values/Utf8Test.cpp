@@ -94,5 +94,15 @@ TEST(Utf8CharactersTest, AreWrittenAsTheyAreRead) {
     }
 }
 
+TEST(Utf8Test, TheLastCharacterBeginsWhereItsFirstByteIs) {
+    EXPECT_EQ(startOfLastCharacter(""), 0U);
+    EXPECT_EQ(startOfLastCharacter("a"), 0U);
+    EXPECT_EQ(startOfLastCharacter("ab"), 1U);
+    EXPECT_EQ(startOfLastCharacter("a\u00E9"), 1U);
+    EXPECT_EQ(startOfLastCharacter("\u00E9\u4E2D"), 2U);
+    EXPECT_EQ(startOfLastCharacter("\u4E2D\U0001F600"), 3U);
+    EXPECT_EQ(startOfLastCharacter("\U0001F600"), 0U);
+}
+
 } // namespace
 } // namespace tarnwick::testing
