@@ -62,6 +62,16 @@ private:
     void rename(RuleCategory category);
     void editNote();
     void choosePath();
+    /// One of those that the menus offer, on any row or none, whether it is possible or not.
+    void command(RuleCategory category);
+    [[nodiscard]] bool isPossible(RuleCategory category, Command command) const;
+    [[nodiscard]] bool mayMove(RuleCategory category, long from, long to) const;
+    /// Does to the model what the command does; whether it saves the list.
+    bool follow(RuleCategory category, Command command, long row, bool areAllOn);
+    /// By typing, or a step of the find bar.
+    void find(RuleCategory category);
+    [[nodiscard]] std::vector<std::string> searchedTexts(RuleCategory category) const;
+    void selectAnyRow(RuleCategory category);
 
     long pick(long below) { return pick_(below); }
     bool flip() { return pick(2) == 1; }
@@ -82,6 +92,8 @@ private:
     PerCategory<bool> stored_{true, false, false, true, true};
     PerCategory<bool> published_{true, true, false, true, true};
     int names_ = 0;
+    std::string sought_;
+    double typing_ = 0;
     /// Of the templates.
     int resets_ = 0;
     Moment start_ = moment();

@@ -16,7 +16,7 @@ constexpr std::array<const char*, 4> extensions{"txt", "docx", "gz", ""};
 
 void RandomWalk::step() {
     const auto category = allRuleCategories[static_cast<std::size_t>(pick(5))];
-    switch (pick(14)) {
+    switch (pick(18)) {
     case 0:
         return asStep([=, this] { add(category); });
     case 1:
@@ -38,6 +38,12 @@ void RandomWalk::step() {
     case 10:
     case 11:
         return undo();
+    case 12:
+    case 13:
+    case 14:
+        return asStep([=, this] { command(category); });
+    case 15:
+        return asStep([=, this] { find(category); });
     default:
         return redo();
     }

@@ -21,7 +21,11 @@ std::string textIn(const PlistDictionary& record, std::string_view field) {
 }
 
 bool isOn(const PlistDictionary& record) {
-    const auto found = record.find("enable");
+    return isSet(record, "enable");
+}
+
+bool isSet(const PlistDictionary& record, std::string_view field) {
+    const auto found = record.find(field);
     return found != record.end() && (found->second == PlistValue(1) || found->second == PlistValue(true) ||
                                         found->second == PlistValue("1"));
 }

@@ -60,6 +60,7 @@ private:
 };
 
 [[nodiscard]] std::string textIn(const PlistDictionary& record, std::string_view field);
+[[nodiscard]] bool isSet(const PlistDictionary& record, std::string_view field);
 [[nodiscard]] bool isOn(const PlistDictionary& record);
 /// A row that stays on, in its place and in its list.
 [[nodiscard]] bool isFixed(const PlistDictionary& record);
