@@ -6,8 +6,8 @@
 
 #include <vector>
 
-/// The notices at the head of the pages, a line each with its next step and a button that puts it away. It
-/// takes its room from the view below it, and has none without notices.
+/// The notices at the head of the pages, one below the other. It takes its room from the view below it, and
+/// has none without notices.
 @interface NoticeBar : NSView {
 @private
     id _controller;
@@ -19,15 +19,5 @@
 - (instancetype)initAbove:(NSView *)below controller:(id)controller;
 /// Whether that changed anything.
 - (BOOL)showNotices:(const std::vector<tarnwick::Notice> &)notices;
-
-@end
-
-/// Belongs to a notice.
-@interface NoticeButton : NSButton {
-@private
-    tarnwick::Notice _notice;
-}
-
-- (const tarnwick::Notice &)notice;
 
 @end

@@ -2,16 +2,14 @@
 
 #import <AppKit/AppKit.h>
 
-#include "prefs/RuleCategory.h"
+#include "ui/MenuPreview.h"
 
 #include <vector>
 
 namespace tarnwick {
 
-class MenuPreview;
-struct PreviewItem;
-
-/// Builds a menu of these items, whose rules are sent to `controller` when they are chosen; autoreleased.
+/// Builds a menu of these items, whose rules are sent to `controller` when they are chosen; autoreleased. An
+/// icon is asked of `preview` when it comes in sight.
 [[nodiscard]] NSMenu *makePreviewMenu(
     const MenuPreview &preview, const std::vector<PreviewItem> &items, id controller);
 
@@ -20,11 +18,10 @@ struct PreviewItem;
 /// Stands for a rule.
 @interface PreviewedRule : NSMenuItem {
 @private
-    tarnwick::RuleCategory _category;
-    long _row;
+    tarnwick::PreviewItem _item;
+    const tarnwick::MenuPreview *_preview;
 }
 
-- (tarnwick::RuleCategory)category;
-- (long)row;
+- (const tarnwick::PreviewItem &)item;
 
 @end

@@ -4,38 +4,57 @@
 #import "adapters/foundation/StringConversion.h"
 #import "front/SettingsViewController+Actions.h"
 
-#include "ui/MenuPreview.h"
+namespace {
+
+constexpr CGFloat iconSize = 16;
+
+} // namespace
 
 @implementation PreviewedRule
 
-- (instancetype)initWithItem:(const tarnwick::PreviewItem &)item controller:(id)controller {
+- (instancetype)initWithItem:(const tarnwick::PreviewItem &)item
+                     preview:(const tarnwick::MenuPreview &)preview
+                  controller:(id)controller {
     self = [super initWithTitle:tarnwick::toNSString(item.title)
                          action:@selector(showPreviewedRule:)
                   keyEquivalent:@""];
     if (self) {
-        _category = item.category;
-        _row = static_cast<long>(item.row);
+        _item = item;
+        _preview = &preview;
         [self setTarget:controller];
+        if (item.hasIcon) {
+            [self setImage:[self imageDrawnLater]];
+        }
     }
     return self;
 }
 
-- (tarnwick::RuleCategory)category {
-    return _category;
+- (const tarnwick::PreviewItem &)item {
+    return _item;
 }
 
-- (long)row {
-    return _row;
+/// Thousands of icons take their time to be read and drawn, and few of them come in sight.
+- (NSImage *)imageDrawnLater {
+    NSCustomImageRep *drawing = [[[NSCustomImageRep alloc] initWithDrawSelector:@selector(drawIcon:)
+                                                                       delegate:self] autorelease];
+    const NSSize size = NSMakeSize(iconSize, iconSize);
+    [drawing setSize:size];
+    NSImage *image = [[[NSImage alloc] initWithSize:size] autorelease];
+    [image addRepresentation:drawing];
+    return image;
+}
+
+- (void)drawIcon:(NSCustomImageRep *)drawing {
+    [tarnwick::imageOf(_preview->icon(_item)) drawInRect:NSMakeRect(0, 0, iconSize, iconSize)
+                                                fromRect:NSZeroRect
+                                               operation:NSCompositingOperationSourceOver
+                                                fraction:1];
 }
 
 @end
 
 namespace tarnwick {
 namespace {
-
-constexpr CGFloat iconSize = 16;
-/// Nobody looks through more of them, and each takes its time to be read and drawn.
-constexpr NSInteger mostIcons = 200;
 
 void showIcon(NSMenuItem *shown, const ImagePointer &icon) {
     if (NSImage *image = [[imageOf(icon) copy] autorelease]) {
@@ -49,13 +68,14 @@ NSMenuItem *makeItem(const MenuPreview &preview, const PreviewItem &item, id con
     case PreviewItem::Kind::separator:
         break;
     case PreviewItem::Kind::rule:
-        return [[[PreviewedRule alloc] initWithItem:item controller:controller] autorelease];
+        return [[[PreviewedRule alloc] initWithItem:item preview:preview controller:controller] autorelease];
     case PreviewItem::Kind::section:
     case PreviewItem::Kind::remark: {
         NSMenuItem *shown = [[[NSMenuItem alloc] initWithTitle:toNSString(item.title)
                                                         action:nullptr
                                                  keyEquivalent:@""] autorelease];
         if (item.kind == PreviewItem::Kind::section) {
+            showIcon(shown, preview.icon(item));
             [shown setSubmenu:makePreviewMenu(preview, item.items, controller)];
         } else {
             [shown setEnabled:NO];
@@ -70,14 +90,8 @@ NSMenuItem *makeItem(const MenuPreview &preview, const PreviewItem &item, id con
 
 NSMenu *makePreviewMenu(const MenuPreview &preview, const std::vector<PreviewItem> &items, id controller) {
     NSMenu *menu = [[[NSMenu alloc] initWithTitle:@""] autorelease];
-    NSInteger icons = 0;
     for (const auto &item : items) {
-        NSMenuItem *shown = makeItem(preview, item, controller);
-        if (item.hasIcon && icons < mostIcons) {
-            showIcon(shown, preview.icon(item));
-            ++icons;
-        }
-        [menu addItem:shown];
+        [menu addItem:makeItem(preview, item, controller)];
     }
     return menu;
 }

@@ -3,7 +3,7 @@
 
 #import "adapters/foundation/StringConversion.h"
 #import "front/ControlMaking.h"
-#import "front/NoticeBar.h"
+#import "front/NoticeLine.h"
 #import "front/PreviewMenu.h"
 #import "front/Selectors.h"
 #import "front/SettingsViewController+Finding.h"
@@ -78,7 +78,7 @@ std::optional<Page> pageShownBy(SEL action) {
 }
 
 - (void)showPreviewedRule:(PreviewedRule *)sender {
-    _controller->showRule([sender category], [sender row]);
+    _controller->showRule([sender item].category, static_cast<long>([sender item].row));
 }
 
 - (void)takeNoticeStep:(NoticeButton *)sender {

@@ -17,12 +17,26 @@ void setSystemState(const std::string &answers) {
     setenv("TARNWICK_SYSTEM_STATE", path.c_str(), 1);
 }
 
-bool showsNotice(const std::string &text) {
+namespace {
+
+NSView *noticeWith(const std::string &text) {
     NSString *wanted = toNSString(text);
     return firstView([settingsWindow() contentView], [wanted](NSView *view) {
         return [view isKindOfClass:[NSTextField class]] &&
                [[static_cast<NSTextField *>(view) stringValue] isEqualToString:wanted];
-    }) != nil;
+    });
+}
+
+} // namespace
+
+NoticePlace placeOfNotice(const std::string &text) {
+    NSView *label = noticeWith(text);
+    const NSRect line = [[label superview] bounds];
+    return {NSHeight([label frame]), NSHeight(line), NSMidY([label frame]) - NSMidY(line)};
+}
+
+bool showsNotice(const std::string &text) {
+    return noticeWith(text) != nil;
 }
 
 std::string toolTipOfButton(const std::string &title) {

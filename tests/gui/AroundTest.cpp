@@ -37,6 +37,24 @@ TEST(Around, EachStateIsSaidAtTheHeadOfTheWindowAndGoesByItself) {
     }
 }
 
+TEST(Around, ANoticeIsAsHighAsItsTextAndInTheMiddleOfItsLine) {
+    comeBackTo("extensionIsOff = 1;");
+    const auto one = placeOfNotice(off);
+    EXPECT_GT(one.textHeight, 10);
+    EXPECT_LT(one.textHeight, 22);
+    EXPECT_NEAR(one.aboveMiddle, 0, 0.5);
+    const std::string folder(300, 'x');
+    comeBackTo("copies = (\"/Volumes/Old versions of " + folder + "/Tarnwick.app\");");
+    const auto several =
+        placeOfNotice("The system knows another copy of Tarnwick, at /Volumes/Old versions of " + folder +
+                      "/Tarnwick.app.");
+    EXPECT_GT(several.textHeight, 2.5 * one.textHeight);
+    EXPECT_GT(several.height, several.textHeight);
+    EXPECT_GT(several.height, one.height);
+    EXPECT_NEAR(several.aboveMiddle, 0, 0.5);
+    comeBackTo("");
+}
+
 TEST(Around, ASwitchThatAnAdministratorHasSetCannotBeClickedAndSaysWhy) {
     clickPageButton(Page::commonPath);
     const auto before = toolTipOfButton("Offer these folders in the menu");

@@ -1,13 +1,17 @@
 """python3 -m tests.outside.commands PROGRAM: the commands on a rule, from the menu of its row and by their keys, with a
 real pointer and keyboard."""
 
-from harness.stores import ACTIONS, TEMPLATES
+from harness.stores import ACTIONS, COPY_TARGETS, TEMPLATES, folder_records
 from harness.waiting import wait_until
 from tests.outside.checks import require, run_checks
-from tests.outside.screen import BUTTON, COMMAND, CONTROL, RIGHT_BUTTON, command
+from tests.outside.panels import OpenPanel
+from tests.outside.picture import Picture
+from tests.outside.screen import BUTTON, COMMAND, CONTROL, RIGHT_BUTTON, command, shift_command
 
 # In the menu of a template, by the number of steps down to it.
 TURN_OFF, SHOW_IN_MAIN_MENU, REMOVE = 2, 3, 8
+ACCENT = bytes.fromhex("2f73da")
+ICON = 16
 
 
 def names(desktop):
@@ -71,7 +75,70 @@ def a_row_is_changed_by_the_keyboard_alone(start):
         wait_until(lambda: desktop.stores.local(ACTIONS)[0]["Note"] == "by key", "the note")
 
 
+def open_by_key(desktop, *keys):
+    before = desktop.screen.picture()
+    desktop.screen.key(*keys)
+    wait_until(lambda: desktop.screen.picture() != before, f"a menu opened by {keys}")
+    desktop.screen.settle()
+
+
+def the_menu_bar_is_opened_and_walked_by_key(start):
+    with start() as (desktop, model):
+        desktop.screen.key("Down", "Down")
+        desktop.screen.settle()
+        for key, to_rules in (("F10", ["Right"] * 4), (f"{CONTROL}+F2", ["Left"] * 3)):
+            open_by_key(desktop, key)
+            desktop.screen.key(*to_rules)
+            choose(desktop, TURN_OFF)
+            model.toggle(TEMPLATES, 1)
+            model.expect(f"the selected rule switched by way of {key}")
+        before = desktop.screen.picture()
+        for key in ("F10", "Escape"):
+            open_by_key(desktop, "F10", "Down")
+            desktop.screen.key(key)
+            wait_until(lambda: desktop.screen.picture() == before, f"the menu closed by {key}")
+        desktop.screen.key("space")
+        model.toggle(TEMPLATES, 1)
+        model.expect("the keyboard back in the table")
+        desktop.click("add")
+        panel = OpenPanel(desktop.screen)
+        before = desktop.screen.picture()
+        desktop.screen.key("F10")
+        desktop.screen.settle(0.3)
+        require(desktop.screen.picture() == before, "a menu opens beside a panel")
+        panel.cancel()
+
+
+def marked_rows(desktop):
+    """Of open menus: the colours where its icon stands, of each marked row from the top."""
+    picture = Picture(desktop.screen.picture())
+    marked = []
+    for y in range(picture.height - 1):
+        line = picture.row(y)
+        x, end = line.find(ACCENT * 60) // 3, line.rfind(ACCENT * 60) // 3 + 60
+        # The ring around what has the keyboard has the same colour, and is thin.
+        is_last = x >= 0 and ACCENT * 60 not in picture.row(y + 1) and picture.colour(end - 6, y - ICON // 2) == ACCENT
+        if is_last:
+            marked.append(picture.colours(x + 2, y - ICON, x + 2 + ICON, y - 4))
+    return marked
+
+
+def every_item_of_the_preview_has_its_icon(start):
+    with start({COPY_TARGETS: folder_records(300)}) as (desktop, _):
+        open_by_key(desktop, shift_command("p"))
+        # Past the new files, to the last of the folders.
+        desktop.screen.key("Down", "Down", "Right")
+        desktop.screen.settle()
+        for key in ("Home", "End"):
+            desktop.screen.key(key)
+            desktop.screen.settle()
+            icon = marked_rows(desktop)[-1]
+            require(len(icon) > 2, f"no icon beside the item that {key} leads to, only {icon}")
+        desktop.screen.key("Escape")
+
+
 if __name__ == "__main__":
     run_checks(the_menu_of_a_row_acts_on_it_wherever_the_row_is_clicked,
                what_is_being_typed_is_kept_when_a_menu_opens_and_escape_leaves_the_menu_alone,
-               a_row_is_changed_by_the_keyboard_alone)
+               a_row_is_changed_by_the_keyboard_alone, the_menu_bar_is_opened_and_walked_by_key,
+               every_item_of_the_preview_has_its_icon)

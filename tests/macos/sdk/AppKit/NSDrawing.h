@@ -74,6 +74,14 @@ typedef TN_OPTIONS(NSUInteger, NSFontTraitMask){NSItalicFontMask = 1};
 @property NSTextAlignment alignment;
 @end
 
+@interface NSImageRep : NSObject
+@property NSSize size;
+@end
+
+@interface NSCustomImageRep : NSImageRep
+- (instancetype)initWithDrawSelector:(SEL)selector delegate:(id)delegate;
+@end
+
 @interface NSImage : NSObject <NSCopying>
 @property NSSize size;
 @property (readonly, getter=isValid) BOOL valid;
@@ -86,6 +94,7 @@ typedef TN_OPTIONS(NSUInteger, NSFontTraitMask){NSItalicFontMask = 1};
 - (nullable CGImageRef)CGImageForProposedRect:(nullable NSRect *)rect
                                       context:(nullable NSGraphicsContext *)context
                                         hints:(nullable NSDictionary<NSString *, id> *)hints;
+- (void)addRepresentation:(NSImageRep *)representation;
 - (void)lockFocus;
 - (void)unlockFocus;
 - (void)drawInRect:(NSRect)rect
@@ -94,8 +103,13 @@ typedef TN_OPTIONS(NSUInteger, NSFontTraitMask){NSItalicFontMask = 1};
           fraction:(CGFloat)fraction;
 @end
 
+typedef TN_OPTIONS(NSInteger, NSStringDrawingOptions){NSStringDrawingUsesLineFragmentOrigin = 1 << 0};
+
 @interface NSString (NSStringDrawing)
 - (NSSize)sizeWithAttributes:(nullable NSDictionary<NSString *, id> *)attributes;
+- (NSRect)boundingRectWithSize:(NSSize)size
+                       options:(NSStringDrawingOptions)options
+                    attributes:(nullable NSDictionary<NSString *, id> *)attributes;
 @end
 
 #pragma clang assume_nonnull end

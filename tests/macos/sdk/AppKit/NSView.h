@@ -18,6 +18,8 @@ typedef TN_OPTIONS(NSUInteger, NSAutoresizingMaskOptions){
     NSViewMaxYMargin = 32,
 };
 
+extern "C" NSString *const NSViewFrameDidChangeNotification;
+
 @interface NSView : NSResponder <NSUserInterfaceItemIdentification, NSDraggingDestination>
 @property (nullable, readonly, assign) NSWindow *window;
 @property (nullable, readonly, assign) NSView *superview;
