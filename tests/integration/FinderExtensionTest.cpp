@@ -57,20 +57,5 @@ TEST_F(FinderExtensionTest, NewerSystemsShowTheManagementScreen) {
     EXPECT_EQ(platform_.log.lines(), std::vector<std::string>{"show extension management"});
 }
 
-TEST_F(FinderExtensionTest, ARestartRequestIsStoredWithoutSynchronisingAndThenPosted) {
-    integration_.restartRequest.send();
-    EXPECT_EQ(shared("askActionFromTarnwick"), PlistValue(PlistDictionary{{"ActionType", "restartFinder"}}));
-    EXPECT_EQ(
-        platform_.log.lines(), (std::vector<std::string>{"shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
-                                   "shared set askActionFromTarnwick", "post askActionFromTarnwick 3"}));
-}
-
-TEST_F(FinderExtensionTest, TwoRestartRequestsPostTwice) {
-    integration_.restartRequest.send();
-    integration_.restartRequest.send();
-    EXPECT_EQ(platform_.log.linesWith("post ").size(), 2U);
-    EXPECT_EQ(platform_.log.linesWith("shared set ").size(), 2U);
-}
-
 } // namespace
 } // namespace tarnwick::testing

@@ -1,10 +1,9 @@
-#include "integration/Links.h"
 #include "tests/support/IntegrationFixture.h"
 
 namespace tarnwick::testing {
 namespace {
 
-/// What goes out to the script, the browser and the register, beyond the plain cases.
+/// What goes out to the script, beyond the plain cases.
 class HandlerCallTest : public IntegrationFixture {
 protected:
     void install() { platform_.userScripts.installed.insert("/scripts/applescript.scpt"); }
@@ -56,36 +55,6 @@ TEST_F(HandlerCallTest, TheInitializeAlertIsLocalised) {
     const AlertRequest expected{
         .messageText = "Warnung", .informativeText = "Alles weg.", .buttons = {"Gut", "Abbrechen"}};
     EXPECT_EQ(platform_.panels.alerts.front(), expected);
-}
-
-TEST_F(HandlerCallTest, ARestartRequestStaysStoredAndIsOverwrittenByTheNext) {
-    platform_.preferences.shared.insert_or_assign(
-        "askActionFromTarnwick", PlistValue(PlistDictionary{{"ActionType", "older"}, {"more", 1}}));
-    integration_.restartRequest.send();
-    EXPECT_EQ(shared("askActionFromTarnwick"), PlistValue(PlistDictionary{{"ActionType", "restartFinder"}}));
-    EXPECT_FALSE(platform_.log.holds("shared synchronise"));
-}
-
-TEST_F(HandlerCallTest, TheHelpActionsOpenTheirExactAddresses) {
-    integration_.tools.openLink(link::helpRestartFinder);
-    integration_.tools.openLink(link::helpServices);
-    EXPECT_EQ(platform_.log.lines(),
-        (std::vector<std::string>{"open URL https://tarnwick.halvane.example/help/restart-finder.html",
-            "open URL https://tarnwick.halvane.example/help/services.html"}));
-}
-
-TEST_F(HandlerCallTest, AnErrorOfTheRegisterWithoutAnyCopyIsNotInstalledEither) {
-    platform_.workspace.registered["org.example.Nobody"] = {{}, true};
-    EXPECT_FALSE(integration_.tools.isInstalled("org.example.Nobody"));
-}
-
-TEST_F(HandlerCallTest, SeveralShortcutFilesAreLoggedAndParsedOneAfterTheOtherEvenUnreadableOnes) {
-    platform_.contents.putList("/b.plist", PlistValue(PlistDictionary{}));
-    integration_.tools.chooseSystemShortcuts();
-    platform_.log.clear();
-    platform_.panels.confirm({"/a.plist", "/b.plist"});
-    EXPECT_EQ(platform_.log.lines(),
-        (std::vector<std::string>{"log /a.plist", "parse /a.plist", "log /b.plist", "parse /b.plist"}));
 }
 
 } // namespace

@@ -1,5 +1,5 @@
+#include "integration/Links.h"
 #include "tests/support/IntegrationFixture.h"
-#include "values/Utf8.h"
 
 namespace tarnwick::testing {
 namespace {
@@ -29,6 +29,8 @@ TEST_F(ToolsTest, AnApplicationIsInstalledWhenACopyIsRegistered) {
     EXPECT_TRUE(integration_.tools.isInstalled("org.example.Somebody"));
     platform_.workspace.registered["org.example.Somebody"].failed = true;
     EXPECT_FALSE(integration_.tools.isInstalled("org.example.Somebody"));
+    platform_.workspace.registered["org.example.Nobody"] = {{}, true};
+    EXPECT_FALSE(integration_.tools.isInstalled("org.example.Nobody"));
 }
 
 TEST_F(ToolsTest, TheShortcutChooserOpensAtTheSystemsFileByItsURLText) {
@@ -40,11 +42,21 @@ TEST_F(ToolsTest, TheShortcutChooserOpensAtTheSystemsFileByItsURLText) {
     EXPECT_EQ(platform_.panels.requests.back(), expected);
 }
 
-TEST_F(ToolsTest, ChoosingAShortcutFileLogsItsPathAndParsesIt) {
+TEST_F(ToolsTest, SeveralShortcutFilesAreLoggedAndParsedOneAfterTheOtherEvenUnreadableOnes) {
+    platform_.contents.putList("/b.plist", PlistValue(PlistDictionary{}));
     integration_.tools.chooseSystemShortcuts();
     platform_.log.clear();
-    platform_.panels.confirm({"/x/keys.plist"});
-    EXPECT_EQ(platform_.log.lines(), (std::vector<std::string>{"log /x/keys.plist", "parse /x/keys.plist"}));
+    platform_.panels.confirm({"/a.plist", "/b.plist"});
+    EXPECT_EQ(platform_.log.lines(),
+        (std::vector<std::string>{"log /a.plist", "parse /a.plist", "log /b.plist", "parse /b.plist"}));
+}
+
+TEST_F(ToolsTest, TheHelpActionsOpenTheirExactAddresses) {
+    integration_.tools.openLink(link::helpRestartFinder);
+    integration_.tools.openLink(link::helpServices);
+    EXPECT_EQ(platform_.log.lines(),
+        (std::vector<std::string>{"open URL https://tarnwick.halvane.example/help/restart-finder.html",
+            "open URL https://tarnwick.halvane.example/help/services.html"}));
 }
 
 TEST_F(ToolsTest, CancellingTheShortcutChooserDoesNothing) {
@@ -52,22 +64,6 @@ TEST_F(ToolsTest, CancellingTheShortcutChooserDoesNothing) {
     platform_.log.clear();
     platform_.panels.cancel();
     EXPECT_TRUE(platform_.log.lines().empty());
-}
-
-TEST(Utf8Test, AcceptsWellFormedTextOfEveryLength) {
-    for (const auto* text :
-        {"", "plain", "\u00FC", "\u3001", "\U0001F600", "\u007F\u0080\u07FF\u0800\uFFFF\U0010FFFF"}) {
-        EXPECT_TRUE(isValidUtf8(text)) << text;
-    }
-    EXPECT_TRUE(isValidUtf8(std::string_view("a\0b", 3)));
-}
-
-TEST(Utf8Test, RefusesMalformedBytes) {
-    for (const auto* text :
-        {"\x80", "\xC0\x80", "\xC1\xBF", "\xC3", "\xE0\x80\x80", "\xED\xA0\x80", "\xF0\x80\x80\x80",
-            "\xF4\x90\x80\x80", "\xF5\x80\x80\x80", "\xE3\x80", "\xE3\x80\x28", "ok\xFF"}) {
-        EXPECT_FALSE(isValidUtf8(text)) << text;
-    }
 }
 
 TEST_F(ToolsTest, OneWrongByteAnywhereLosesTheWholeOutput) {

@@ -11,8 +11,9 @@ fail() {
 }
 freshCopy() {
     rm -rf "$work/copy"
-    mkdir "$work/copy"
+    mkdir -p "$work/copy/tests"
     cp -r adapters app editing front gnustep integration platform prefs transfer ui values "$work/copy"
+    cp -r tests/editing tests/integration tests/prefs tests/support "$work/copy/tests"
 }
 # plant FILE: the standard input goes to the end of the file.
 plant() {

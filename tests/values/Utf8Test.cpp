@@ -104,5 +104,21 @@ TEST(Utf8Test, TheLastCharacterBeginsWhereItsFirstByteIs) {
     EXPECT_EQ(startOfLastCharacter("\U0001F600"), 0U);
 }
 
+TEST(Utf8FormsTest, AcceptsWellFormedTextOfEveryLength) {
+    for (const auto* text :
+        {"", "plain", "\u00FC", "\u3001", "\U0001F600", "\u007F\u0080\u07FF\u0800\uFFFF\U0010FFFF"}) {
+        EXPECT_TRUE(isValidUtf8(text)) << text;
+    }
+    EXPECT_TRUE(isValidUtf8(std::string_view("a\0b", 3)));
+}
+
+TEST(Utf8FormsTest, RefusesMalformedBytes) {
+    for (const auto* text :
+        {"\x80", "\xC0\x80", "\xC1\xBF", "\xC3", "\xE0\x80\x80", "\xED\xA0\x80", "\xF0\x80\x80\x80",
+            "\xF4\x90\x80\x80", "\xF5\x80\x80\x80", "\xE3\x80", "\xE3\x80\x28", "ok\xFF"}) {
+        EXPECT_FALSE(isValidUtf8(text)) << text;
+    }
+}
+
 } // namespace
 } // namespace tarnwick::testing
