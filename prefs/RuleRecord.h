@@ -2,6 +2,7 @@
 
 #include "values/PlistValue.h"
 
+#include <array>
 #include <memory>
 #include <optional>
 #include <string>
@@ -29,6 +30,10 @@ inline constexpr std::string_view nameModified = "nameModified";
 inline constexpr std::string_view noteModified = "noteModified";
 inline constexpr std::string_view action = "Action";
 inline constexpr std::string_view note = "Note";
+
+/// Those that are read as flags, and as texts.
+inline constexpr std::array flags{enable, enableMainMenu, modified, nameModified, noteModified};
+inline constexpr std::array texts{displayName, extension, realPath, action, note};
 } // namespace field
 
 /// A `realPath` that stands for a target without a folder.

@@ -8,16 +8,10 @@
 #include "prefs/SharedPreferences.h"
 
 #include <algorithm>
-#include <array>
 #include <string>
 
 namespace tarnwick {
 namespace {
-
-constexpr std::array flagFields{
-    field::enable, field::enableMainMenu, field::modified, field::nameModified, field::noteModified};
-constexpr std::array textFields{
-    field::displayName, field::extension, field::realPath, field::action, field::note};
 
 bool isReadableList(const PlistValue& stored) {
     const auto* elements = stored.array();
@@ -68,10 +62,10 @@ bool isReadableRecord(const PlistValue& element) {
         const auto isIn = [&key = key](const auto& keys) {
             return std::find(keys.begin(), keys.end(), key) != keys.end();
         };
-        if (isIn(flagFields)) {
+        if (isIn(field::flags)) {
             return flagValue(value).has_value();
         }
-        if (isIn(textFields)) {
+        if (isIn(field::texts)) {
             return value.string() != nullptr;
         }
         return key != field::icon || value.data() != nullptr;
