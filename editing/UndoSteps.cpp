@@ -55,7 +55,7 @@ UndoSteps::Group::~Group() {
     }
 }
 
-void UndoSteps::add(std::shared_ptr<Step> step) {
+void UndoSteps::add(const std::shared_ptr<Step>& step) {
     if (direction_ != Direction::back) {
         earlier_.push_back(step);
     }

@@ -49,7 +49,7 @@ private:
         std::vector<std::shared_ptr<UndoPart>> parts;
     };
 
-    void add(std::shared_ptr<Step> step);
+    void add(const std::shared_ptr<Step>& step);
     void takeBack(const std::shared_ptr<Step>& step);
     void fitEarlierSteps(const std::vector<std::shared_ptr<UndoPart>>& final);
     void registerAnew();
