@@ -1,0 +1,52 @@
+// Wrong: the knob of a scroller beside a long list, as of GNUstep GUI 0.29, where it becomes so short that it
+// can hardly be taken hold of.
+
+#import "gnustep/runtime/MethodReplacement.h"
+
+#import <AppKit/AppKit.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr CGFloat shortestKnob = 36;
+
+using Part = NSRect (*)(NSScroller *self, SEL command, NSScrollerPart part);
+Part nativePart = nullptr;
+
+/// The knob's share of its way is that of the value, however long it is. `start` and `length` are the knob's,
+/// `slotStart` and `slotLength` those of what it moves in.
+void lengthen(CGFloat &start, CGFloat &length, CGFloat slotStart, CGFloat slotLength, double value) {
+    const CGFloat wanted = std::min(shortestKnob, slotLength);
+    if (length > 0 && length < wanted) {
+        length = wanted;
+        start = slotStart + std::floor(value * (slotLength - wanted));
+    }
+}
+
+NSRect part(NSScroller *self, SEL command, NSScrollerPart part) {
+    NSRect rect = nativePart(self, command, part);
+    if (part == NSScrollerKnob) {
+        const NSRect slot = nativePart(self, command, NSScrollerKnobSlot);
+        if (NSWidth([self frame]) > NSHeight([self frame])) {
+            lengthen(rect.origin.x, rect.size.width, NSMinX(slot), NSWidth(slot), [self doubleValue]);
+        } else {
+            lengthen(rect.origin.y, rect.size.height, NSMinY(slot), NSHeight(slot), [self doubleValue]);
+        }
+    }
+    return rect;
+}
+
+} // namespace
+
+@interface NSScroller (TNKnob)
+@end
+
+@implementation NSScroller (TNKnob)
+
++ (void)load {
+    nativePart = TNReplaceMethod(self, @selector(rectForPart:), part);
+}
+
+@end
