@@ -8,13 +8,33 @@
 #import "TNTheme.h"
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
 constexpr CGFloat lineHeight = 2;
 constexpr CGFloat scrollMargin = 16;
-/// Of a dragged row: the line in a gap is seen beside it.
 constexpr CGFloat pictureWidth = 260;
+
+/// Leaves what stands on the row's ground, and of the ground every fourth pixel: the picture is a window of
+/// its own, which cannot be seen through here, and the line in a gap is not to be hidden by it.
+void thinOut(NSBitmapImageRep *pixels) {
+    constexpr std::size_t samples = 4;
+    if (static_cast<std::size_t>([pixels samplesPerPixel]) != samples || [pixels bitsPerSample] != 8) {
+        return;
+    }
+    std::array<unsigned char, samples> ground{};
+    std::copy_n([pixels bitmapData], samples, ground.begin());
+    for (NSInteger y = 0; y < [pixels pixelsHigh]; ++y) {
+        unsigned char *pixel = [pixels bitmapData] + y * [pixels bytesPerRow];
+        for (NSInteger x = 0; x < [pixels pixelsWide]; ++x, pixel += samples) {
+            const bool isKept = x % 2 == 0 && y % 2 == 0;
+            if (!isKept && std::equal(ground.begin(), ground.end(), pixel)) {
+                std::fill_n(pixel, samples, static_cast<unsigned char>(0));
+            }
+        }
+    }
+}
 
 } // namespace
 
@@ -61,12 +81,15 @@ constexpr CGFloat pictureWidth = 260;
           slideBack:NO];
 }
 
+/// What can be seen through is left out of the window that shows it.
 - (NSImage *)pictureOfRect:(NSRect)rect {
     [self lockFocus];
     NSBitmapImageRep *pixels = [[[NSBitmapImageRep alloc] initWithFocusedViewRect:rect] autorelease];
     [self unlockFocus];
     NSImage *image = [[[NSImage alloc] initWithSize:rect.size] autorelease];
+    [image setBackgroundColor:[NSColor clearColor]];
     if (pixels) {
+        thinOut(pixels);
         [image addRepresentation:pixels];
     }
     return image;

@@ -8,18 +8,33 @@ import signal
 from harness.stores import COPY_TARGETS, TEMPLATES, folder_records
 from tests.outside.checks import require, run_checks
 from tests.outside.picture import Picture
+from tests.outside.pointer import pointer_picture
 
 ACCENT = bytes.fromhex("2f73da")
 # Of a row, from its top.
 GAP = 0.07
+UNDER_PICTURE = 220
 
 
 def lines_shown(desktop):
     """How many lines of the accent colour go across the table, the ring around it left out."""
-    picture = Picture(desktop.window.picture())
-    top, bottom = desktop.places.first_row_top(desktop.page), desktop.places.table_bottom()
+    picture = Picture(desktop.screen.picture())
+    places, above = desktop.places, desktop.window.geometry()[1]
+    top, bottom = above + places.first_row_top(desktop.page), above + places.table_bottom()
     has_line = [ACCENT * 100 in picture.row(y) for y in range(round(top), round(bottom))]
     return sum(here and not above for here, above in zip(has_line[1:], has_line))
+
+
+def line_under_the_picture(desktop, row):
+    """The part of the line above the row that can be seen in the columns where the dragged row is."""
+    picture = Picture(desktop.screen.picture())
+    left, y = desktop.window.on_screen(desktop.place("cell", row, desktop.page.switch_column, 0))
+    pixels = picture.row(round(y))[3 * round(left):3 * round(left + UNDER_PICTURE)]
+    return sum(pixels[index:index + 3] == ACCENT for index in range(0, len(pixels), 3)) / UNDER_PICTURE
+
+
+def pointer(desktop):
+    return pointer_picture(desktop.screen.environment["DISPLAY"])
 
 
 def hold_over(desktop, *places):
@@ -114,7 +129,36 @@ def a_drag_that_ends_while_the_program_is_stopped_ends_where_the_pointer_let_go(
         require(lines_shown(desktop) == 0, "the line is still there after the drag")
 
 
+def the_dragged_row_does_not_hide_the_line(start):
+    with start() as (desktop, model):
+        hold_over(desktop, gap(desktop, 4), gap(desktop, 7))
+        seen = line_under_the_picture(desktop, 7)
+        require(seen > 0.6, f"{seen:.0%} of the line can be seen below the dragged row")
+        let_go(desktop)
+        model.drop(TEMPLATES, 0, 7)
+        model.expect("the row in its new place")
+
+
+def the_pointer_says_where_a_row_cannot_be_dropped(start):
+    with start() as (desktop, model):
+        hold_over(desktop, gap(desktop, 4), gap(desktop, 7))
+        over_gap = pointer(desktop)
+        desktop.window.move(desktop.place("cell", 5))
+        desktop.screen.settle()
+        over_row = pointer(desktop)
+        require(over_row != over_gap, "the pointer over a row is that over a gap")
+        desktop.window.move(gap(desktop, 7))
+        desktop.screen.settle()
+        require(pointer(desktop) == over_gap, "the pointer over a gap is another one after a row")
+        desktop.window.move(desktop.place("heading"))
+        desktop.screen.settle()
+        require(pointer(desktop) == over_row, "the pointer beside the list is not that over a row")
+        let_go(desktop)
+        model.expect("the list as it was")
+
+
 if __name__ == "__main__":
     run_checks(a_drag_that_jumps_shows_one_line, a_drag_that_comes_to_nothing_leaves_nothing,
                a_drag_within_a_moment_in_which_the_program_is_stopped_ends_where_the_pointer_let_go,
-               a_drag_that_ends_while_the_program_is_stopped_ends_where_the_pointer_let_go)
+               a_drag_that_ends_while_the_program_is_stopped_ends_where_the_pointer_let_go,
+               the_dragged_row_does_not_hide_the_line, the_pointer_says_where_a_row_cannot_be_dropped)
