@@ -91,13 +91,17 @@ def wait_for_an_end(processes):
 
 class Display:
     """A virtual display for as long as this object is entered. The server picks a free number itself, so that any
-    number of these may start at once; it lacks OpenGL, which nothing here draws with and which takes long to load."""
+    number of these may start at once; it lacks OpenGL, which nothing here draws with and which takes long to load.
+    With a folder it keeps what is on the screen in a file there, from which it can be read as it is drawn."""
+
+    def __init__(self, folder=None):
+        self.options = [*SERVER_OPTIONS, "-fbdir", folder] if folder else SERVER_OPTIONS
 
     def __enter__(self):
         read_end, write_end = os.pipe()
         os.set_inheritable(write_end, True)
         self.server = os.posix_spawnp(
-            "Xvfb", ["Xvfb", "-displayfd", str(write_end), *SERVER_OPTIONS], os.environ,
+            "Xvfb", ["Xvfb", "-displayfd", str(write_end), *self.options], os.environ,
             file_actions=[(os.POSIX_SPAWN_OPEN, stream, os.devnull, os.O_RDWR, 0) for stream in range(3)])
         os.close(write_end)
         with open(read_end, encoding="ascii") as answer:

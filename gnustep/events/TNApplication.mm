@@ -1,5 +1,6 @@
 // Missing: Return and Escape for a field that is being edited, context menus by the Control key, reports of
-// failing event handlers, and the prompt end of a modal session, as of GNUstep GUI 0.29.
+// failing event handlers, the prompt end of a modal session, and what is drawn during one that was begun by a
+// deferred call, as of GNUstep GUI 0.29.
 
 #import "TNApplication.h"
 
@@ -27,6 +28,17 @@
 - (void)postEvent:(NSEvent *)event atStart:(BOOL)atStart {
     [super postEvent:event atStart:atStart];
     TNWakeRunLoop();
+}
+
+/// GNUstep draws by a deferred call too: behind the one that has begun the session it would wait for its end.
+- (NSInteger)runModalSession:(NSModalSession)session {
+    const NSInteger code = [super runModalSession:session];
+    for (NSWindow *window in [self windows]) {
+        if ([window isVisible] && [window viewsNeedDisplay]) {
+            [window displayIfNeeded];
+        }
+    }
+    return code;
 }
 
 /// The editor of the field that a key is meant for; nil without one, and in panels, whose buttons have Return

@@ -6,6 +6,7 @@ import os
 import signal
 
 from harness.stores import COPY_TARGETS, TEMPLATES, folder_records
+from harness.waiting import wait_until_steady
 from tests.outside.checks import require, run_checks
 from tests.outside.picture import Picture
 from tests.outside.pointer import pointer_picture
@@ -34,7 +35,15 @@ def line_under_the_picture(desktop, row):
 
 
 def pointer(desktop):
-    return pointer_picture(desktop.screen.environment["DISPLAY"])
+    """Once it stays the same: it changes by no picture of the screen."""
+    last = None
+
+    def look():
+        nonlocal last
+        last = pointer_picture(desktop.screen.environment["DISPLAY"])
+        return last
+    wait_until_steady(look, "a pointer that stays the same", 0.5)
+    return last
 
 
 def hold_over(desktop, *places):

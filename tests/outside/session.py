@@ -20,7 +20,7 @@ class Session:
         self.program = pathlib.Path(program).resolve()
         with contextlib.ExitStack() as stack:
             self.user = stack.enter_context(UserFolder())
-            display = stack.enter_context(Display())
+            display = stack.enter_context(self.make_display())
             self.screen = Screen(self.user.environment(DISPLAY=display.name, **environment))
             self.stack = stack
             if has_window_manager:
@@ -38,6 +38,9 @@ class Session:
     def close(self):
         self.end(self.application)
         self.stack.close()
+
+    def make_display(self):
+        return Display()
 
     def prepare(self):
         """What the user folder holds before the program starts."""
