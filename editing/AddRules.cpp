@@ -2,6 +2,7 @@
 
 #include "editing/ListEditor.h"
 #include "editing/RuleTables.h"
+#include "platform/ApplicationBundle.h"
 #include "platform/Images.h"
 #include "prefs/GroupContainer.h"
 #include "prefs/HomeFolder.h"
@@ -27,6 +28,7 @@ OpenPanelRequest AddRules::chooser(RuleCategory category) const {
     request.canCreateDirectories = facts.source == RuleSource::folders;
     request.allowsMultipleSelection = true;
     request.extensionsHidden = facts.choosesWithoutExtensions;
+    request.message = bundle_.localized(facts.chooserMessage);
     if (!facts.allowedType.empty()) {
         request.allowedFileTypes.emplace_back(facts.allowedType);
     }

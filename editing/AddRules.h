@@ -11,6 +11,7 @@
 
 namespace tarnwick {
 
+class ApplicationBundle;
 class Images;
 class KnownFolders;
 class ListEditor;
@@ -22,10 +23,10 @@ class RuleTables;
 /// without a message.
 class AddRules {
 public:
-    AddRules(Panels& panels, Images& images, const KnownFolders& folders, LocalPreferences& local,
-        TemplateFiles& templates, ListEditor& editor, RuleTables& tables)
-        : panels_(panels), images_(images), folders_(folders), local_(local), templates_(templates),
-          editor_(editor), tables_(tables) {}
+    AddRules(Panels& panels, Images& images, const KnownFolders& folders, const ApplicationBundle& bundle,
+        LocalPreferences& local, TemplateFiles& templates, ListEditor& editor, RuleTables& tables)
+        : panels_(panels), images_(images), folders_(folders), bundle_(bundle), local_(local),
+          templates_(templates), editor_(editor), tables_(tables) {}
 
     /// Opens the category's chooser and returns; once it is confirmed, adds what was chosen. Order: the
     /// records, the remembered folder (not for Others), store, synchronise, reload, publish.
@@ -51,6 +52,7 @@ private:
     Panels& panels_;
     Images& images_;
     const KnownFolders& folders_;
+    const ApplicationBundle& bundle_;
     LocalPreferences& local_;
     TemplateFiles& templates_;
     ListEditor& editor_;

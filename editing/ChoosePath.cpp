@@ -1,6 +1,7 @@
 #include "editing/ChoosePath.h"
 
 #include "editing/ListEditor.h"
+#include "platform/ApplicationBundle.h"
 #include "platform/Panels.h"
 #include "prefs/HomeFolder.h"
 #include "prefs/RuleList.h"
@@ -14,6 +15,7 @@ void ChoosePath::selectPath(RuleCategory category, long row) {
     request.canChooseDirectories = true;
     request.canCreateDirectories = true;
     request.startFolder = homeSubfolder(folders_, "Desktop");
+    request.message = bundle_.localized("Choose the folder that this rule is to lead to.");
     panels_.choose(request, [this, category, row](const OpenPanelAnswer& answer) {
         if (!answer.confirmed || answer.paths.empty()) {
             return;

@@ -4,6 +4,7 @@
 
 namespace tarnwick {
 
+class ApplicationBundle;
 class KnownFolders;
 class ListEditor;
 class Panels;
@@ -11,8 +12,9 @@ class Panels;
 /// Gives a rule that stands for a folder another one that the user chooses.
 class ChoosePath {
 public:
-    ChoosePath(Panels& panels, const KnownFolders& folders, ListEditor& editor)
-        : panels_(panels), folders_(folders), editor_(editor) {}
+    ChoosePath(
+        Panels& panels, const KnownFolders& folders, const ApplicationBundle& bundle, ListEditor& editor)
+        : panels_(panels), folders_(folders), bundle_(bundle), editor_(editor) {}
 
     /// Opens a folder chooser at the Desktop and returns. Once it is confirmed, the record that then stands
     /// at `row` gets the first chosen folder and an empty name; if there is none any more, nothing changes.
@@ -22,6 +24,7 @@ public:
 private:
     Panels& panels_;
     const KnownFolders& folders_;
+    const ApplicationBundle& bundle_;
     ListEditor& editor_;
 };
 

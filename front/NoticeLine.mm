@@ -54,7 +54,7 @@ constexpr CGFloat pointSize = 12;
             return button;
         };
         [addButton(tarnwick::localizedText("Put Away"), @selector(putNoticeAway:))
-            setToolTip:tarnwick::localizedText("Hides this until Tarnwick is started again.")];
+            setToolTip:tarnwick::localizedText("Hides this until Tarnwick starts again.")];
         if (notice.step != tarnwick::NoticeStep::none) {
             addButton(tarnwick::localizedText(tarnwick::titleOf(notice.step)), @selector(takeNoticeStep:));
         }

@@ -203,7 +203,7 @@ ChooseFolderButton *makeChooseFolderButton(
 /// Goes to the next rule that something is wrong with, and on to the page's extra button.
 void addFaultLine(NSView *page, NSScrollView *list, SettingsViewController *controller, NSButton *extra) {
     NSButton *next = makePushButton(localizedText("Show Next"), controller, @selector(showNextFault:));
-    [next setToolTip:localizedText("Selects the next rule that something is wrong with.")];
+    [next setToolTip:localizedText("Selects the next rule with a problem.")];
     NSArray *buttons = extra ? [NSArray arrayWithObjects:extra, next, nil] : [NSArray arrayWithObject:next];
     [page addSubview:[[[FaultLineView alloc] initAtFootOf:list buttons:buttons] autorelease]];
 }
@@ -225,7 +225,7 @@ NSButton *addButtonBar(PageFrame &column, const PageLayout &layout, const RuleAc
     }
     if (actions.reset) {
         NSButton *reset = makePushButton(localizedText("Reset List"), controller, actions.reset);
-        [reset setToolTip:localizedText("Puts the list back to how it came with Tarnwick.")];
+        [reset setToolTip:localizedText("Restores the list that came with Tarnwick.")];
         const CGFloat width = NSWidth([reset frame]);
         column.place(reset, NSMakeRect(margin + column.width() - width, margin, width, buttonBarHeight),
             NSViewMinXMargin | NSViewMaxYMargin);

@@ -41,7 +41,7 @@
     if (forced) {
         _ownToolTip = [[self toolTip] copy];
         [self
-            setToolTip:tarnwick::localizedText("An administrator has set this; it cannot be changed here.")];
+            setToolTip:tarnwick::localizedText("An administrator has set this and keeps it as it is.")];
     } else {
         [self setToolTip:_ownToolTip];
         [_ownToolTip release];

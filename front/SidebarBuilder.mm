@@ -94,6 +94,7 @@ NSView *makeSidebar(CGFloat height, SettingsViewController *controller) {
     [version setAlignment:NSTextAlignmentCenter];
     NSButton *help = [[[HelpButton alloc] init] autorelease];
     preparePushButton(help, localizedText(sidebar::help), controller, @selector(initializeClick:));
+    [help setToolTip:localizedText("Restarting the Finder")];
     [help setBordered:NO];
     NSTextField *tip = makeLabel(localizedText(sidebar::tip), smallFont, secondaryTextColor(), true);
     [tip setAlignment:NSTextAlignmentCenter];

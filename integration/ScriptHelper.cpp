@@ -52,6 +52,7 @@ void ScriptHelper::doInstallScript() {
     request.canChooseFiles = false;
     request.startFolder = folder;
     request.prompt = bundle_.localized("OK");
+    request.message = bundle_.localized("The script helper goes into this folder: confirm it as it is.");
     panels_.choose(request, [this, folder](const OpenPanelAnswer& answer) {
         // Confirming the very folder is what grants the right to write there.
         if (answer.confirmed && folder && !answer.paths.empty() && answer.paths.front() == *folder) {

@@ -37,6 +37,8 @@ struct OpenPanelRequest {
     bool startFolderIsURLText = false;
     /// The title of the confirming button; nothing: the platform's.
     std::optional<std::string> prompt;
+    /// What is to be chosen, in a sentence.
+    std::string message;
 
     bool operator==(const OpenPanelRequest&) const = default;
 };
@@ -53,6 +55,8 @@ struct SavePanelRequest {
     std::string name;
     /// Without dot.
     std::string fileType;
+    /// What the file will hold, in a sentence.
+    std::string message;
 
     bool operator==(const SavePanelRequest&) const = default;
 };

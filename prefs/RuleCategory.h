@@ -31,6 +31,8 @@ struct RuleCategoryFacts {
     std::string_view rememberedFolderKey;
     /// The identifier of the text field in which a record's name is edited.
     std::string_view nameIdentifier;
+    /// What its chooser says is to be chosen; a key of the localisation table.
+    std::string_view chooserMessage;
     /// The field that says that a record bears the user's own name for it; its name is a key of the
     /// localisation table until then. Without one a record may lack a name, and is then called after its
     /// folder.
@@ -58,17 +60,20 @@ inline constexpr PerCategory<RuleCategoryFacts> ruleCategoryFacts{
         .enableAllKey = "enableAllOfCreateNewFiles",
         .rememberedFolderKey = "prePathOfCreateNewFile",
         .nameIdentifier = "NewFileDisplayName",
+        .chooserMessage = "Choose files: the menu then offers new ones like them.",
         .nameMark = field::modified,
         .hasTemplateFiles = true,
         .countedAtDrop = RuleCategory::createNewFile},
     RuleCategoryFacts{.listKey = "arrOfCopyFilesTo",
         .rememberedFolderKey = "prePathOfSendFilesTo",
         .nameIdentifier = "Note",
+        .chooserMessage = "Choose folders that files are to be copied or moved to.",
         .source = RuleSource::folders,
         .countedAtDrop = RuleCategory::copyFilesTo},
     RuleCategoryFacts{.listKey = "arrOfCommonPath",
         .rememberedFolderKey = "prePathOfCommonPath",
         .nameIdentifier = "commonPathDisplayName",
+        .chooserMessage = "Choose folders that the menu is to open.",
         .source = RuleSource::folders,
         .hasFactoryList = false,
         .countedAtDrop = RuleCategory::commonPath},
@@ -76,6 +81,7 @@ inline constexpr PerCategory<RuleCategoryFacts> ruleCategoryFacts{
         .enableAllKey = "enableAllOfCustomIcon",
         .rememberedFolderKey = "prePathOfCustomIcon",
         .nameIdentifier = "CustomIconName",
+        .chooserMessage = "Choose PNG pictures that the menu is to offer as icons.",
         .nameMark = field::modified,
         .allowedType = "png",
         .isNeverEmpty = true,
@@ -84,6 +90,7 @@ inline constexpr PerCategory<RuleCategoryFacts> ruleCategoryFacts{
     RuleCategoryFacts{.listKey = "arrOfOthers",
         .enableAllKey = "enableAllOfOthers",
         .nameIdentifier = "OthersDisplayName",
+        .chooserMessage = "Choose items that the menu is to show again.",
         .nameMark = field::nameModified,
         .allowedType = "png",
         .choosesWithoutExtensions = true,

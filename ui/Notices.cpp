@@ -75,7 +75,7 @@ void Notices::addForcedLists(std::vector<Notice>& notices) const {
     if (!pages.empty()) {
         notices.push_back({.kind = NoticeKind::forcedLists,
             .text =
-                filled(bundle_.localized("An administrator has set these lists, changes do not last: %@."),
+                filled(bundle_.localized("An administrator sets these lists and undoes changes: %@."),
                     {pages})});
     }
 }

@@ -20,6 +20,11 @@ CellRemark RowRemarks::of(RuleCategory category, std::string_view column, long r
         remark.toolTip = remark.help;
     }
     const auto* facts = columnOf(category, column);
+    if (!remark.warns && facts && facts->role != ColumnRole::icon &&
+        list.isFixed(static_cast<std::size_t>(row))) {
+        remark.help = bundle_.localized(whyFixed);
+        remark.toolTip = remark.help;
+    }
     if (facts && facts->showsPath) {
         remark.isPath = true;
         if (fault != RuleFault::folderUndefined) {

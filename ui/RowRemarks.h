@@ -24,6 +24,9 @@ struct CellRemark {
     bool operator==(const CellRemark&) const = default;
 };
 
+/// Why the controls of a fixed rule do nothing; a key of the localisation table.
+inline constexpr std::string_view whyFixed = "This item is always on and keeps its name and its place.";
+
 class RowRemarks {
 public:
     RowRemarks(const RuleLists& lists, const RuleHealth& health, const ApplicationBundle& bundle)

@@ -1,4 +1,5 @@
 #include "ui/RuleCommands.h"
+#include "ui/RowRemarks.h"
 
 #include "editing/RuleEditing.h"
 #include "platform/Workspace.h"
@@ -17,7 +18,6 @@ namespace {
 namespace obstacle {
 constexpr std::string_view noList = "This page has no list.";
 constexpr std::string_view noRow = "Select a row first.";
-constexpr std::string_view fixed = "This item is always on and keeps its name and its place.";
 constexpr std::string_view noFolder = "It has no folder yet.";
 constexpr std::string_view noFile = "Its template file cannot be found.";
 constexpr std::string_view first = "It is the first row already.";
@@ -161,14 +161,14 @@ template <ColumnRole role>
 CommandState RuleCommands::textState(RuleCategory category, long row) const {
     const auto cell = cellOf<role>(controller_.rows(), category, row);
     const auto* field = std::get_if<TextFieldCell>(&cell.control);
-    return {.obstacle = field && field->editable ? "" : obstacle::fixed};
+    return {.obstacle = field && field->editable ? "" : whyFixed};
 }
 
 template <ColumnRole role>
 CommandState RuleCommands::switchState(RuleCategory category, long row) const {
     const auto cell = cellOf<role>(controller_.rows(), category, row);
     const auto* box = std::get_if<CheckBoxCell>(&cell.control);
-    return {.obstacle = box && box->enabled ? "" : obstacle::fixed, .isOn = box && box->on};
+    return {.obstacle = box && box->enabled ? "" : whyFixed, .isOn = box && box->on};
 }
 
 /// It says in words which way it goes, and bears no mark.
@@ -195,7 +195,7 @@ CommandState RuleCommands::moveState(RuleCategory category, long row) const {
         return {};
     }
     if (list(category).isFixed(static_cast<std::size_t>(row))) {
-        return {.obstacle = obstacle::fixed};
+        return {.obstacle = whyFixed};
     }
     const bool isUp = direction == MoveDirection::up;
     if (row == (isUp ? 0 : static_cast<long>(list(category).size()) - 1)) {

@@ -53,7 +53,8 @@ void SettingsTransfer::exportSettings(std::function<void()> then) {
     editor_.endEditing();
     const SavePanelRequest request{
         .name = "Tarnwick Settings " + clock_.today() + "." + std::string(fileType),
-        .fileType = std::string(fileType)};
+        .fileType = std::string(fileType),
+        .message = bundle_.localized("Choose where the file with all your settings goes.")};
     panels_.choosePlace(request, [this, then = std::move(then)](const std::optional<std::string>& path) {
         if (path) {
             exportTo(*path);
@@ -90,7 +91,9 @@ void SettingsTransfer::exportTo(const std::string& path) {
 
 void SettingsTransfer::importSettings() {
     editor_.endEditing();
-    panels_.choose({.allowedFileTypes = {std::string(fileType)}, .prompt = bundle_.localized("Import")},
+    panels_.choose({.allowedFileTypes = {std::string(fileType)},
+                       .prompt = bundle_.localized("Import"),
+                       .message = bundle_.localized("Choose a file of settings that Tarnwick has exported.")},
         [this](const OpenPanelAnswer& answer) {
             if (answer.confirmed && !answer.paths.empty()) {
                 importFrom(answer.paths.front());

@@ -15,8 +15,7 @@ constexpr std::array<SwitchLayout, 4> createNewFileSwitches{{
         "Opens the file in its application as soon as it has been created."},
     {"soundTipsOfNewFile", "Play a sound after creating a file",
         "A short sound says that the file is there."},
-    {"disableAutoNameOfCreateNewFile", "Do not name new files automatically",
-        "The name of a new file is left to you."},
+    {"disableAutoNameOfCreateNewFile", "Name new files yourself", "The name of a new file is left to you."},
 }};
 
 constexpr std::array<SwitchLayout, 4> copyFilesToSwitches{{
@@ -40,7 +39,7 @@ constexpr std::array<SwitchLayout, 1> customIconSwitches{{
 constexpr std::array<SwitchLayout, 4> othersSwitches{{
     {"enableIconOfOthers", "Show icons in the menu", "Shows each item's icon beside its name.", true},
     {"deleteDirectlyRequiresConfirmation", "Confirm before deleting directly",
-        "\"Delete directly\" does not use the Trash; this asks first."},
+        "Asks first, because \u201CDelete Directly\u201D bypasses the Trash."},
     {"newWindowOfOpenInTerminal", "Open Terminal in a new window",
         "Off: \"Open in Terminal\" uses a tab of the front window."},
     {"newWindowOfOpenIniTerm2", "Open iTerm2 in a new window",
@@ -64,14 +63,13 @@ constexpr std::array<MenuSection, 1> customIconSections{{{"Custom Icons", "", "c
 
 constexpr PerPage<PageLayout> layouts{
     PageLayout{"page-createNewFile", "New File",
-        "Templates that the menu offers for creating a new file in the folder at hand.",
-        RuleCategory::createNewFile, createNewFileSwitches, "Enable all templates", templatesOn,
-        "Add Templates\u2026", "No templates",
+        "Templates the menu offers for new files in the current folder.", RuleCategory::createNewFile,
+        createNewFileSwitches, "Enable all templates", templatesOn, "Add Templates\u2026", "No templates",
         "Choose \u201CAdd Templates\u2026\u201D and pick a file: the menu then offers new files like it.",
         createNewFileSections},
-    PageLayout{"page-copyFilesTo", "Copy & Move To",
-        "Folders that the selected files can be copied or moved to.", RuleCategory::copyFilesTo,
-        copyFilesToSwitches, "", {}, "Add Folders\u2026", "No folders to copy or move to",
+    PageLayout{"page-copyFilesTo", "Copy & Move To", "Folders you can copy or move the selected files to.",
+        RuleCategory::copyFilesTo, copyFilesToSwitches, "", {}, "Add Folders\u2026",
+        "No folders to copy or move to",
         "Choose \u201CAdd Folders\u2026\u201D and pick a folder: the menu then copies or moves files there.",
         copyFilesToSections},
     PageLayout{"page-commonPath", "Common Folders", "Folders that are one click away in every menu.",
@@ -79,13 +77,12 @@ constexpr PerPage<PageLayout> layouts{
         "Choose \u201CAdd Folders\u2026\u201D and pick a folder: the menu then opens it from anywhere.",
         commonPathSections},
     PageLayout{"page-customIcon", "Custom Icons",
-        "Pictures that the selected files and folders can be given as their icon.", RuleCategory::customIcon,
+        "Pictures to use as icons for the selected files and folders.", RuleCategory::customIcon,
         customIconSwitches, "Enable all icons", iconsOn, "Add Pictures\u2026", "No pictures",
         "Choose \u201CAdd Pictures\u2026\u201D and pick a PNG file: the menu then offers it as an icon.",
         customIconSections},
-    PageLayout{"page-others", "More Items",
-        "Further actions of the menu, and applications to open files with.", RuleCategory::others,
-        othersSwitches, "Enable all items", itemsOn, "Add Items\u2026", "No items",
+    PageLayout{"page-others", "More Items", "More menu actions, and applications to open files with.",
+        RuleCategory::others, othersSwitches, "Enable all items", itemsOn, "Add Items\u2026", "No items",
         "Choose \u201CAdd Items\u2026\u201D and pick an item: the menu then shows it again.", {}},
     PageLayout{"page-moreApps", "More Apps", "Other applications by the makers of Tarnwick.", std::nullopt,
         {}, "", {}, "", "", "", {}},
@@ -93,7 +90,7 @@ constexpr PerPage<PageLayout> layouts{
 
 constexpr std::array<AppTile, 3> tiles{{
     {"app-Snapfin", "Snapfin", "Takes, pins and annotates screenshots.", "View in Store", link::snapfin},
-    {"app-Allbright", "Allbright", "Keeps the brightness of all displays in step.", "View in Store",
+    {"app-Allbright", "Allbright", "Keeps the brightness of all displays in sync.", "View in Store",
         link::allbright},
     {"app-Website", "Website", "News, help and everything else we make.", "Visit", link::website},
 }};

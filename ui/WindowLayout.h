@@ -67,7 +67,7 @@ inline constexpr std::string_view preview = "Preview Menu";
 inline constexpr std::string_view previewToolTip =
     "Shows the menu that the Finder is given. Choose an item to see its rule.";
 inline constexpr std::string_view help = "Help";
-inline constexpr std::string_view tip = "Does the menu not show a change? Restarting the Finder helps.";
+inline constexpr std::string_view tip = "Menu out of date? Restarting the Finder helps.";
 inline constexpr std::string_view restart = "Restart Finder";
 } // namespace sidebar
 

@@ -66,6 +66,7 @@ public:
         if (request.prompt) {
             [panel setPrompt:toNSString(*request.prompt)];
         }
+        [panel setMessage:toNSString(request.message)];
         [panel beginWithCompletionHandler:^(NSInteger result) {
             completion(answerOf(panel, result));
         }];
@@ -77,6 +78,7 @@ public:
         [panel setAllowedFileTypes:toTypes({request.fileType})];
         [panel setNameFieldStringValue:toNSString(request.name)];
         [panel setCanCreateDirectories:YES];
+        [panel setMessage:toNSString(request.message)];
         [panel beginWithCompletionHandler:^(NSInteger result) {
             const bool isConfirmed = result == NSModalResponseOK;
             completion(isConfirmed ? std::optional(toString([[panel URL] path])) : std::nullopt);

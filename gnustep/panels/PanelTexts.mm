@@ -1,6 +1,6 @@
 // Wrong: the texts of open and save panels, as of GNUstep GUI 0.29, where the prompt stands before the name
 // field instead of on the default button, and a message is shown nowhere. A panel that is asked for anew has
-// none of the texts that it was given before.
+// none of the texts that it was given before, and is wide enough to read paths in.
 
 #import <AppKit/AppKit.h>
 
@@ -24,6 +24,8 @@ NSString *const standardPromptName = @"standardPrompt";
 constexpr CGFloat smallestPromptWidth = 71;
 constexpr CGFloat promptPadding = 24;
 constexpr CGFloat buttonGap = 8;
+constexpr CGFloat smallestWidth = 600;
+constexpr CGFloat smallestHeight = 440;
 
 using Reset = void (*)(id self, SEL command);
 Reset nativeReset = nullptr;
@@ -31,6 +33,11 @@ Reset nativeReset = nullptr;
 void reset(id self, SEL command) {
     nativeReset(self, command);
     [self tnResetTexts];
+    // Two narrow columns at first.
+    const NSSize size = [[self contentView] frame].size;
+    if (size.width < smallestWidth) {
+        [self setContentSize:NSMakeSize(smallestWidth, std::max(size.height, smallestHeight))];
+    }
 }
 
 void setPrompt(id self, SEL, NSString *prompt) {
@@ -73,24 +80,25 @@ NSString *message(id self, SEL) {
     return [_okButton title];
 }
 
-/// What stands left of the default button makes room for a long one.
+/// Each button is as wide as its title needs; what stands left of it makes room.
 - (void)tnSetPrompt:(NSString *)prompt {
     if (!TNAttachment(_okButton, standardPromptName)) {
         TNSetAttachment(_okButton, standardPromptName, [_okButton title]);
     }
     [_okButton setTitle:[prompt length] > 0 ? prompt : TNAttachment(_okButton, standardPromptName)];
-    NSRect frame = [_okButton frame];
-    const CGFloat wanted = [[[_okButton cell] attributedTitle] size].width + promptPadding;
-    const CGFloat width = std::max(smallestPromptWidth, std::ceil(wanted));
-    frame.origin.x = NSMaxX(frame) - width;
-    frame.size.width = width;
-    [_okButton setFrame:frame];
-    CGFloat right = NSMinX(frame) - buttonGap;
-    for (const NSInteger tag : {NSFileHandlingPanelCancelButton, NSFileHandlingPanelDiskEjectButton,
-             NSFileHandlingPanelDiskButton, NSFileHandlingPanelHomeButton}) {
-        NSView *button = [_bottomView viewWithTag:tag];
-        [button setFrameOrigin:NSMakePoint(right - NSWidth([button frame]), NSMinY([button frame]))];
-        right = NSMinX([button frame]) - buttonGap;
+    CGFloat right = NSMaxX([_okButton frame]);
+    for (const NSInteger tag :
+        {NSFileHandlingPanelOKButton, NSFileHandlingPanelCancelButton, NSFileHandlingPanelDiskEjectButton,
+            NSFileHandlingPanelDiskButton, NSFileHandlingPanelHomeButton}) {
+        NSButton *button = (NSButton *)[_bottomView viewWithTag:tag];
+        NSRect frame = [button frame];
+        if ([button imagePosition] != NSImageOnly) {
+            const CGFloat wanted = [[[button cell] attributedTitle] size].width + promptPadding;
+            frame.size.width = std::max(smallestPromptWidth, std::ceil(wanted));
+        }
+        frame.origin.x = right - NSWidth(frame);
+        [button setFrame:frame];
+        right = NSMinX(frame) - buttonGap;
     }
     [_bottomView setNeedsDisplay:YES];
 }
@@ -99,8 +107,14 @@ NSString *message(id self, SEL) {
     NSString *const name = @"messageField";
     NSTextField *field = TNAttachment(_topView, name);
     if (!field) {
-        constexpr CGFloat height = 16;
+        constexpr CGFloat height = 18;
         constexpr CGFloat margin = 8;
+        [_titleField setFont:[NSFont boldSystemFontOfSize:15]];
+        [_titleField sizeToFit];
+        // Both lines beside the icon.
+        constexpr CGFloat titleTop = 11;
+        const CGFloat bottom = NSMaxY([_topView bounds]) - titleTop - NSHeight([_titleField frame]);
+        [_titleField setFrameOrigin:NSMakePoint(NSMinX([_titleField frame]), bottom)];
         const NSRect title = [_titleField frame];
         const CGFloat width = NSMaxX([_topView bounds]) - NSMinX(title) - margin;
         field = [[[NSTextField alloc]
@@ -110,7 +124,7 @@ NSString *message(id self, SEL) {
         [field setSelectable:NO];
         [field setDrawsBackground:NO];
         [field setBezeled:NO];
-        [field setFont:[NSFont systemFontOfSize:11]];
+        [field setFont:[NSFont systemFontOfSize:12]];
         [[field cell] setLineBreakMode:NSLineBreakByTruncatingTail];
         [field setAutoresizingMask:NSViewMinYMargin | NSViewWidthSizable];
         [_topView addSubview:field];

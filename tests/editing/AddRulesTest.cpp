@@ -188,7 +188,8 @@ TEST_P(ChooserTest, IsSetUpForItsCategory) {
     EXPECT_EQ(lastRequest(), GetParam().expected);
 }
 
-OpenPanelRequest request(bool files, std::vector<std::string> types, bool hidden, std::string start) {
+OpenPanelRequest request(
+    bool files, std::vector<std::string> types, bool hidden, std::string start, std::string message) {
     return {.canChooseFiles = files,
         .canChooseDirectories = !files,
         .canCreateDirectories = !files,
@@ -197,18 +198,25 @@ OpenPanelRequest request(bool files, std::vector<std::string> types, bool hidden
         .allowedFileTypes = std::move(types),
         .startFolder = std::move(start),
         .startFolderIsURLText = false,
-        .prompt = std::nullopt};
+        .prompt = std::nullopt,
+        .message = std::move(message)};
 }
 
 constexpr const char* desktop = "/Users/anna/Desktop";
 
 INSTANTIATE_TEST_SUITE_P(Every, ChooserTest,
-    ::testing::Values(ChooserCase{RuleCategory::createNewFile, request(true, {}, false, desktop)},
-        ChooserCase{RuleCategory::copyFilesTo, request(false, {}, false, desktop)},
-        ChooserCase{RuleCategory::commonPath, request(false, {}, false, desktop)},
-        ChooserCase{RuleCategory::customIcon, request(true, {"png"}, false, desktop)},
+    ::testing::Values(
+        ChooserCase{RuleCategory::createNewFile,
+            request(true, {}, false, desktop, "Choose files: the menu then offers new ones like them.")},
+        ChooserCase{RuleCategory::copyFilesTo,
+            request(false, {}, false, desktop, "Choose folders that files are to be copied or moved to.")},
+        ChooserCase{RuleCategory::commonPath,
+            request(false, {}, false, desktop, "Choose folders that the menu is to open.")},
+        ChooserCase{RuleCategory::customIcon, request(true, {"png"}, false, desktop,
+                                                  "Choose PNG pictures that the menu is to offer as icons.")},
         ChooserCase{
-            RuleCategory::others, request(true, {"png"}, true, "/container/Templates/OthersMenuItemIcon")}));
+            RuleCategory::others, request(true, {"png"}, true, "/container/Templates/OthersMenuItemIcon",
+                                      "Choose items that the menu is to show again.")}));
 
 } // namespace
 } // namespace tarnwick::testing

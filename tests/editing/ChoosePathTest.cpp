@@ -75,6 +75,7 @@ TEST_F(ChoosePathTest, TheChooserTakesOneFolderAndAlwaysStartsAtTheDesktop) {
     expected.canChooseDirectories = true;
     expected.canCreateDirectories = true;
     expected.startFolder = "/Users/anna/Desktop";
+    expected.message = "Choose the folder that this rule is to lead to.";
     EXPECT_EQ(platform_.panels.requests.back(), expected);
 }
 

@@ -13,7 +13,7 @@ namespace {
 constexpr auto off = "The Finder reports that the extension of Tarnwick is turned off.";
 constexpr auto missing = "This copy of Tarnwick carries no Finder extension, so it has no menu.";
 constexpr auto copy = "The system knows another copy of Tarnwick, at /Volumes/Old/Tarnwick.app.";
-constexpr auto forcedList = "An administrator has set these lists, changes do not last: Common Folders.";
+constexpr auto forcedList = "An administrator sets these lists and undoes changes: Common Folders.";
 
 void comeBackTo(const std::string& answers) {
     setSystemState(answers);
@@ -61,7 +61,7 @@ TEST(Around, ASwitchThatAnAdministratorHasSetCannotBeClickedAndSaysWhy) {
     comeBackTo("forced = (enableCommonPath);");
     EXPECT_FALSE(buttonIsEnabled("Offer these folders in the menu"));
     EXPECT_EQ(toolTipOfButton("Offer these folders in the menu"),
-        "An administrator has set this; it cannot be changed here.");
+        "An administrator has set this and keeps it as it is.");
     EXPECT_TRUE(buttonIsEnabled("Show icons in the menu"));
     comeBackTo("");
     EXPECT_TRUE(buttonIsEnabled("Offer these folders in the menu"));

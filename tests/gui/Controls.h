@@ -17,6 +17,19 @@ struct ControlFacts {
 
 /// Every control that can be seen, from the sidebar to the end of the page that is shown.
 [[nodiscard]] std::vector<ControlFacts> visibleControls();
+/// The labels of the buttons and check boxes beside the lists that say nothing more of themselves than that.
+[[nodiscard]] std::vector<std::string> controlsWithoutHelp();
+
+struct MenuItemFacts {
+    std::string title;
+    bool isEnabled = false;
+    /// What it says when it cannot be chosen, or does.
+    std::string toolTip;
+};
+
+/// Every item of the menu bar and of the menus in it, as they are just now; no separators.
+[[nodiscard]] std::vector<MenuItemFacts> menuItems();
+
 /// The controls that the Tab key visits, beginning with the first page button, until it is back there.
 [[nodiscard]] std::vector<ControlFacts> tabOrder();
 /// The control that has the keyboard, also while its text is being edited.

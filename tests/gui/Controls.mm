@@ -57,6 +57,33 @@ void collect(NSView *view, std::vector<ControlFacts> &found) {
     }
 }
 
+void collectWithoutHelp(NSView *view, std::vector<std::string> &found) {
+    if ([view isHidden] || [view isKindOfClass:[NSTableView class]]) {
+        return;
+    }
+    if ([view isKindOfClass:[NSButton class]] && [[view toolTip] length] == 0 &&
+        [[view accessibilityHelp] length] == 0) {
+        found.push_back(controlFacts(view).label);
+    }
+    for (NSView *inner in [view subviews]) {
+        collectWithoutHelp(inner, found);
+    }
+}
+
+void collectItems(NSMenu *menu, std::vector<tarnwick::gui::MenuItemFacts> &found) {
+    [menu update];
+    for (NSMenuItem *item in [menu itemArray]) {
+        if ([item isSeparatorItem]) {
+            continue;
+        }
+        NSString *tip = [item toolTip] ? [item toolTip] : @"";
+        found.push_back({toString([item title]), static_cast<bool>([item isEnabled]), toString(tip)});
+        if ([item hasSubmenu]) {
+            collectItems([item submenu], found);
+        }
+    }
+}
+
 /// The control that has the keyboard, also while its text is being edited.
 NSView *keyboardView() {
     NSResponder *responder = [settingsWindow() firstResponder];
@@ -73,6 +100,18 @@ namespace tarnwick::gui {
 std::vector<ControlFacts> visibleControls() {
     std::vector<ControlFacts> found;
     collect([settingsWindow() contentView], found);
+    return found;
+}
+
+std::vector<std::string> controlsWithoutHelp() {
+    std::vector<std::string> found;
+    collectWithoutHelp([settingsWindow() contentView], found);
+    return found;
+}
+
+std::vector<MenuItemFacts> menuItems() {
+    std::vector<MenuItemFacts> found;
+    collectItems([NSApp mainMenu], found);
     return found;
 }
 

@@ -58,6 +58,7 @@ TEST(Integration, CancellingTheInitializeAlertKeepsEverything) {
     pressInNextPanel("Cancel");
     sendAction("initialize");
     EXPECT_EQ(lastAlertText(), "Warning");
+    EXPECT_GE(lastAlertMargin(), 16);
     EXPECT_EQ(shared("len(d['arrOfOthers'])"), "18");
 }
 
@@ -70,6 +71,12 @@ TEST(Integration, TheInstalledScriptInitializesAllSettings) {
     const std::string keys = "[key for key in d if not key.startswith('NS')]";
     EXPECT_TRUE(waitUntil([&] { return !ours(local(keys)) && !ours(shared(keys)); }));
     EXPECT_EQ(containerFolder("Templates").find("CreateNewFile"), std::string::npos);
+}
+
+TEST(Integration, ThePanelAboutTheApplicationSaysWhatItIsAndNothingElse) {
+    EXPECT_EQ(
+        textsOfAboutPanel(), (std::vector<std::string>{"Tarnwick", std::string("Version ") + TARNWICK_VERSION,
+                                 "Copyright 2026 the makers of Tarnwick"}));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 /// What a person does in alerts and panels. They block everything else, so this is arranged before what opens
 /// them.
@@ -12,6 +13,10 @@ void pressInNextPanel(const std::string& buttonTitle);
 void pressInNextAlert(const std::string& buttonTitle);
 /// What the alert said whose button was pressed last.
 [[nodiscard]] std::string lastAlertText();
+/// The least room that it left between what it showed and its edges.
+[[nodiscard]] double lastAlertMargin();
+/// Opens the panel about the application and closes it by Escape; what it says, from the top.
+[[nodiscard]] std::vector<std::string> textsOfAboutPanel();
 
 /// Types a path into the next open panel and confirms.
 void chooseInNextPanel(const std::string& path);

@@ -5,17 +5,34 @@
 #import "adapters/foundation/StringConversion.h"
 #import "tests/driving/Driving.h"
 
+#include <algorithm>
+
 namespace {
 
 namespace driving = tarnwick::driving;
 
 std::string alertText;
+double alertMargin = 0;
 
 NSTextField *firstLabel(NSView *view) {
     return static_cast<NSTextField *>(tarnwick::gui::firstView(view, [](NSView *each) {
         return [each isKindOfClass:[NSTextField class]] &&
                [[static_cast<NSTextField *>(each) stringValue] length] > 0;
     }));
+}
+
+/// The least room between what the panel shows and its edges.
+double marginOf(NSView *content) {
+    double margin = NSWidth([content bounds]);
+    for (NSView *view in [content subviews]) {
+        if (![view isHidden] && [view isKindOfClass:[NSControl class]]) {
+            const NSRect frame = [view frame];
+            const NSRect whole = [content bounds];
+            margin = std::min({margin, NSMinX(frame), NSMinY(frame), NSMaxX(whole) - NSMaxX(frame),
+                NSMaxY(whole) - NSMaxY(frame)});
+        }
+    }
+    return margin;
 }
 
 bool eventsAreWaiting() {
@@ -118,6 +135,7 @@ bool eventsAreWaiting() {
         return YES;
     }
     alertText = tarnwick::toString([firstLabel([panel contentView]) stringValue]);
+    alertMargin = marginOf([panel contentView]);
     [button performClick:self];
     return NO;
 }
@@ -193,6 +211,25 @@ void pressInNextAlert(const std::string &buttonTitle) {
 
 std::string lastAlertText() {
     return alertText;
+}
+
+double lastAlertMargin() {
+    return alertMargin;
+}
+
+std::vector<std::string> textsOfAboutPanel() {
+    [NSApp sendAction:@selector(orderFrontStandardAboutPanel:) to:nil from:NSApp];
+    driving::settle();
+    NSWindow *panel = [NSApp keyWindow];
+    std::vector<std::string> texts;
+    for (NSView *view in [[panel contentView] subviews]) {
+        if ([view isKindOfClass:[NSTextField class]]) {
+            texts.push_back(toString([static_cast<NSTextField *>(view) stringValue]));
+        }
+    }
+    driving::postKey(panel, @"\x1B");
+    driving::waitUntil([panel] { return ![panel isVisible]; });
+    return [panel isVisible] ? std::vector<std::string>{"it stays open"} : texts;
 }
 
 void chooseInNextPanel(const std::string &path) {

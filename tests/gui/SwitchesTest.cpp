@@ -74,7 +74,7 @@ TEST(Switches, AnOptionSwitchIsMirroredIntoTheSuiteAsABoolean) {
     EXPECT_EQ(shared("d['enableAutoOpenAfterCreateNewFile']"), "False");
     clickButton("Open a new file right away");
     EXPECT_EQ(shared("d['enableAutoOpenAfterCreateNewFile']"), "True");
-    clickButton("Do not name new files automatically");
+    clickButton("Name new files yourself");
     EXPECT_EQ(shared("d['disableAutoNameOfCreateNewFile']"), "True");
 }
 

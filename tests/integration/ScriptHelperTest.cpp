@@ -25,6 +25,7 @@ TEST_F(ScriptHelperTest, TheInstallPanelOpensOnTheScriptFolderForFoldersAlone) {
     expected.canChooseDirectories = true;
     expected.startFolder = "/scripts";
     expected.prompt = "Gut";
+    expected.message = "The script helper goes into this folder: confirm it as it is.";
     EXPECT_EQ(platform_.panels.requests.back(), expected);
 }
 

@@ -4,6 +4,7 @@ import argparse
 import pathlib
 import sys
 
+from harness.pseudo import LANGUAGE, speaking
 from harness.published import describe_stores
 from harness.waiting import wait_until
 from tests.outside.desktop import Desktop
@@ -27,15 +28,17 @@ def answer_prompt(desktop):
 
 def main():
     parser = argparse.ArgumentParser(prog="script/pictures", description=__doc__)
-    parser.add_argument("--language", default="en", help="that of a table of texts: en, de, zh-Hans and so on")
+    parser.add_argument("--language", default="en",
+                        help="that of a table of texts: en, de, zh-Hans and so on; or pseudo, which is English, longer")
     parser.add_argument("--appearance", default="light", choices=["light", "dark"])
     parser.add_argument("program", nargs="?", default="build/release/Tarnwick.app/Tarnwick")
     parser.add_argument("folder", nargs="?", default="build/pictures", type=pathlib.Path)
     options = parser.parse_args()
-    if not (ROOT / f"resources/{options.language}.lproj").is_dir():
+    if options.language != LANGUAGE and not (ROOT / f"resources/{options.language}.lproj").is_dir():
         sys.exit(f"pictures: there is no table for {options.language}")
     options.folder.mkdir(parents=True, exist_ok=True)
-    with Desktop(options.program, is_dark=options.appearance == "dark", language=options.language) as desktop:
+    with (speaking(options.program, options.language) as (program, language),
+          Desktop(program, is_dark=options.appearance == "dark", language=language) as desktop):
         answer_prompt(desktop)
         desktop.screen.settle()
         for number, (page, name) in enumerate(zip(PAGES, NAMES), 1):

@@ -33,6 +33,19 @@ protected:
     [[nodiscard]] std::vector<std::string>& asked() { return platform_.files.asked; }
 };
 
+TEST_F(RuleHealthTest, TheControlsOfAFixedRuleSayWhyTheyDoNothing) {
+    launch();
+    const auto last = controller_.rows().count(RuleCategory::others) - 1;
+    for (const auto* column : {"OthersEnable", "OthersDisplayName", "OthersNote"}) {
+        const auto fixed = remark(RuleCategory::others, last, column);
+        EXPECT_EQ(fixed.help, "This item is always on and keeps its name and its place.") << column;
+        EXPECT_EQ(fixed.toolTip, fixed.help) << column;
+        EXPECT_FALSE(fixed.warns) << column;
+        EXPECT_EQ(remark(RuleCategory::others, 0, column), CellRemark{}) << column;
+    }
+    EXPECT_EQ(remark(RuleCategory::others, last, "OthersIcon"), CellRemark{});
+}
+
 TEST_F(RuleHealthTest, AFolderThatIsNotThereIsSaidOnItsRowAndBelowTheTable) {
     launchWith({"/a", "/gone"}, {"/a"});
     EXPECT_EQ(remark(folders, 0, "commonPathDisplayName"), CellRemark{});

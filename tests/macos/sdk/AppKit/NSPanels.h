@@ -25,6 +25,7 @@ typedef TN_ENUM(NSUInteger, NSAlertStyle){NSAlertStyleWarning = 0};
 @property BOOL canCreateDirectories;
 @property (getter=isExtensionHidden) BOOL extensionHidden;
 @property (null_resettable, copy) NSString *prompt;
+@property (null_resettable, copy) NSString *message;
 @property (copy) NSString *nameFieldStringValue;
 @property (nullable, readonly, copy) NSURL *URL;
 + (NSSavePanel *)savePanel;
