@@ -40,8 +40,7 @@
     [self setEnabled:!forced];
     if (forced) {
         _ownToolTip = [[self toolTip] copy];
-        [self
-            setToolTip:tarnwick::localizedText("An administrator has set this and keeps it as it is.")];
+        [self setToolTip:tarnwick::localizedText("An administrator has set this and keeps it as it is.")];
     } else {
         [self setToolTip:_ownToolTip];
         [_ownToolTip release];

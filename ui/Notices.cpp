@@ -74,9 +74,8 @@ void Notices::addForcedLists(std::vector<Notice>& notices) const {
     }
     if (!pages.empty()) {
         notices.push_back({.kind = NoticeKind::forcedLists,
-            .text =
-                filled(bundle_.localized("An administrator sets these lists and undoes changes: %@."),
-                    {pages})});
+            .text = filled(
+                bundle_.localized("An administrator sets these lists and undoes changes: %@."), {pages})});
     }
 }
 

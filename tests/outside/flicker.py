@@ -1,5 +1,5 @@
-"""python3 -m tests.outside.flicker PROGRAM: nothing in the window flickers once it is drawn, while pages change and lists
-are loaded anew: each pixel goes from what it was to what it becomes, once."""
+"""python3 -m tests.outside.flicker PROGRAM: nothing in the window flickers once it is drawn, while pages change and
+lists are loaded anew: each pixel goes from what it was to what it becomes, once."""
 
 import contextlib
 

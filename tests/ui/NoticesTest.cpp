@@ -80,8 +80,7 @@ TEST_F(NoticesTest, WhatIsPutAwayStaysAwayAndTheOthersStay) {
 
 TEST_F(NoticesTest, ListsThatAnAdministratorHasSetAreSaidByTheirPages) {
     platform_.preferences.forced = {"arrOfCommonPath", "arrOfOthers"};
-    EXPECT_EQ(
-        text(), "An administrator sets these lists and undoes changes: Common Folders, More Items.");
+    EXPECT_EQ(text(), "An administrator sets these lists and undoes changes: Common Folders, More Items.");
 }
 
 TEST_F(NoticesTest, SwitchesThatAnAdministratorHasSetAreSaidToTheWindow) {
