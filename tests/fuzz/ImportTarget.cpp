@@ -123,7 +123,7 @@ struct Launched {
 
     /// What would pile up from run to run.
     void forget() {
-        platform.undoHistory.clear();
+        platform.undoHistory.replaceAll({});
         platform.files.erase("/tmp");
     }
 
