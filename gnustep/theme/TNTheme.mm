@@ -126,6 +126,11 @@ NSBezierPath *TNThemeHairline(NSRect rect, CGFloat radius) {
     [path stroke];
 }
 
+- (void)drawBrowserHeaderCell:(NSTableHeaderCell *)cell withFrame:(NSRect)frame inView:(NSView *)view {
+    [TNThemeCurrentColors()->header set];
+    NSRectFill(frame);
+}
+
 - (void)drawWindowBackground:(NSRect)frame view:(NSView *)view {
     [[[view window] backgroundColor] set];
     NSRectFill(frame);

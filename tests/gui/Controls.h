@@ -20,7 +20,7 @@ struct ControlFacts {
 /// The labels of the buttons and check boxes beside the lists that say nothing more of themselves than that.
 [[nodiscard]] std::vector<std::string> controlsWithoutHelp();
 
-struct MenuItemFacts {
+struct BarItemFacts {
     std::string title;
     bool isEnabled = false;
     /// What it says when it cannot be chosen, or does.
@@ -28,7 +28,7 @@ struct MenuItemFacts {
 };
 
 /// Every item of the menu bar and of the menus in it, as they are just now; no separators.
-[[nodiscard]] std::vector<MenuItemFacts> menuItems();
+[[nodiscard]] std::vector<BarItemFacts> menuItems();
 
 /// The controls that the Tab key visits, beginning with the first page button, until it is back there.
 [[nodiscard]] std::vector<ControlFacts> tabOrder();

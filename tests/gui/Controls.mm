@@ -70,7 +70,7 @@ void collectWithoutHelp(NSView *view, std::vector<std::string> &found) {
     }
 }
 
-void collectItems(NSMenu *menu, std::vector<tarnwick::gui::MenuItemFacts> &found) {
+void collectItems(NSMenu *menu, std::vector<tarnwick::gui::BarItemFacts> &found) {
     [menu update];
     for (NSMenuItem *item in [menu itemArray]) {
         if ([item isSeparatorItem]) {
@@ -109,8 +109,8 @@ std::vector<std::string> controlsWithoutHelp() {
     return found;
 }
 
-std::vector<MenuItemFacts> menuItems() {
-    std::vector<MenuItemFacts> found;
+std::vector<BarItemFacts> menuItems() {
+    std::vector<BarItemFacts> found;
     collectItems([NSApp mainMenu], found);
     return found;
 }

@@ -12,7 +12,7 @@ from tests.outside.places import PAGES
 from tests.outside.screen import command
 
 # Of the panel, from its upper left: left, top, right, bottom.
-INSIDE_OK_BUTTON = (314, 399, 366, 414)
+INSIDE_OK_BUTTON = (530, 414, 580, 430)
 # The pixels of the line that blinks in a text field.
 CARET = 40
 

@@ -151,7 +151,7 @@ class Places:
     def cell(self, page, row, identifier=None, height=0.5):
         """At the left of the cell, where its control is; `height` is a part of the row's."""
         # The one in the middle of its column hits with a scroller in the table and without.
-        offset = 42 if identifier == "EnableMainMenu" else 16
+        offset = 37 if identifier == "EnableMainMenu" else 16
         return (self.column_left(page, identifier or page.name_column) + offset,
                 self.first_row_top(page) + (row + height) * constant("CellView.rowHeight"))
 
