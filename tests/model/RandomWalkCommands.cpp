@@ -2,7 +2,6 @@
 #include "tests/model/RandomWalk.h"
 
 #include <algorithm>
-#include <cctype>
 
 namespace tarnwick::testing {
 namespace {
@@ -30,8 +29,11 @@ bool isProtected(const PlistDictionary& record) {
 }
 
 std::string lowered(std::string text) {
-    std::transform(text.begin(), text.end(), text.begin(),
-        [](unsigned char character) { return static_cast<char>(std::tolower(character)); });
+    for (auto& character : text) {
+        if (character >= 'A' && character <= 'Z') {
+            character = static_cast<char>(character - 'A' + 'a');
+        }
+    }
     return text;
 }
 
