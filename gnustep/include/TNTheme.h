@@ -60,9 +60,13 @@ void TNThemeInstallImage(NSString *name, NSSize size, void (^drawing)(NSRect bou
 /// The system's named colours in the current appearance; autoreleased.
 NSColorList *TNThemeMakeColorList();
 
+/// Of the corners of a push button.
+constexpr CGFloat TNThemeButtonRadius = 6;
 /// A path around a rectangle, on whole pixels, for a line of one point.
 NSBezierPath *TNThemeHairline(NSRect rect, CGFloat radius);
 
+/// The field that is edited in a window; nil when none is.
+NSTextField *TNEditedFieldOf(NSWindow *window);
 /// The box in which a field is edited, in its own coordinates; it reaches beyond a field without bezel.
 NSRect TNFrameOfEditedField(NSTextField *field);
 /// Draws what such a field itself does not: the edge of its box, and the room around the text.

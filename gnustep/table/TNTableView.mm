@@ -3,6 +3,8 @@
 
 #import "TNTableView.h"
 
+#import "TNTheme.h"
+
 namespace {
 
 NSArray *deferringModes() {
@@ -76,12 +78,8 @@ NSArray *deferringModes() {
 }
 
 - (NSTextField *)editedField {
-    id responder = [[self window] firstResponder];
-    if (![responder isKindOfClass:[NSText class]] || ![responder isFieldEditor]) {
-        return nil;
-    }
-    id field = [responder delegate];
-    return [field isKindOfClass:[NSTextField class]] && [field isDescendantOf:self] ? field : nil;
+    NSTextField *field = TNEditedFieldOf([self window]);
+    return [field isDescendantOf:self] ? field : nil;
 }
 
 - (void)syncRowViews {

@@ -43,6 +43,15 @@ void drawEditor(id self, SEL command, NSRect frame, NSView *view) {
 
 } // namespace
 
+NSTextField *TNEditedFieldOf(NSWindow *window) {
+    id responder = [window firstResponder];
+    if (![responder isKindOfClass:[NSText class]] || ![responder isFieldEditor]) {
+        return nil;
+    }
+    id field = [responder delegate];
+    return [field isKindOfClass:[NSTextField class]] ? field : nil;
+}
+
 NSRect TNFrameOfEditedField(NSTextField *field) {
     return hasBox(field) ? [field bounds] : NSInsetRect(lineOf(field), -sideRoom, -heightRoom);
 }

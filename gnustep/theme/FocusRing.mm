@@ -36,22 +36,12 @@ Ring ringAround(NSView *view, NSRect rect, CGFloat radius) {
 Ring ringOfButton(NSButton *button) {
     constexpr CGFloat boxSize = 14;
     constexpr CGFloat boxRadius = 3.5;
-    constexpr CGFloat buttonRadius = 6;
     const NSRect bounds = [button bounds];
     if (![[button cell] alternateImage]) {
-        return ringAround(button, NSInsetRect(bounds, 0, [button isBordered] ? 1 : 0), buttonRadius);
+        return ringAround(button, NSInsetRect(bounds, 0, [button isBordered] ? 1 : 0), TNThemeButtonRadius);
     }
     const CGFloat left = [[button title] length] == 0 ? NSMidX(bounds) - boxSize / 2 : NSMinX(bounds) + 1;
     return ringAround(button, NSMakeRect(left, NSMidY(bounds) - boxSize / 2, boxSize, boxSize), boxRadius);
-}
-
-/// The edited one; nil when no field of the window is edited.
-NSTextField *editedField(NSResponder *responder) {
-    if (![responder isKindOfClass:[NSText class]] || ![(NSText *)responder isFieldEditor]) {
-        return nil;
-    }
-    id field = [(NSText *)responder delegate];
-    return [field isKindOfClass:[NSTextField class]] ? field : nil;
 }
 
 /// Without a view when there is nothing to be seen.
@@ -59,7 +49,7 @@ Ring ringOf(NSWindow *window) {
     constexpr CGFloat fieldRadius = 1;
     NSResponder *responder = [window firstResponder];
     Ring ring;
-    if (NSTextField *field = editedField(responder)) {
+    if (NSTextField *field = TNEditedFieldOf(window)) {
         ring = {field, TNFrameOfEditedField(field), fieldRadius};
     } else if ([responder isKindOfClass:[NSTableView class]]) {
         NSView *scrollView = [(NSTableView *)responder enclosingScrollView];
@@ -124,10 +114,13 @@ void display(NSView *self, SEL command, NSRect rect, NSGraphicsContext *context)
     }
     [window disableFlushWindow];
     ++depth;
-    nativeDisplay(self, command, rect, context);
-    --depth;
-    drawOver(self, rect);
-    [window enableFlushWindow];
+    @try {
+        nativeDisplay(self, command, rect, context);
+        drawOver(self, rect);
+    } @finally {
+        --depth;
+        [window enableFlushWindow];
+    }
     [window flushWindowIfNeeded];
     [window tnFollowFocusSoon];
 }

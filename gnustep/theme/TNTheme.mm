@@ -7,7 +7,6 @@
 
 namespace {
 
-constexpr CGFloat buttonRadius = 6;
 constexpr CGFloat boxRadius = 8;
 constexpr CGFloat knobInset = 3;
 constexpr float scrollerWidth = 13;
@@ -58,7 +57,7 @@ NSBezierPath *TNThemeHairline(NSRect rect, CGFloat radius) {
         return;
     }
     const auto *colors = TNThemeCurrentColors();
-    NSBezierPath *path = TNThemeHairline(NSInsetRect(frame, 0, 1), buttonRadius);
+    NSBezierPath *path = TNThemeHairline(NSInsetRect(frame, 0, 1), TNThemeButtonRadius);
     if (![cell isEnabled]) {
         [colors->controlDisabled set];
         [path fill];
@@ -91,7 +90,7 @@ NSBezierPath *TNThemeHairline(NSRect rect, CGFloat radius) {
         return;
     }
     [TNThemeCurrentColors()->accent set];
-    NSBezierPath *path = TNThemeHairline(NSInsetRect(frame, 0.5, 0.5), buttonRadius);
+    NSBezierPath *path = TNThemeHairline(NSInsetRect(frame, 0.5, 0.5), TNThemeButtonRadius);
     [path setLineWidth:2];
     [path stroke];
 }
