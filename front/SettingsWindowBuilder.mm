@@ -78,6 +78,7 @@ NSWindow *newSettingsWindow(SettingsViewController *controller) {
     // The order is made anew whenever another page is shown.
     [window setAutorecalculatesKeyViewLoop:NO];
     [window setContentView:view];
+    [window setInitialFirstResponder:[controller tableOf:RuleCategory::createNewFile]];
     const CGFloat minimumWidth = [controller minimumWidth];
     [window setContentMinSize:NSMakeSize(minimumWidth, windowMinimumHeight)];
     [window setContentSize:NSMakeSize(std::max<CGFloat>(windowWidth, minimumWidth), windowHeight)];

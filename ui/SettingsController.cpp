@@ -22,6 +22,15 @@ constexpr double startDelaySeconds = 0.01;
 constexpr Colour currentPageColour{0.5, 0.5, 0.5, 0.4};
 constexpr Colour red{1, 0, 0, 1};
 
+void markPageButton(SettingsWindow& window, Page page) {
+    window.setPageButtonBackground(page, currentPageColour);
+    for (const auto other : allPages) {
+        if (other != page) {
+            window.setPageButtonBackground(other, clearColour);
+        }
+    }
+}
+
 } // namespace
 
 SettingsController::SettingsController(const Ports& ports, SettingsWindow& window)
@@ -51,6 +60,8 @@ void SettingsController::awakeFromNib() {
         window_.hideRestartButton();
     }
     window_.setHelpTitleColour(red);
+    // The window is seen before `start` shows the page.
+    markPageButton(window_, Page::createNewFile);
 }
 
 void SettingsController::viewDidLoad() {
@@ -72,12 +83,7 @@ void SettingsController::start() {
 void SettingsController::showPage(Page page) {
     editing_.editor.endEditing();
     window_.showPage(page);
-    window_.setPageButtonBackground(page, currentPageColour);
-    for (const auto other : allPages) {
-        if (other != page) {
-            window_.setPageButtonBackground(other, clearColour);
-        }
-    }
+    markPageButton(window_, page);
     if (page == Page::copyFilesTo || page == Page::commonPath || page == Page::customIcon) {
         // The copy/move-to table in all three cases, on purpose.
         window_.reload(RuleCategory::copyFilesTo);

@@ -50,15 +50,6 @@ class Recording:
         if (last := self.screenshots.take()) != self.frames[-1]:
             self.frames.append(last)
 
-    def begin_with(self, left, top, width, height):
-        """Forgets the frames before the first in which this part is what it is in the end."""
-        def part(frame):
-            line = self.screenshots.line
-            return [frame[y * line + PIXEL * left:y * line + PIXEL * (left + width)] for y in range(top, top + height)]
-        last = part(self.frames[-1])
-        first = next(index for index, frame in enumerate(self.frames) if part(frame) == last)
-        self.frames = self.frames[first:]
-
     def flickers(self, left, top, width, height):
         """How many pixels of that part of the screen show at any time what they show neither before nor after, or go
         back to what they were. A frame that is caught half drawn is none: each of its pixels is old or new."""
@@ -80,7 +71,9 @@ def _wrong_pixels(versions, before, after):
     """Of one line of the screen, through the versions that it went."""
     wrong = 0
     for index in range(0, len(before), PIXEL):
-        pixels = [version[index:index + PIXEL] for version in versions]
+        # Without the byte that stands for no colour.
+        colour = slice(index, index + PIXEL - 1)
+        pixels = [version[colour] for version in versions]
         changes = sum(one != other for one, other in zip(pixels, pixels[1:]))
-        wrong += changes > (before[index:index + PIXEL] != after[index:index + PIXEL])
+        wrong += changes > (before[colour] != after[colour])
     return wrong

@@ -24,6 +24,11 @@ TEST_F(PagesTest, AfterTheStartTheFirstPageIsShownAndMarked) {
     expectShown(Page::createNewFile);
 }
 
+TEST_F(PagesTest, TheFirstPageIsMarkedBeforeTheStartSinceTheWindowIsSeenBefore) {
+    controller_.awakeFromNib();
+    EXPECT_EQ(window_.pageButtons[Page::createNewFile], gray);
+}
+
 class PageTest : public PagesTest, public ::testing::WithParamInterface<Page> {};
 
 TEST_P(PageTest, IsShownMarkedAndReloadsWhatItShould) {
