@@ -49,7 +49,7 @@ void sortAsRead(std::vector<NSView *> &views) {
 
 } // namespace
 
-void linkKeyViews(NSTabView *tabView) {
+NSView *linkKeyViews(NSTabView *tabView) {
     std::vector<NSView *> loop;
     for (NSView *view in [[tabView superview] subviews]) {
         if (view != tabView) {
@@ -64,6 +64,7 @@ void linkKeyViews(NSTabView *tabView) {
     for (std::size_t index = 0; index < loop.size(); ++index) {
         [loop[index] setNextKeyView:loop[(index + 1) % loop.size()]];
     }
+    return loop.empty() ? nil : loop.front();
 }
 
 } // namespace tarnwick

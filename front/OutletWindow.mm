@@ -150,9 +150,12 @@ void OutletWindow::showPage(Page page) {
     [controller_ takeFindBarAway];
     [tabView selectTabViewItem:[tabView tabViewItemAtIndex:static_cast<NSInteger>(page)]];
     [controller_ placeFindBar];
-    linkKeyViews(tabView);
+    NSWindow *window = [tabView window];
+    NSView *firstOfLoop = linkKeyViews(tabView);
     const auto category = layoutOf(page).category;
-    [[tabView window] makeFirstResponder:category ? table(*category) : nil];
+    NSTableView *list = category ? table(*category) : nil;
+    [window setInitialFirstResponder:list ? list : firstOfLoop];
+    [window makeFirstResponder:list];
 }
 
 void OutletWindow::setPageButtonBackground(Page page, const Colour &colour) {

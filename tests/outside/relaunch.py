@@ -40,8 +40,7 @@ def a_frame_that_was_kept_with_its_title_bar_still_counts(start):
     with start({FRAME: "169 128 942 645 0 0 1280 900 "}) as (desktop, _):
         seen = desktop.window.geometry()
         require(seen == (170, 147, 940, 646), f"the window is at {seen}")
-        relaunch(desktop)
-        require(desktop.stores.local(FRAME).endswith("content"), "the frame is still kept with its title bar")
+        expect_stays(desktop)
 
 
 if __name__ == "__main__":
