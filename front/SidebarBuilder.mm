@@ -31,22 +31,16 @@ constexpr CGFloat innerWidth = sidebarWidth - 2 * inset;
 constexpr CGFloat topMargin = 20;
 constexpr CGFloat pageButtonHeight = 36;
 constexpr CGFloat pageButtonPitch = 40;
-constexpr CGFloat iconSize = 20;
-constexpr CGFloat iconPadding = 8;
+constexpr CGFloat iconWidth = 36;
+constexpr CGFloat iconHeight = 20;
 
-/// The icon with room at its sides: a borderless button has none of its own. It takes the colour of the
-/// button's title, which stands out from every ground that the button has.
-NSImage *paddedIcon(NSImage *icon) {
-    NSImage *padded =
-        [[[NSImage alloc] initWithSize:NSMakeSize(iconSize + 2 * iconPadding, iconSize)] autorelease];
-    [padded lockFocus];
-    [icon drawInRect:NSMakeRect(iconPadding, 0, iconSize, iconSize)
-            fromRect:NSZeroRect
-           operation:NSCompositingOperationSourceOver
-            fraction:1];
-    [padded unlockFocus];
-    [padded setTemplate:YES];
-    return padded;
+/// With room at its sides. It takes the colour of the button's title, which stands out from every ground that
+/// the button has.
+NSImage *pageIcon(std::string_view name) {
+    NSImage *icon = resourceImage(name);
+    [icon setSize:NSMakeSize(iconWidth, iconHeight)];
+    [icon setTemplate:YES];
+    return icon;
 }
 
 NSButton *makePageButton(Page page, SettingsViewController *controller) {
@@ -57,7 +51,7 @@ NSButton *makePageButton(Page page, SettingsViewController *controller) {
     [[button layer] setCornerRadius:6];
     [button setAlignment:NSTextAlignmentLeft];
     [button setTitle:localizedText(layout.title)];
-    [button setImage:paddedIcon(resourceImage(layout.image))];
+    [button setImage:pageIcon(layout.image)];
     [button setImagePosition:NSImageLeft];
     [button setTarget:controller];
     [button setAction:actionOf(page)];

@@ -6,6 +6,10 @@
 #import "TNAdditions.h"
 #import "gnustep/runtime/MethodReplacement.h"
 
+#include <array>
+#include <climits>
+#include <cmath>
+
 namespace {
 
 /// Kept for the whole run: a program has a few.
@@ -14,15 +18,54 @@ NSMutableSet *templates() {
     return set;
 }
 
+NSBitmapImageRep *pixelsOf(NSImage *image) {
+    id best = [image bestRepresentationForDevice:nil];
+    return [best isKindOfClass:[NSBitmapImageRep class]]
+               ? best
+               : [NSBitmapImageRep imageRepWithData:[image TIFFRepresentation]];
+}
+
+/// How opaque a pixel is, from 0 to 1.
+CGFloat alphaOf(NSBitmapImageRep *pixels, NSInteger x, NSInteger y) {
+    constexpr std::size_t mostSamples = 5;
+    if (![pixels hasAlpha]) {
+        return 1;
+    }
+    std::array<NSUInteger, mostSamples> samples{};
+    [pixels getPixel:samples.data() atX:x y:y];
+    const std::size_t last = static_cast<std::size_t>([pixels samplesPerPixel]) - 1;
+    const NSUInteger most = (NSUInteger{1} << [pixels bitsPerSample]) - 1;
+    return static_cast<CGFloat>(samples.at(last)) / static_cast<CGFloat>(most);
+}
+
+/// What is opaque in it, in this colour: pixel by pixel, since whatever is drawn into takes a window.
 NSImage *makeTinted(NSImage *image, NSColor *color) {
-    const NSSize size = [image size];
-    const NSRect bounds = NSMakeRect(0, 0, size.width, size.height);
-    NSImage *tinted = [[[NSImage alloc] initWithSize:size] autorelease];
-    [tinted lockFocus];
-    [image drawInRect:bounds fromRect:NSZeroRect operation:NSCompositingOperationSourceOver fraction:1];
-    [color set];
-    NSRectFillUsingOperation(bounds, NSCompositeSourceAtop);
-    [tinted unlockFocus];
+    constexpr int samplesPerPixel = 4;
+    NSBitmapImageRep *source = pixelsOf(image);
+    NSBitmapImageRep *pixels =
+        [[[NSBitmapImageRep alloc] initWithBitmapDataPlanes:nullptr
+                                                 pixelsWide:[source pixelsWide]
+                                                 pixelsHigh:[source pixelsHigh]
+                                              bitsPerSample:8
+                                            samplesPerPixel:samplesPerPixel
+                                                   hasAlpha:YES
+                                                   isPlanar:NO
+                                             colorSpaceName:NSCalibratedRGBColorSpace
+                                                bytesPerRow:[source pixelsWide] * samplesPerPixel
+                                               bitsPerPixel:8 * samplesPerPixel] autorelease];
+    NSColor *tint = [color colorUsingColorSpaceName:NSCalibratedRGBColorSpace];
+    unsigned char *sample = [pixels bitmapData];
+    for (NSInteger y = 0; y < [source pixelsHigh]; ++y) {
+        for (NSInteger x = 0; x < [source pixelsWide]; ++x) {
+            const CGFloat alpha = alphaOf(source, x, y) * [tint alphaComponent];
+            for (const CGFloat part :
+                {[tint redComponent], [tint greenComponent], [tint blueComponent], 1.0}) {
+                *sample++ = static_cast<unsigned char>(std::lround(part * alpha * UCHAR_MAX));
+            }
+        }
+    }
+    NSImage *tinted = [[[NSImage alloc] initWithSize:[image size]] autorelease];
+    [tinted addRepresentation:pixels];
     return tinted;
 }
 

@@ -115,8 +115,10 @@ NSString *TNThemeDisabledImageName(NSString *name) {
 }
 
 void TNThemeInstallImage(NSString *name, NSSize size, void (^drawing)(NSRect bounds)) {
+    // One for all, as large as the largest: behind each is a window of its own.
+    constexpr CGFloat canvasSize = 48;
+    static NSImage *const canvas = [[NSImage alloc] initWithSize:NSMakeSize(canvasSize, canvasSize)];
     const NSRect bounds = NSMakeRect(0, 0, size.width, size.height);
-    NSImage *canvas = [[[NSImage alloc] initWithSize:size] autorelease];
     [canvas lockFocus];
     NSRectFillUsingOperation(bounds, NSCompositingOperationClear);
     drawing(bounds);

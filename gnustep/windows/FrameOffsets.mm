@@ -18,16 +18,46 @@ using StyleOffsets = void (*)(id self, SEL command, float *left, float *right, f
     unsigned int style, Window window);
 StyleOffsets nativeStyleOffsets = nullptr;
 
+struct Offsets {
+    float left = 0;
+    float right = 0;
+    float top = 0;
+    float bottom = 0;
+
+    [[nodiscard]] bool areZero() const { return left == 0 && right == 0 && top == 0 && bottom == 0; }
+};
+
+Offsets nativeOffsets(id server, SEL command, unsigned int style, Window window) {
+    Offsets offsets;
+    nativeStyleOffsets(
+        server, command, &offsets.left, &offsets.right, &offsets.top, &offsets.bottom, style, window);
+    return offsets;
+}
+
 bool isHidden(Display *display, Window window) {
     XWindowAttributes attributes;
     return XGetWindowAttributes(display, window, &attributes) != 0 && attributes.map_state == IsUnmapped;
 }
 
+/// The X server is asked only where it makes a difference: windows have their offsets computed hundreds of
+/// times while a program starts.
+Offsets offsetsOf(id server, SEL command, unsigned int style, Window window) {
+    const Offsets own = nativeOffsets(server, command, style, window);
+    if (window == None || !own.areZero()) {
+        return own;
+    }
+    const Offsets others = nativeOffsets(server, command, style, None);
+    auto *display = static_cast<Display *>([server serverDevice]);
+    return !others.areZero() && isHidden(display, window) ? others : own;
+}
+
 void styleOffsets(id self, SEL command, float *left, float *right, float *top, float *bottom,
     unsigned int style, Window window) {
-    auto *display = static_cast<Display *>([self serverDevice]);
-    const Window asked = window != None && isHidden(display, window) ? None : window;
-    nativeStyleOffsets(self, command, left, right, top, bottom, style, asked);
+    const Offsets offsets = offsetsOf(self, command, style, window);
+    *left = offsets.left;
+    *right = offsets.right;
+    *top = offsets.top;
+    *bottom = offsets.bottom;
 }
 
 } // namespace

@@ -56,8 +56,8 @@ def place(glyph, colour, x, y, scale, stroke):
             f'stroke-width="{stroke / scale:.3g}" stroke-linecap="round" stroke-linejoin="round">{glyph}</g>')
 
 
-def svg(content, side=64):
-    return f'<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 {side} {side}">\n{content}\n</svg>\n'
+def svg(content, field='0 0 64 64'):
+    return f'<svg xmlns="http://www.w3.org/2000/svg" viewBox="{field}">\n{content}\n</svg>\n'
 
 
 def tile(colour, glyph):
@@ -88,15 +88,16 @@ def folder(colour, glyph):
         place(glyph, colour, 32, 39, .84, 4.4))))
 
 
-# Page buttons of the window: two tones of one slate on a field of 36.
+# Page buttons of the window: two tones of one slate on a square of 36, with room at the sides: the buttons have none.
 
 SLATE = '#768a9f'
+SIDEBAR_FIELD = '-14.4 0 64.8 36'
 
 
 def sidebar(strong, soft):
     return svg(f'<g fill="none" stroke="{SLATE}" stroke-width="3" stroke-linecap="round" '
                f'stroke-linejoin="round" color="{SLATE}">'
-               f'<g fill="{SLATE}" fill-opacity=".38" stroke="none">{soft}</g>{strong}</g>', 36)
+               f'<g fill="{SLATE}" fill-opacity=".38" stroke="none">{soft}</g>{strong}</g>', SIDEBAR_FIELD)
 
 
 def sidebarIcons():
@@ -160,7 +161,7 @@ def application():
             '<circle cx="39.5" cy="98" r="2.8" fill="#8150cf"/>')
     pointer = ('<path d="M73 69V105L82 97.5L87.5 110.5L95 107.3L89.5 94.5H101Z" fill="#26323e" stroke="#fff" '
                'stroke-width="5" stroke-linejoin="round" paint-order="stroke"/>')
-    return svg('\n'.join((defs, backdrop, rim, menu, pointer)), 128)
+    return svg('\n'.join((defs, backdrop, rim, menu, pointer)), '0 0 128 128')
 
 
 def applicationSmall():
@@ -175,7 +176,7 @@ def applicationSmall():
                '<rect x="8" y="14" width="14" height="4" rx="1.5" fill="#2a72d4"/>'
                '<path d="M9 22H15M9 25H13" stroke="#5f7287" stroke-width="2"/>\n'
                '<path d="M18 16V29L21.5 26L27 26Z" fill="#26323e" stroke="#fff" stroke-width="2.4" '
-               'stroke-linejoin="round" paint-order="stroke"/>', 32)
+               'stroke-linejoin="round" paint-order="stroke"/>', '0 0 32 32')
 
 
 GROUPS = {
