@@ -7,6 +7,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -102,7 +103,7 @@ void whenRunning(std::function<NSWindow *()> window, std::function<void()> serve
     [service performSelector:@selector(start:) withObject:nil afterDelay:0.1];
 }
 
-void serveClicks(const std::function<NSView *()> &view) {
+void serveClicks(const std::function<NSView *()> &view, const std::function<long()> &count) {
     driving::settle();
     std::puts("ready");
     std::fflush(stdout);
@@ -116,7 +117,11 @@ void serveClicks(const std::function<NSView *()> &view) {
         }
         @autoreleasepool {
             driving::settle();
-            answer(view());
+            if (std::strncmp(line.data(), "count", 5) == 0) {
+                std::printf("%ld\n", count());
+            } else {
+                answer(view());
+            }
             std::fflush(stdout);
         }
     }

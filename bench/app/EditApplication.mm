@@ -3,6 +3,7 @@
 #import "bench/app/ClickService.h"
 #import "front/MainInterface.h"
 #import "front/SettingsViewController.h"
+#import "front/WarningTextField.h"
 #import "tests/driving/Driving.h"
 
 #include "adapters/foundation/SystemAdapters.h"
@@ -16,6 +17,22 @@ NSView *checkBoxIn(NSTableView *table) {
     return [cell isKindOfClass:[NSControl class]] ? cell : [[cell subviews] objectAtIndex:0];
 }
 
+/// The rows in sight whose names are shown as faulty.
+long faultyRows(NSTableView *table) {
+    const NSRange rows = [table rowsInRect:[table visibleRect]];
+    long faulty = 0;
+    for (NSUInteger shown = rows.location; shown < NSMaxRange(rows); ++shown) {
+        NSView *cell = [table viewAtColumn:[table columnWithIdentifier:@"Note"]
+                                       row:static_cast<NSInteger>(shown)
+                           makeIfNecessary:YES];
+        for (NSView *view in [cell subviews]) {
+            faulty += [view isKindOfClass:[WarningTextField class]] &&
+                      [static_cast<WarningTextField *>(view) warns];
+        }
+    }
+    return faulty;
+}
+
 } // namespace
 
 int main(int argc, char *argv[]) {
@@ -27,9 +44,9 @@ int main(int argc, char *argv[]) {
         tarnwick::bench::whenRunning([&interface] { return interface.window(); },
             [controller] {
                 tarnwick::driving::click([controller copyFilesToButton]);
-                tarnwick::bench::serveClicks([controller] {
-                    return checkBoxIn([controller tableOf:tarnwick::RuleCategory::copyFilesTo]);
-                });
+                NSTableView *table = [controller tableOf:tarnwick::RuleCategory::copyFilesTo];
+                tarnwick::bench::serveClicks(
+                    [table] { return checkBoxIn(table); }, [table] { return faultyRows(table); });
             });
         [NSApp run];
     }

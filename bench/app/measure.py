@@ -4,7 +4,7 @@ taking turns, and prints tables of medians and ratios."""
 import pathlib
 import sys
 
-from bench.app import edits, launches
+from bench.app import edits, faults, keys, launches
 from harness.user_folder import Display
 
 if __name__ == "__main__":
@@ -12,4 +12,6 @@ if __name__ == "__main__":
     quick = "--quick" in sys.argv
     with Display() as one, Display() as other:
         edits.measure(build, one, other, quick)
+        faults.measure(build, one, other, quick)
+        keys.measure(build, one, quick)
         launches.measure(build, one, quick)

@@ -10,7 +10,7 @@ PATIENCE_SECONDS = 60
 
 
 class ClickedProgram:
-    """A program that answers each line with a click and says how long that took."""
+    """A program that answers each line with what it says: clicks, keys, and how long they took."""
 
     def __init__(self, program, user, display):
         self.process = subprocess.Popen(
@@ -34,6 +34,22 @@ class ClickedProgram:
             raise SystemExit(f"a click was not answered: {' '.join(answer)}")
         written, drawn = (int(part) / 1000 for part in answer)
         return written, drawn
+
+    def ask(self, line):
+        """One number."""
+        self.process.stdin.write(line + "\n")
+        self.process.stdin.flush()
+        answer = self.process.stdout.readline().strip()
+        if not answer.isdigit():
+            raise SystemExit(f"{line} was answered with {answer!r}")
+        return int(answer)
+
+    def do(self, *keys):
+        for key in keys:
+            self.process.stdin.write(f"do {key}\n")
+            self.process.stdin.flush()
+            if (answer := self.process.stdout.readline().strip()) != "done":
+                raise SystemExit(f"{key} was answered with {answer!r}")
 
     def close(self):
         self.process.stdin.close()
