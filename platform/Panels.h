@@ -57,6 +57,8 @@ struct SavePanelRequest {
     std::string fileType;
     /// What the file will hold, in a sentence.
     std::string message;
+    /// What the button says that confirms.
+    std::string prompt;
 
     bool operator==(const SavePanelRequest&) const = default;
 };

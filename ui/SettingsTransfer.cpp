@@ -54,7 +54,8 @@ void SettingsTransfer::exportSettings(std::function<void()> then) {
     const SavePanelRequest request{
         .name = "Tarnwick Settings " + clock_.today() + "." + std::string(fileType),
         .fileType = std::string(fileType),
-        .message = bundle_.localized("Choose where the file with all your settings goes.")};
+        .message = bundle_.localized("Choose where the file with all your settings goes."),
+        .prompt = bundle_.localized("Export")};
     panels_.choosePlace(request, [this, then = std::move(then)](const std::optional<std::string>& path) {
         if (path) {
             exportTo(*path);

@@ -79,6 +79,7 @@ public:
         [panel setNameFieldStringValue:toNSString(request.name)];
         [panel setCanCreateDirectories:YES];
         [panel setMessage:toNSString(request.message)];
+        [panel setPrompt:toNSString(request.prompt)];
         [panel beginWithCompletionHandler:^(NSInteger result) {
             const bool isConfirmed = result == NSModalResponseOK;
             completion(isConfirmed ? std::optional(toString([[panel URL] path])) : std::nullopt);

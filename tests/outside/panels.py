@@ -1,4 +1,4 @@
-"""The panel that asks for files or folders, driven by the keyboard."""
+"""The panels that ask for files or folders, or where to save one, driven by the keyboard."""
 
 from harness.waiting import wait_until
 
@@ -15,13 +15,13 @@ def look_the_same(one, other):
 class OpenPanel:
     """The one that is open, or just opens."""
 
-    def __init__(self, screen):
-        self.screen = screen
-        self.window = screen.window(TITLE)
+    def __init__(self, screen, title=TITLE):
+        self.screen, self.title = screen, title
+        self.window = screen.window(title)
         screen.settle(0.2)
 
     def is_open(self):
-        return bool(self.screen.windows(TITLE))
+        return bool(self.screen.windows(self.title))
 
     def enter(self, text):
         """In place of what stands there."""

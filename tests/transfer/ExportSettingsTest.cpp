@@ -34,9 +34,9 @@ protected:
 TEST_F(ExportSettingsTest, TheFileIsNamedAfterTheDay) {
     launch();
     controller_.transfer().exportSettings();
-    EXPECT_EQ(
-        platform_.panels.saveRequests, (std::vector{SavePanelRequest{"Tarnwick Settings 2023-03-08.plist",
-                                           "plist", "Choose where the file with all your settings goes."}}));
+    const SavePanelRequest request{"Tarnwick Settings 2023-03-08.plist", "plist",
+        "Choose where the file with all your settings goes.", "Export"};
+    EXPECT_EQ(platform_.panels.saveRequests, std::vector{request});
 }
 
 TEST_F(ExportSettingsTest, ItSaysWhatItIsWhatWroteItAndWhen) {

@@ -95,8 +95,6 @@ typedef TN_OPTIONS(NSUInteger, NSFontTraitMask){NSItalicFontMask = 1};
                                       context:(nullable NSGraphicsContext *)context
                                         hints:(nullable NSDictionary<NSString *, id> *)hints;
 - (void)addRepresentation:(NSImageRep *)representation;
-- (void)lockFocus;
-- (void)unlockFocus;
 - (void)drawInRect:(NSRect)rect
           fromRect:(NSRect)from
          operation:(NSCompositingOperation)operation
