@@ -150,6 +150,9 @@ void OutletWindow::showPage(Page page) {
     [controller_ takeFindBarAway];
     [tabView selectTabViewItem:[tabView tabViewItemAtIndex:static_cast<NSInteger>(page)]];
     [controller_ placeFindBar];
+    for (const auto other : allPages) {
+        [[controller_ buttonOf:other] setAccessibilitySelected:other == page];
+    }
     NSWindow *window = [tabView window];
     NSView *firstOfLoop = linkKeyViews(tabView);
     const auto category = layoutOf(page).category;

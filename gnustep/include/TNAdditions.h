@@ -49,6 +49,8 @@
 - (NSString *)accessibilityLabel;
 - (void)setAccessibilityHelp:(NSString *)help;
 - (NSString *)accessibilityHelp;
+- (void)setAccessibilitySelected:(BOOL)selected;
+- (BOOL)isAccessibilitySelected;
 @end
 
 @interface NSButton (TNAccessibility)

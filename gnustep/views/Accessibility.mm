@@ -1,4 +1,5 @@
-// Missing: labels, help and values for assistive technology, as of GNUstep GUI 0.29, which talks to none.
+// Missing: labels, help, values and selection for assistive technology, as of GNUstep GUI 0.29, which talks
+// to none.
 
 #import "TNAdditions.h"
 
@@ -8,6 +9,7 @@ namespace {
 
 NSString *const labelName = @"accessibilityLabel";
 NSString *const helpName = @"accessibilityHelp";
+NSString *const selectedName = @"accessibilitySelected";
 
 } // namespace
 
@@ -28,6 +30,15 @@ NSString *const helpName = @"accessibilityHelp";
 /// Ahead of its first caller: no assistive technology asks.
 - (NSString *)accessibilityHelp {
     return TNAttachment(self, helpName);
+}
+
+- (void)setAccessibilitySelected:(BOOL)selected {
+    TNSetAttachment(self, selectedName, [NSNumber numberWithBool:selected]);
+}
+
+/// Ahead of its first caller, as the help is.
+- (BOOL)isAccessibilitySelected {
+    return [TNAttachment(self, selectedName) boolValue];
 }
 
 @end

@@ -3,6 +3,7 @@
 #include "tests/gui/Driver.h"
 #include "tests/gui/Health.h"
 #include "tests/gui/Input.h"
+#include "tests/gui/Shown.h"
 
 #include <gtest/gtest.h>
 
@@ -18,6 +19,16 @@ constexpr Page pages[] = {
 bool isShown(const ControlFacts& facts) {
     const auto controls = visibleControls();
     return std::find(controls.begin(), controls.end(), facts) != controls.end();
+}
+
+TEST(Accessibility, TheButtonOfTheCurrentPageAloneSaysThatItIs) {
+    for (const auto page : pages) {
+        clickPageButton(page);
+        for (const auto other : pages) {
+            EXPECT_EQ(isSaidToBeCurrent(other), other == page)
+                << "button " << static_cast<int>(other) << " on page " << static_cast<int>(page);
+        }
+    }
 }
 
 TEST(Accessibility, EveryControlOfEveryPageHasALabelOfItsOwn) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "prefs/RuleCategory.h"
+#include "ui/Page.h"
 
 #include <string>
 
@@ -18,6 +19,8 @@ struct StepItem {
 [[nodiscard]] StepItem redoItem();
 
 [[nodiscard]] int shownPage();
+/// Whether assistive technology is told that this page is the current one.
+[[nodiscard]] bool isSaidToBeCurrent(Page page);
 [[nodiscard]] long rowCount(RuleCategory table);
 /// Whether the whole row can be seen.
 [[nodiscard]] bool rowIsInSight(RuleCategory table, long row);

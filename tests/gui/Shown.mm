@@ -78,6 +78,10 @@ double shownHeight(RuleCategory table) {
     return NSHeight([[tableOf(table) enclosingScrollView] frame]);
 }
 
+bool isSaidToBeCurrent(Page page) {
+    return static_cast<bool>([[settingsController() buttonOf:page] isAccessibilitySelected]);
+}
+
 bool removeButtonIsEnabled(RuleCategory table) {
     return [[settingsController() removeButtonOf:table] isEnabled];
 }

@@ -42,6 +42,7 @@ extern "C" NSString *const NSViewFrameDidChangeNotification;
 - (NSRect)convertRect:(NSRect)rect toView:(nullable NSView *)view;
 - (instancetype)initWithFrame:(NSRect)frame;
 - (void)setAccessibilityHelp:(nullable NSString *)help;
+- (void)setAccessibilitySelected:(BOOL)selected;
 - (void)setFrameSize:(NSSize)size;
 - (void)setFrameOrigin:(NSPoint)origin;
 - (void)addSubview:(NSView *)view;

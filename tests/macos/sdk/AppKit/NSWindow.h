@@ -27,6 +27,7 @@ extern "C" NSString *const NSWindowWillCloseNotification;
 @property (copy) NSString *title;
 @property (nullable, strong) __kindof NSView *contentView;
 @property NSSize contentMinSize;
+@property (nullable, weak) NSView *initialFirstResponder;
 @property NSWindowCollectionBehavior collectionBehavior;
 @property NSWindowTabbingMode tabbingMode TN_SINCE(10.12);
 @property BOOL autorecalculatesKeyViewLoop;
