@@ -25,13 +25,22 @@ NSColor *warningColor() {
 - (void)setWarns:(BOOL)warns {
     if (warns != _warns) {
         _warns = warns;
-        [self setTextColor:warns ? warningColor() : [NSColor controlTextColor]];
+        [self takeColor];
+    }
+}
+
+/// On the strong colour of a selection no warning could be read: there its slant alone is left.
+- (void)takeColor {
+    const bool isOnStrongColor = [[self cell] backgroundStyle] == NSBackgroundStyleDark;
+    NSColor *color = _warns && !isOnStrongColor ? warningColor() : [NSColor controlTextColor];
+    if (![[self textColor] isEqual:color]) {
+        [self setTextColor:color];
     }
 }
 
 - (void)drawRect:(NSRect)rect {
-    if (_warns && ![[self textColor] isEqual:warningColor()]) {
-        [self setTextColor:warningColor()];
+    if (_warns) {
+        [self takeColor];
     }
     [super drawRect:rect];
 }

@@ -23,5 +23,7 @@ struct CellLook {
 void comeBack();
 /// Between the warning colour and each ground that rows have in the present appearance.
 [[nodiscard]] std::vector<double> contrastsOfWarning();
+/// Whether a warning that is drawn in a row of the strong colour of a selection has that of ordinary text.
+[[nodiscard]] bool warningIsPlainOnStrongColour();
 
 } // namespace tarnwick::gui

@@ -48,6 +48,21 @@ void comeBack() {
                                                         object:NSApp];
 }
 
+bool warningIsPlainOnStrongColour() {
+    WarningTextField *field = [[[WarningTextField alloc] initWithFrame:NSMakeRect(0, 0, 1, 1)] autorelease];
+    NSView *frame = [settingsWindow() contentView];
+    [frame addSubview:field];
+    [field setWarns:YES];
+    [[field cell] setBackgroundStyle:NSBackgroundStyleDark];
+    [field display];
+    const bool isPlain = [[field textColor] isEqual:[NSColor controlTextColor]];
+    [[field cell] setBackgroundStyle:NSBackgroundStyleLight];
+    [field display];
+    const bool warnsAgain = ![[field textColor] isEqual:[NSColor controlTextColor]];
+    [field removeFromSuperview];
+    return isPlain && warnsAgain;
+}
+
 std::vector<double> contrastsOfWarning() {
     WarningTextField *field = [[[WarningTextField alloc] init] autorelease];
     [field setWarns:YES];

@@ -92,6 +92,10 @@ TEST(Health, TheWarningCanBeReadOnEveryGroundInLightAndDark) {
     EXPECT_EQ(contrastsOfWarning().size(), 4U);
 }
 
+TEST(Health, OnTheStrongColourOfASelectionTheSlantAloneWarns) {
+    EXPECT_TRUE(warningIsPlainOnStrongColour());
+}
+
 TEST(Health, ATextThatIsCutOffHasItsWholeAsToolTip) {
     clickPageButton(Page::commonPath);
     clickCell(folders, 0, name);

@@ -19,7 +19,7 @@ typedef TN_ENUM(NSUInteger, NSCellImagePosition){NSImageLeft = 2};
 typedef TN_ENUM(NSUInteger, NSButtonType){NSButtonTypeSwitch = 3};
 typedef TN_ENUM(NSUInteger, NSBezelStyle){NSBezelStyleRounded = 1};
 
-typedef TN_ENUM(NSInteger, NSBackgroundStyle){NSBackgroundStyleLight = 0};
+typedef TN_ENUM(NSInteger, NSBackgroundStyle){NSBackgroundStyleLight = 0, NSBackgroundStyleDark = 1};
 
 @interface NSCell : NSObject <NSCopying>
 @property NSBackgroundStyle backgroundStyle;
