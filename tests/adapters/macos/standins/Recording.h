@@ -25,6 +25,11 @@ struct Answers {
 
     bool extensionEnabled = false;
 
+    /// Where the application's bundle carries extensions; nothing: nowhere.
+    std::optional<std::string> plugInsFolder;
+    /// Of a preference that an administrator has set.
+    std::string forcedKey;
+
     /// The script's file can be loaded.
     bool scriptExists = true;
 

@@ -44,6 +44,10 @@ typedef struct CGImage *CGImageRef;
               usingBlock:(void (^)(NSNotification *notification))block;
 @end
 
+@interface NSUserDefaults (StandIn)
+- (BOOL)objectIsForcedForKey:(NSString *)key;
+@end
+
 typedef struct {
     NSInteger majorVersion;
     NSInteger minorVersion;
