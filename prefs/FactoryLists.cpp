@@ -35,6 +35,7 @@ std::optional<TemplateWork> FactoryLists::reset(RuleCategory category) {
     auto& list = lists_[category];
     const auto hasFiles = factsOf(category).hasTemplateFiles;
     const auto files = hasFiles ? TemplateWork(TemplatesLaidOut()) : TemplateWork();
+    const auto isFactory = hasFiles && isFactoryTemplates(list);
     templateFiles_.begin(files, list);
     list.assign(*std::move(records));
     local_.storeAndSynchronize(list);
@@ -42,7 +43,8 @@ std::optional<TemplateWork> FactoryLists::reset(RuleCategory category) {
         // Whole, on purpose.
         publisher_.saveData(list.toPlist(), factsOf(category).listKey);
     }
-    return templateFiles_.finish(files, list);
+    const auto back = templateFiles_.finish(files, list);
+    return back && isFactory ? templateFiles_.unlessEqual(*back) : back;
 }
 
 bool FactoryLists::isFactoryTemplates(const RuleList& list) {

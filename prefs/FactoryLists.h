@@ -32,8 +32,8 @@ public:
     /// records included, and the template folder, removed and laid out anew. The caller publishes the enabled
     /// records and reloads the table. A category without factory list is left alone; a list that cannot be
     /// built, because an image of the application's resources is missing, stays as it was, with a log line.
-    /// Gives the work that brings the template files of before back; nothing when no work does, because the
-    /// folder could not be held.
+    /// Gives the work that brings the template files of before back, none when list and files were the
+    /// factory's already; nothing when no work does, because the folder could not be held.
     std::optional<TemplateWork> reset(RuleCategory category);
 
     /// Whether these are the templates that a reset gives.

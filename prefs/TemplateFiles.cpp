@@ -1,5 +1,6 @@
 #include "prefs/TemplateFiles.h"
 
+#include "platform/FileContents.h"
 #include "platform/FileManager.h"
 #include "platform/SystemLog.h"
 #include "prefs/GroupContainer.h"
@@ -168,6 +169,20 @@ void TemplateFiles::settle(const std::vector<std::string>& places) {
             files_.remove(place);
         }
     }
+}
+
+TemplateWork TemplateFiles::unlessEqual(const TemplateWork& back) {
+    const auto* held = std::get_if<TemplateFolderPutBack>(&back);
+    const auto folder = folder_.path();
+    if (!held || held->place.empty() || !folder) {
+        return back;
+    }
+    const auto before = contents_.readTree(held->place);
+    if (!before || before != contents_.readTree(*folder)) {
+        return back;
+    }
+    files_.remove(held->place);
+    return {};
 }
 
 TemplateWork TemplateFiles::beginCopying(const std::vector<std::string>& paths) {

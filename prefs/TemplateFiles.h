@@ -8,6 +8,7 @@
 
 namespace tarnwick {
 
+class FileContents;
 class FileManager;
 class HeldFiles;
 class LocalPreferences;
@@ -26,9 +27,9 @@ struct TemplateNote;
 /// (`TemplateRecovery`). See `TemplateNote` for its form.
 class TemplateFiles {
 public:
-    TemplateFiles(
-        FileManager& files, TemplateFolder& folder, LocalPreferences& local, HeldFiles& held, SystemLog& log)
-        : files_(files), folder_(folder), local_(local), held_(held), log_(log) {}
+    TemplateFiles(FileManager& files, const FileContents& contents, TemplateFolder& folder,
+        LocalPreferences& local, HeldFiles& held, SystemLog& log)
+        : files_(files), contents_(contents), folder_(folder), local_(local), held_(held), log_(log) {}
 
     /// Where the record's file is; nothing when there is none.
     [[nodiscard]] std::optional<std::string> file(const RuleRecord& record) const;
@@ -39,6 +40,10 @@ public:
     /// Gives the work that leads back, of what succeeded alone; nothing when a file went that could not be
     /// held, so that no work does.
     std::optional<TemplateWork> finish(const TemplateWork& work, const RuleList& templates);
+
+    /// The same work, but none when it would bring a folder back whose files are equal to those that are
+    /// there; they are held no longer then.
+    [[nodiscard]] TemplateWork unlessEqual(const TemplateWork& back);
 
     /// The work of copying these files in, without those that are there already. It is noted and synchronised
     /// at once, when there is any, because the copies come ahead of the list.
@@ -61,6 +66,7 @@ private:
     void logLoss();
 
     FileManager& files_;
+    const FileContents& contents_;
     TemplateFolder& folder_;
     LocalPreferences& local_;
     HeldFiles& held_;

@@ -27,16 +27,18 @@ TEST_F(ResetRulesTest, ResettingTheTemplatesPublishesThemWholeLaysOutTheirFolder
             others.push_back(line);
         }
     }
-    EXPECT_EQ(others,
-        (std::vector<std::string>{"local set pendingTemplateFiles", "local set arrOfCreateNewFile",
-            "local synchronise", "shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
-            "shared set arrOfCreateNewFile", "shared synchronise",
-            "create folder /tmp/org.halvane.Tarnwick.undo-100",
-            "move /container/Templates/CreateNewFile -> /tmp/org.halvane.Tarnwick.undo-100/1",
-            "create folder /container/Templates/CreateNewFile", "local remove pendingTemplateFiles",
-            "reload createNewFile", "disable remove createNewFile", "local set enableAllOfCreateNewFiles",
-            "local set enableAllOfCreateNewFiles", "shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
-            "shared set arrOfCreateNewFile", "shared synchronise"}));
+    EXPECT_EQ(
+        others, (std::vector<std::string>{"local set pendingTemplateFiles", "local set arrOfCreateNewFile",
+                    "local synchronise", "shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
+                    "shared set arrOfCreateNewFile", "shared synchronise",
+                    "create folder /tmp/org.halvane.Tarnwick.undo-100",
+                    "move /container/Templates/CreateNewFile -> /tmp/org.halvane.Tarnwick.undo-100/1",
+                    "create folder /container/Templates/CreateNewFile", "local remove pendingTemplateFiles",
+                    // These files were the factory's before.
+                    "remove /tmp/org.halvane.Tarnwick.undo-100/1", "reload createNewFile",
+                    "disable remove createNewFile", "local set enableAllOfCreateNewFiles",
+                    "local set enableAllOfCreateNewFiles", "shared open H7Q2ZK5RX9.org.halvane.Tarnwick",
+                    "shared set arrOfCreateNewFile", "shared synchronise"}));
     EXPECT_EQ(platform_.log.linesWith("copy ").size(), 30U);
 }
 
@@ -61,6 +63,20 @@ TEST_F(ResetRulesTest, ResettingTheTemplatesDeletesAddedFilesAndPublishesTheNine
     EXPECT_EQ(platform_.files.namesIn("/container/Templates/CreateNewFile").size(), 30U);
     EXPECT_EQ(localList(RuleCategory::createNewFile).size(), 15U);
     EXPECT_EQ(sharedList(RuleCategory::createNewFile).size(), 9U);
+}
+
+TEST_F(ResetRulesTest, ResettingTheTemplatesAgainIsNoStepUnlessAFileIsAnother) {
+    editing_.resetting.reset(RuleCategory::createNewFile);
+    const auto steps = platform_.undoHistory.undoCount();
+    const auto files = platform_.files.files;
+    editing_.resetting.reset(RuleCategory::createNewFile);
+    EXPECT_EQ(platform_.undoHistory.undoCount(), steps);
+    EXPECT_EQ(platform_.files.files, files);
+    platform_.files.files["/container/Templates/CreateNewFile/Word.docx"] = "mine";
+    editing_.resetting.reset(RuleCategory::createNewFile);
+    EXPECT_EQ(platform_.undoHistory.undoCount(), steps + 1);
+    platform_.undoHistory.undo();
+    EXPECT_EQ(platform_.files.files["/container/Templates/CreateNewFile/Word.docx"], "mine");
 }
 
 TEST_F(ResetRulesTest, ResettingTheTargetsGivesTheFourFoldersOfTheHome) {
