@@ -7,7 +7,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
+#include <iostream>
 #include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -50,7 +50,7 @@ long microseconds(Clock::duration duration) {
     return static_cast<long>(std::chrono::duration_cast<std::chrono::microseconds>(duration).count());
 }
 
-void answer(NSView *view) {
+void click(NSView *view) {
     const auto before = Versions::now();
     const auto start = Clock::now();
     driving::postClicks([view window], driving::middleOf(view));
@@ -103,28 +103,34 @@ void whenRunning(std::function<NSWindow *()> window, std::function<void()> serve
     [service performSelector:@selector(start:) withObject:nil afterDelay:0.1];
 }
 
-void serveClicks(const std::function<NSView *()> &view, const std::function<long()> &count) {
+void serveLines(const std::function<void(const std::string &line)> &answer) {
     driving::settle();
     std::puts("ready");
     std::fflush(stdout);
-    std::array<char, 64> line{};
+    std::string line;
     for (;;) {
         while (!inputIsWaiting()) {
             driving::pump(pumpSeconds);
         }
-        if (!std::fgets(line.data(), line.size(), stdin)) {
+        if (!std::getline(std::cin, line)) {
             return;
         }
         @autoreleasepool {
             driving::settle();
-            if (std::strncmp(line.data(), "count", 5) == 0) {
-                std::printf("%ld\n", count());
-            } else {
-                answer(view());
-            }
+            answer(line);
             std::fflush(stdout);
         }
     }
+}
+
+void serveClicks(const std::function<NSView *()> &view, const std::function<long()> &count) {
+    serveLines([&view, &count](const std::string &line) {
+        if (line == "count") {
+            std::printf("%ld\n", count());
+        } else {
+            click(view());
+        }
+    });
 }
 
 } // namespace tarnwick::bench

@@ -1,12 +1,9 @@
 // The application itself, its window on the page of copy targets, clicked in the check box of the second row.
 
 #import "bench/app/ClickService.h"
-#import "front/MainInterface.h"
-#import "front/SettingsViewController.h"
+#import "bench/app/DrivenApplication.h"
 #import "front/WarningTextField.h"
 #import "tests/driving/Driving.h"
-
-#include "adapters/foundation/SystemAdapters.h"
 
 namespace {
 
@@ -36,18 +33,10 @@ long faultyRows(NSTableView *table) {
 } // namespace
 
 int main(int argc, char *argv[]) {
-    @autoreleasepool {
-        tarnwick::prepareProcess(argc, argv);
-        [NSApplication sharedApplication];
-        const tarnwick::MainInterface interface;
-        SettingsViewController *controller = interface.controller();
-        tarnwick::bench::whenRunning([&interface] { return interface.window(); },
-            [controller] {
-                tarnwick::driving::click([controller copyFilesToButton]);
-                NSTableView *table = [controller tableOf:tarnwick::RuleCategory::copyFilesTo];
-                tarnwick::bench::serveClicks(
-                    [table] { return checkBoxIn(table); }, [table] { return faultyRows(table); });
-            });
-        [NSApp run];
-    }
+    tarnwick::bench::runApplication(argc, argv, [](SettingsViewController *controller) {
+        tarnwick::driving::click([controller copyFilesToButton]);
+        NSTableView *table = [controller tableOf:tarnwick::RuleCategory::copyFilesTo];
+        tarnwick::bench::serveClicks(
+            [table] { return checkBoxIn(table); }, [table] { return faultyRows(table); });
+    });
 }

@@ -6,7 +6,7 @@
 
 namespace tarnwick::bench {
 
-/// Prints "ready", then answers each line on standard input, until it ends, with a line of its own:
+/// Answers each line on standard input, as `serveLines` does:
 ///
 /// - "do KEYS": the keys are pressed; "done".
 /// - "time KEYS": so are these; the microseconds until another row is selected, or another view has the

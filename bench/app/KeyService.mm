@@ -1,10 +1,10 @@
 #import "bench/app/KeyService.h"
 
+#import "bench/app/ClickService.h"
 #import "tests/driving/Driving.h"
 
 #include <chrono>
 #include <cstdio>
-#include <iostream>
 #include <string>
 
 namespace {
@@ -95,17 +95,7 @@ void answer(std::string line, NSTableView *table) {
 namespace tarnwick::bench {
 
 void serveKeys(const std::function<NSTableView *()> &table) {
-    driving::settle();
-    std::puts("ready");
-    std::fflush(stdout);
-    std::string line;
-    while (std::getline(std::cin, line)) {
-        @autoreleasepool {
-            driving::settle();
-            answer(line, table());
-            std::fflush(stdout);
-        }
-    }
+    serveLines([&table](const std::string &line) { answer(line, table()); });
 }
 
 } // namespace tarnwick::bench

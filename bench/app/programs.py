@@ -25,11 +25,14 @@ class ClickedProgram:
         if answer != "ready":
             raise SystemExit(f"{program} did not become ready: {answer!r}")
 
+    def answer(self, line):
+        self.process.stdin.write(line + "\n")
+        self.process.stdin.flush()
+        return self.process.stdout.readline().strip()
+
     def click(self):
         """Milliseconds until both files are written, and until the window is drawn again."""
-        self.process.stdin.write("click\n")
-        self.process.stdin.flush()
-        answer = self.process.stdout.readline().split()
+        answer = self.answer("click").split()
         if len(answer) != 2 or not all(part.isdigit() for part in answer):
             raise SystemExit(f"a click was not answered: {' '.join(answer)}")
         written, drawn = (int(part) / 1000 for part in answer)
@@ -37,18 +40,14 @@ class ClickedProgram:
 
     def ask(self, line):
         """One number."""
-        self.process.stdin.write(line + "\n")
-        self.process.stdin.flush()
-        answer = self.process.stdout.readline().strip()
+        answer = self.answer(line)
         if not answer.isdigit():
             raise SystemExit(f"{line} was answered with {answer!r}")
         return int(answer)
 
     def do(self, *keys):
         for key in keys:
-            self.process.stdin.write(f"do {key}\n")
-            self.process.stdin.flush()
-            if (answer := self.process.stdout.readline().strip()) != "done":
+            if (answer := self.answer(f"do {key}")) != "done":
                 raise SystemExit(f"{key} was answered with {answer!r}")
 
     def close(self):
