@@ -2,6 +2,7 @@
 
 #import "gnustep/defaults/DefaultsFiles.h"
 #import "gnustep/defaults/SuiteFile.h"
+#import "gnustep/runtime/RunLoopModes.h"
 
 #import <AppKit/AppKit.h>
 
@@ -93,8 +94,7 @@ NSMutableDictionary *statesByName() {
     [self performSelector:@selector(writeLater)
                withObject:nil
                afterDelay:writeDelay
-                  inModes:[NSArray arrayWithObjects:NSDefaultRunLoopMode, NSModalPanelRunLoopMode,
-                                   NSEventTrackingRunLoopMode, nil]];
+                  inModes:TNWorkingModes()];
 }
 
 - (void)writeLater {

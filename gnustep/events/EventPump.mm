@@ -9,6 +9,8 @@
 #import <GNUstepGUI/GSDisplayServer.h>
 #import <objc/runtime.h>
 
+#import "gnustep/runtime/RunLoopModes.h"
+
 #include <sys/eventfd.h>
 #include <unistd.h>
 
@@ -70,9 +72,7 @@ void watchDescriptor() {
     wakeDescriptor = eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC);
     // Watched for the life of the program.
     static TNWakeWatcher *const watcher = [[TNWakeWatcher alloc] init];
-    NSArray *modes = [NSArray arrayWithObjects:NSDefaultRunLoopMode, NSModalPanelRunLoopMode,
-                              NSEventTrackingRunLoopMode, NSConnectionReplyMode, nil];
-    for (NSString *mode in modes) {
+    for (NSString *mode in [TNWorkingModes() arrayByAddingObject:NSConnectionReplyMode]) {
         [[NSRunLoop currentRunLoop]
             addEvent:reinterpret_cast<void *>(static_cast<std::intptr_t>(wakeDescriptor))
                 type:ET_RDESC

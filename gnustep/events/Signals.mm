@@ -6,6 +6,8 @@
 
 #import <AppKit/AppKit.h>
 
+#import "gnustep/runtime/RunLoopModes.h"
+
 #include <csignal>
 #include <cstdint>
 #include <fcntl.h>
@@ -50,9 +52,7 @@ void TNInstallSignalHandling() {
     writingEnd = ends[1];
     // For the life of the process.
     TNEndWatcher *watcher = [[TNEndWatcher alloc] init];
-    NSArray *modes = [NSArray
-        arrayWithObjects:NSDefaultRunLoopMode, NSModalPanelRunLoopMode, NSEventTrackingRunLoopMode, nil];
-    for (NSString *mode in modes) {
+    for (NSString *mode in TNWorkingModes()) {
         [[NSRunLoop currentRunLoop] addEvent:reinterpret_cast<void *>(static_cast<std::intptr_t>(readingEnd))
                                         type:ET_RDESC
                                      watcher:watcher

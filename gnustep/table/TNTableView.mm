@@ -4,15 +4,7 @@
 #import "TNTableView.h"
 
 #import "TNTheme.h"
-
-namespace {
-
-NSArray *deferringModes() {
-    return [NSArray
-        arrayWithObjects:NSDefaultRunLoopMode, NSModalPanelRunLoopMode, NSEventTrackingRunLoopMode, nil];
-}
-
-} // namespace
+#import "gnustep/runtime/RunLoopModes.h"
 
 @implementation TNTableView
 
@@ -184,7 +176,7 @@ NSArray *deferringModes() {
         [self performSelector:@selector(exchangeRowViews)
                    withObject:nil
                    afterDelay:0
-                      inModes:deferringModes()];
+                      inModes:TNWorkingModes()];
     }
 }
 

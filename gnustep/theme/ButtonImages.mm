@@ -9,6 +9,7 @@
 #include <array>
 #include <climits>
 #include <cmath>
+#include <vector>
 
 namespace {
 
@@ -25,17 +26,26 @@ NSBitmapImageRep *pixelsOf(NSImage *image) {
                : [NSBitmapImageRep imageRepWithData:[image TIFFRepresentation]];
 }
 
-/// How opaque a pixel is, from 0 to 1.
-CGFloat alphaOf(NSBitmapImageRep *pixels, NSInteger x, NSInteger y) {
+/// How opaque each pixel is, from 0 to 1, line by line.
+std::vector<CGFloat> alphasOf(NSBitmapImageRep *pixels) {
     constexpr std::size_t mostSamples = 5;
+    const NSInteger width = [pixels pixelsWide];
+    const NSInteger height = [pixels pixelsHigh];
+    std::vector<CGFloat> alphas(static_cast<std::size_t>(width * height), 1);
     if (![pixels hasAlpha]) {
-        return 1;
+        return alphas;
     }
-    std::array<NSUInteger, mostSamples> samples{};
-    [pixels getPixel:samples.data() atX:x y:y];
     const std::size_t last = static_cast<std::size_t>([pixels samplesPerPixel]) - 1;
-    const NSUInteger most = (NSUInteger{1} << [pixels bitsPerSample]) - 1;
-    return static_cast<CGFloat>(samples.at(last)) / static_cast<CGFloat>(most);
+    const auto most = static_cast<CGFloat>((NSUInteger{1} << [pixels bitsPerSample]) - 1);
+    auto alpha = alphas.begin();
+    for (NSInteger y = 0; y < height; ++y) {
+        for (NSInteger x = 0; x < width; ++x) {
+            std::array<NSUInteger, mostSamples> samples{};
+            [pixels getPixel:samples.data() atX:x y:y];
+            *alpha++ = static_cast<CGFloat>(samples.at(last)) / most;
+        }
+    }
+    return alphas;
 }
 
 /// What is opaque in it, in this colour: pixel by pixel, since whatever is drawn into takes a window.
@@ -54,14 +64,13 @@ NSImage *makeTinted(NSImage *image, NSColor *color) {
                                                 bytesPerRow:[source pixelsWide] * samplesPerPixel
                                                bitsPerPixel:8 * samplesPerPixel] autorelease];
     NSColor *tint = [color colorUsingColorSpaceName:NSCalibratedRGBColorSpace];
+    const CGFloat opaque = UCHAR_MAX * [tint alphaComponent];
+    const std::array<CGFloat, samplesPerPixel> parts{
+        opaque * [tint redComponent], opaque * [tint greenComponent], opaque * [tint blueComponent], opaque};
     unsigned char *sample = [pixels bitmapData];
-    for (NSInteger y = 0; y < [source pixelsHigh]; ++y) {
-        for (NSInteger x = 0; x < [source pixelsWide]; ++x) {
-            const CGFloat alpha = alphaOf(source, x, y) * [tint alphaComponent];
-            for (const CGFloat part :
-                {[tint redComponent], [tint greenComponent], [tint blueComponent], 1.0}) {
-                *sample++ = static_cast<unsigned char>(std::lround(part * alpha * UCHAR_MAX));
-            }
+    for (const CGFloat alpha : alphasOf(source)) {
+        for (const CGFloat part : parts) {
+            *sample++ = static_cast<unsigned char>(std::lround(part * alpha));
         }
     }
     NSImage *tinted = [[[NSImage alloc] initWithSize:[image size]] autorelease];

@@ -5,6 +5,7 @@
 #import "TNTheme.h"
 
 #import "gnustep/runtime/MethodReplacement.h"
+#import "gnustep/runtime/RunLoopModes.h"
 #import "gnustep/views/ViewAttachments.h"
 
 NSString *const TNWindowDidMoveFocus = @"TNWindowDidMoveFocus";
@@ -182,11 +183,7 @@ void resignKey(NSWindow *self, SEL command) {
 /// What has the keyboard may have moved, or gone.
 - (void)tnFollowFocusSoon {
     if (!NSEqualRects([self tnShownRing], placeOf(ringOf(self)))) {
-        [self performSelector:@selector(tnFollowFocus)
-                   withObject:nil
-                   afterDelay:0
-                      inModes:[NSArray arrayWithObjects:NSDefaultRunLoopMode, NSModalPanelRunLoopMode,
-                                       NSEventTrackingRunLoopMode, nil]];
+        [self performSelector:@selector(tnFollowFocus) withObject:nil afterDelay:0 inModes:TNWorkingModes()];
     }
 }
 
