@@ -41,6 +41,9 @@ def a_frame_that_was_kept_with_its_title_bar_still_counts(start):
         seen = desktop.window.geometry()
         require(seen == (170, 147, 940, 646), f"the window is at {seen}")
         expect_stays(desktop)
+        desktop.window.move_to(210, 100)
+        relaunch(desktop)
+        require(desktop.stores.local(FRAME).endswith("content"), "the frame is still kept with its title bar")
 
 
 if __name__ == "__main__":

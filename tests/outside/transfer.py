@@ -31,11 +31,13 @@ def expect(desktop, expected, what):
     wait_until(lambda: content(desktop) == expected, what)
 
 
-def exported_to(desktop, path):
+def export(desktop):
+    """The file, and what is in it."""
+    path = pathlib.Path(desktop.user.name, "mine.plist")
     choose_in_file_menu(desktop, EXPORT)
     OpenPanel(desktop.screen, SAVE_TITLE).choose(path)
     wait_until(path.exists, "the exported file")
-    return plistlib.loads(path.read_bytes())
+    return path, plistlib.loads(path.read_bytes())
 
 
 def ask_about(desktop, path):
@@ -51,20 +53,21 @@ def end_question(desktop, key):
     wait_until(lambda: not desktop.screen.windows(QUESTION_TITLE), f"the end of the question by {key}")
 
 
-def remove_a_template(desktop):
+def export_and_change(desktop):
+    """A file that differs from what there is, by a template that has been removed since: it and what is in it."""
+    exported = export(desktop)
     count = len(desktop.stores.local(TEMPLATES))
     desktop.select(3)
     desktop.click("remove")
     wait_until(lambda: len(desktop.stores.local(TEMPLATES)) == count - 1, "one template less")
+    return exported
 
 
 def what_was_exported_comes_back_as_one_step(start):
     with start() as (desktop, _):
-        path = pathlib.Path(desktop.user.name, "mine.plist")
-        first = content(desktop)
-        document = exported_to(desktop, path)
-        require(document[TEMPLATES] == desktop.stores.local(TEMPLATES), "another list is in the file")
-        remove_a_template(desktop)
+        first, templates = content(desktop), desktop.stores.local(TEMPLATES)
+        path, document = export_and_change(desktop)
+        require(document[TEMPLATES] == templates, "another list is in the file")
         second = content(desktop)
         ask_about(desktop, path)
         require(content(desktop) == second, "something has changed before the answer")
@@ -78,9 +81,7 @@ def what_was_exported_comes_back_as_one_step(start):
 
 def a_question_that_is_cancelled_changes_nothing(start):
     with start() as (desktop, _):
-        path = pathlib.Path(desktop.user.name, "mine.plist")
-        exported_to(desktop, path)
-        remove_a_template(desktop)
+        path, _ = export_and_change(desktop)
         before = content(desktop)
         choose_in_file_menu(desktop, IMPORT)
         OpenPanel(desktop.screen).cancel()
@@ -104,9 +105,8 @@ def a_file_that_is_none_of_ours_is_refused(start):
 
 def a_name_that_is_being_typed_is_exported_and_counts_before_an_import(start):
     with start() as (desktop, _):
-        path = pathlib.Path(desktop.user.name, "mine.plist")
         desktop.start_typing(1, "Typed")
-        document = exported_to(desktop, path)
+        path, document = export(desktop)
         require(document[TEMPLATES][1]["displayName"] == "Typed", "the typed name is not in the file")
         first = content(desktop)
         desktop.start_typing(2, "Later")
@@ -118,9 +118,7 @@ def a_name_that_is_being_typed_is_exported_and_counts_before_an_import(start):
 
 def ending_with_the_question_open_keeps_the_lists(start):
     with start() as (desktop, _):
-        path = pathlib.Path(desktop.user.name, "mine.plist")
-        exported_to(desktop, path)
-        remove_a_template(desktop)
+        path, _ = export_and_change(desktop)
         before = content(desktop)
         ask_about(desktop, path)
         desktop.application.terminate()
