@@ -1,9 +1,15 @@
 # Headers that most sources of a target begin with, parsed once instead of once a source. Builds without this see to it
 # that every source names what it uses.
-set(testHeaders <gtest/gtest.h> <algorithm> <functional> <map> <memory> <optional> <set> <string> <string_view>
+set(coreHeaders <algorithm> <array> <functional> <map> <memory> <optional> <set> <span> <string> <string_view> <utility>
     <variant> <vector>)
+set(testHeaders <gtest/gtest.h> ${coreHeaders})
+if(APPLE)
+    set(appkitHeader <AppKit/AppKit.h>)
+else()
+    set(appkitHeader ${PROJECT_SOURCE_DIR}/gnustep/include/Compat.h)
+endif()
 
-# tarnwick_precompile(TARGET [HEADER ...]): for its C++ sources; those in Objective-C++ begin with AppKit.
+# tarnwick_precompile(TARGET [HEADER ...]): the headers for its C++ sources, AppKit for those in Objective-C++.
 function(tarnwick_precompile target)
     if(NOT TARNWICK_PRECOMPILED)
         return()
@@ -13,8 +19,11 @@ function(tarnwick_precompile target)
         string(REPLACE ">" "$<ANGLE-R>" header ${header})
         list(APPEND headers "$<$<COMPILE_LANGUAGE:CXX>:${header}>")
     endforeach()
-    target_precompile_headers(${target} PRIVATE ${headers}
-        "$<$<COMPILE_LANGUAGE:OBJCXX>:${PROJECT_SOURCE_DIR}/gnustep/include/Compat.h>")
+    foreach(header IN LISTS appkitHeader coreHeaders)
+        string(REPLACE ">" "$<ANGLE-R>" header ${header})
+        list(APPEND headers "$<$<COMPILE_LANGUAGE:OBJCXX>:${header}>")
+    endforeach()
+    target_precompile_headers(${target} PRIVATE ${headers})
 endfunction()
 
 # tarnwick_reuse_precompiled(TARGET OTHER): those of another target that is compiled alike.

@@ -8,7 +8,6 @@ target_compile_options(macos_gtest PRIVATE -w)
 # Nobody here runs the tests: they are compiled as quickly as can be.
 target_compile_options(macos_gtest PUBLIC -O0)
 target_link_libraries(macos_gtest_main PUBLIC macos_gtest)
-target_precompile_headers(macos_gtest_main INTERFACE <gtest/gtest.h>)
 add_library(GTest::gtest ALIAS macos_gtest)
 add_library(GTest::gtest_main ALIAS macos_gtest_main)
 set(GTest_FOUND TRUE)
