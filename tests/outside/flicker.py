@@ -4,11 +4,10 @@ lists are loaded anew: each pixel goes from what it was to what it becomes, once
 import contextlib
 
 from harness.stores import TEMPLATES, USED
-from harness.user_folder import Display
 from harness.waiting import wait_until
 from tests.outside.checks import require, run_checks, watched
 from tests.outside.desktop import Desktop
-from tests.outside.frames import Recording, Screenshots
+from tests.outside.frames import Recording
 from tests.outside.picture import Picture
 from tests.outside.places import PAGES, constant
 from tests.outside.screen import command, option_command, shift_command
@@ -23,13 +22,9 @@ HANDLE = 8
 class RecordedDesktop(Desktop):
     """One whose screen can be watched as it is drawn."""
 
-    def make_display(self):
-        return Display(self.user.name)
-
     def start(self):
-        self.screenshots = Screenshots(self.user.name)
         self.screen.move(OUT_OF_THE_WAY)
-        with Recording(self.screenshots) as self.launch:
+        with Recording(self.screen.frames) as self.launch:
             super().start()
             self.screen.settle(STILL_SECONDS)
 
@@ -40,7 +35,7 @@ class RecordedDesktop(Desktop):
     def expect_quiet(self, what, *keys, is_stored=lambda: True):
         """No pixel flickers from before the keys until the screen is quiet again. What is stored is drawn later, by a
         disk that takes its time much later."""
-        with Recording(self.screenshots) as recording:
+        with Recording(self.screen.frames) as recording:
             self.screen.key(*keys)
             wait_until(is_stored, what)
             self.screen.settle(STILL_SECONDS)
@@ -113,7 +108,7 @@ def no_list_flickers_as_it_is_loaded_anew(start):
 def a_planted_flicker_is_seen(start):
     with start() as desktop:
         left, top, _, _ = desktop.window.geometry()
-        with Recording(desktop.screenshots) as recording:
+        with Recording(desktop.screen.frames) as recording:
             desktop.window.move_to(left + 20, top)
             desktop.window.move_to(left, top)
             desktop.screen.settle(STILL_SECONDS)

@@ -10,7 +10,7 @@ PIXEL = 4
 HEADER_SIZE, HEIGHT, LINE_SIZE, COLOURS, COLOUR_SIZE = 0, 5, 12, 19, 12
 
 
-class Screenshots:
+class Frames:
     """Of the display whose memory is in this folder."""
 
     def __init__(self, folder):
@@ -28,11 +28,11 @@ class Screenshots:
 class Recording:
     """Every frame that differs from the one before, as often as one can look, while this is entered."""
 
-    def __init__(self, screenshots):
-        self.screenshots, self.frames = screenshots, []
+    def __init__(self, source):
+        self.source, self.frames = source, []
 
     def __enter__(self):
-        self.frames.append(self.screenshots.take())
+        self.frames.append(self.source.take())
         self.is_over = threading.Event()
         self.thread = threading.Thread(target=self._watch)
         self.thread.start()
@@ -40,20 +40,20 @@ class Recording:
 
     def _watch(self):
         while not self.is_over.is_set():
-            frame = self.screenshots.take()
+            frame = self.source.take()
             if frame != self.frames[-1]:
                 self.frames.append(frame)
 
     def __exit__(self, *_):
         self.is_over.set()
         self.thread.join()
-        if (last := self.screenshots.take()) != self.frames[-1]:
+        if (last := self.source.take()) != self.frames[-1]:
             self.frames.append(last)
 
     def flickers(self, left, top, width, height):
         """How many pixels of that part of the screen show at any time what they show neither before nor after, or go
         back to what they were. A frame that is caught half drawn is none: each of its pixels is old or new."""
-        line, first, last = self.screenshots.line, self.frames[0], self.frames[-1]
+        line, first, last = self.source.line, self.frames[0], self.frames[-1]
         wrong = 0
         for y in range(top, top + height):
             start, end = y * line + PIXEL * left, y * line + PIXEL * (left + width)

@@ -27,7 +27,7 @@ class OpenPanel:
         """In place of what stands there."""
         self.screen.key("End", "Shift_L+Home")
         self.screen.type(text)
-        self.screen.settle(0.1)
+        self.screen.settle()
 
     def confirm(self):
         self.screen.key("Return")

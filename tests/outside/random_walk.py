@@ -83,7 +83,7 @@ class Walk:
         if self.desktop.page.switch_column:
             row = self.any_row()
             self.select(row)
-            self.desktop.screen.settle(0.1)
+            self.desktop.screen.settle()
             self.desktop.screen.key("space")
             self.model.toggle(self.key, row)
 

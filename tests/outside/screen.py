@@ -8,6 +8,10 @@ from harness.waiting import wait_until, wait_until_steady
 
 # A hand is no faster, and programs tell a drag from a click by it.
 STEP_SECONDS = 0.04
+# Longer than a program takes to show what a key or a button does.
+STILL_SECONDS = 0.15
+# A look at the whole screen takes a thousandth of a second.
+LOOK_SECONDS = 0.05
 PROGRAM_SECONDS = 30
 BUTTON, RIGHT_BUTTON, WHEEL_UP, WHEEL_DOWN = 1, 3, 4, 5
 
@@ -29,10 +33,10 @@ def option_command(key):
 
 
 class Screen:
-    """`environment` names the display."""
+    """`environment` names the display, whose memory is seen through `frames`."""
 
-    def __init__(self, environment):
-        self.environment = environment
+    def __init__(self, environment, frames):
+        self.environment, self.frames = environment, frames
 
     def run(self, *command, **more):
         """Of a window that has gone, some programs wait for the next."""
@@ -66,9 +70,9 @@ class Screen:
     def keep_picture(self, path, window="root"):
         self.run("import", "-window", window, "-depth", "8", path)
 
-    def settle(self, still=0.0):
-        """Until two pictures in a row are the same, and all those in between."""
-        wait_until_steady(self.picture, "a quiet screen", still)
+    def settle(self, still=STILL_SECONDS):
+        """Until nothing on the screen changes, its pointer included."""
+        wait_until_steady(self.frames.take, "a quiet screen", still, pause=LOOK_SECONDS)
 
     # The pointer
 
@@ -178,5 +182,5 @@ class Window:
     def drag(self, start, end, steps=12):
         """Lets go once it can be seen where: a program that is busy until then takes no drag."""
         self.drag_to(start, end, steps)
-        self.screen.settle(0.1)
+        self.screen.settle()
         self.screen.release()

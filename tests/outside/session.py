@@ -6,6 +6,7 @@ import subprocess
 
 from harness.user_folder import Display, UserFolder
 from harness.waiting import wait_until
+from tests.outside.frames import Frames
 from tests.outside.screen import Screen
 
 END_SECONDS = 20
@@ -20,8 +21,8 @@ class Session:
         self.program = pathlib.Path(program).resolve()
         with contextlib.ExitStack() as stack:
             self.user = stack.enter_context(UserFolder())
-            display = stack.enter_context(self.make_display())
-            self.screen = Screen(self.user.environment(DISPLAY=display.name, **environment))
+            display = stack.enter_context(Display(self.user.name))
+            self.screen = Screen(self.user.environment(DISPLAY=display.name, **environment), Frames(self.user.name))
             self.stack = stack
             if has_window_manager:
                 self.start_window_manager()
@@ -38,9 +39,6 @@ class Session:
     def close(self):
         self.end(self.application)
         self.stack.close()
-
-    def make_display(self):
-        return Display()
 
     def prepare(self):
         """What the user folder holds before the program starts."""

@@ -17,7 +17,7 @@ SAVE_TITLE, QUESTION_TITLE = "^Save$", "^Alert$"
 
 def choose_in_file_menu(desktop, steps):
     desktop.screen.key("F10", "Right")
-    desktop.screen.settle(0.1)
+    desktop.screen.settle()
     desktop.screen.key(*["Down"] * steps, "Return")
 
 
