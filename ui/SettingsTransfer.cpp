@@ -8,7 +8,7 @@
 #include "platform/RunLoop.h"
 #include "prefs/Preferences.h"
 #include "transfer/UnderstandSettings.h"
-#include "ui/ImportTexts.h"
+#include "ui/TransferTexts.h"
 
 #include <optional>
 #include <utility>
@@ -80,13 +80,9 @@ void SettingsTransfer::exportTo(const std::string& path) {
         return;
     }
     if (!exported.leftOut.empty()) {
-        std::string names;
-        for (const auto& name : exported.leftOut) {
-            names.append(names.empty() ? "" : "\n").append(name);
-        }
         say(bundle_.localized(
                 "The settings were exported without these template files, which cannot be read:"),
-            std::move(names));
+            leftOutFiles(exported.leftOut, bundle_));
     }
 }
 

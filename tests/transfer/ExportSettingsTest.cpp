@@ -157,6 +157,23 @@ TEST_F(ExportSettingsTest, ATemplateThatCannotBeReadIsLeftOutAndNamed) {
     EXPECT_EQ(platform_.panels.alerts[0].informativeText, "Deck.key");
 }
 
+TEST_F(ExportSettingsTest, OfManyTemplatesThatCannotBeReadTheFirstEightAreNamed) {
+    std::vector<RuleRecord> records;
+    platform_.files.folders.insert(templates);
+    for (const char letter : std::string("ABCDEFGHIJ")) {
+        const std::string name(1, letter);
+        records.push_back(makeTemplateRecord(name, "key", "1", RecordOrigin::user));
+        platform_.files.folders.insert(templates + "/" + name + ".key");
+        platform_.files.links[templates + "/" + name + ".key/link"] = "/elsewhere";
+    }
+    storeList(RuleCategory::createNewFile, records);
+    launch();
+    exported();
+    ASSERT_EQ(platform_.panels.alerts.size(), 1U);
+    EXPECT_EQ(platform_.panels.alerts[0].informativeText,
+        "A.key\nB.key\nC.key\nD.key\nE.key\nF.key\nG.key\nH.key\nand 2 more");
+}
+
 TEST_F(ExportSettingsTest, ItChangesNothing) {
     launch();
     const auto local = platform_.preferences.local;

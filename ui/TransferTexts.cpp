@@ -1,4 +1,4 @@
-#include "ui/ImportTexts.h"
+#include "ui/TransferTexts.h"
 
 #include "platform/ApplicationBundle.h"
 #include "ui/CountText.h"
@@ -22,6 +22,20 @@ std::string shown(std::string name) {
         name.begin(), name.end(), [](char character) { return static_cast<unsigned char>(character) < ' '; },
         ' ');
     return shortened(std::move(name), mostOfAName);
+}
+
+/// A line each; those that there is no room for are counted.
+template <typename Items, typename LineOf>
+std::string listed(const Items& items, const ApplicationBundle& bundle, const LineOf& lineOf) {
+    std::string text;
+    for (std::size_t item = 0; item < std::min(items.size(), mostNamed); ++item) {
+        text.append(item == 0 ? "" : "\n").append(lineOf(items[item]));
+    }
+    if (items.size() > mostNamed) {
+        text.append("\n").append(
+            filled(bundle.localized("and %@ more"), {std::to_string(items.size() - mostNamed)}));
+    }
+    return text;
 }
 
 class Summary {
@@ -91,16 +105,9 @@ private:
     }
 
     void tellWhatIsLeftOut() {
-        const auto& items = plan_.leftOut;
-        if (items.empty()) {
-            return;
-        }
-        addHeading(bundle_.localized("This is left out:"));
-        for (std::size_t item = 0; item < std::min(items.size(), mostNamed); ++item) {
-            add(reasonText(items[item]));
-        }
-        if (items.size() > mostNamed) {
-            add(filled(bundle_.localized("and %@ more"), {std::to_string(items.size() - mostNamed)}));
+        if (!plan_.leftOut.empty()) {
+            addHeading(bundle_.localized("This is left out:"));
+            add(listed(plan_.leftOut, bundle_, [this](const LeftOut& item) { return reasonText(item); }));
         }
     }
 
@@ -135,6 +142,10 @@ private:
 std::string importSummary(
     const ImportPlan& plan, const PerCategory<std::size_t>& present, const ApplicationBundle& bundle) {
     return Summary(plan, present, bundle).text();
+}
+
+std::string leftOutFiles(const std::vector<std::string>& names, const ApplicationBundle& bundle) {
+    return listed(names, bundle, shown);
 }
 
 std::string faultText(ImportFault fault, const ApplicationBundle& bundle) {

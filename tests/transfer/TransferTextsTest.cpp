@@ -1,4 +1,4 @@
-#include "ui/ImportTexts.h"
+#include "ui/TransferTexts.h"
 
 #include "tests/support/InMemoryBundle.h"
 
@@ -7,7 +7,7 @@
 namespace tarnwick::testing {
 namespace {
 
-class ImportTextsTest : public ::testing::Test {
+class TransferTextsTest : public ::testing::Test {
 protected:
     [[nodiscard]] std::string summary() const { return importSummary(plan, present, bundle); }
     [[nodiscard]] bool says(const std::string& line) const {
@@ -23,7 +23,7 @@ protected:
     PerCategory<std::size_t> present{15U, 4U, 0U, 20U, 18U};
 };
 
-TEST_F(ImportTextsTest, EachPagesNumbersAreToldNowAndAfterwards) {
+TEST_F(TransferTextsTest, EachPagesNumbersAreToldNowAndAfterwards) {
     plan.lists[RuleCategory::createNewFile].resize(3);
     EXPECT_TRUE(says("New File: 15 \u2192 3"));
     EXPECT_TRUE(says("Copy & Move To: 4 \u2192 0"));
@@ -32,20 +32,20 @@ TEST_F(ImportTextsTest, EachPagesNumbersAreToldNowAndAfterwards) {
     EXPECT_TRUE(says("More Items: 18 \u2192 0"));
 }
 
-TEST_F(ImportTextsTest, TheVersionIsToldWhenItIsKnown) {
+TEST_F(TransferTextsTest, TheVersionIsToldWhenItIsKnown) {
     EXPECT_EQ(summary().find("version"), std::string::npos);
     plan.version = "1.5";
     EXPECT_TRUE(says("It was exported by version 1.5."));
 }
 
-TEST_F(ImportTextsTest, OnlyListsThatAStartRefillsAreSaidToBeRefilled) {
+TEST_F(TransferTextsTest, OnlyListsThatAStartRefillsAreSaidToBeRefilled) {
     plan.lists[RuleCategory::others].resize(1);
     EXPECT_TRUE(says("Custom Icons will be empty. The next start fills it again."));
     EXPECT_FALSE(says("More Items will be empty. The next start fills it again."));
     EXPECT_FALSE(says("Common Folders will be empty. The next start fills it again."));
 }
 
-TEST_F(ImportTextsTest, WhatLooksOddIsToldPageByPage) {
+TEST_F(TransferTextsTest, WhatLooksOddIsToldPageByPage) {
     EXPECT_FALSE(says("This looks odd and is kept as it is:"));
     plan.oddities[RuleCategory::createNewFile] = {
         .withoutName = 1, .unreadable = 2, .withoutPicture = 0, .withoutFile = 4};
@@ -58,7 +58,7 @@ TEST_F(ImportTextsTest, WhatLooksOddIsToldPageByPage) {
     EXPECT_EQ(summary().find("Custom Icons, without a name"), std::string::npos);
 }
 
-TEST_F(ImportTextsTest, WhatIsLeftOutIsNamedWithItsReason) {
+TEST_F(TransferTextsTest, WhatIsLeftOutIsNamedWithItsReason) {
     EXPECT_FALSE(says("This is left out:"));
     leaveOut(LeftOutReason::unknown, "arrOfColours");
     leaveOut(LeftOutReason::otherKind, "enableCommonPath");
@@ -75,7 +75,7 @@ TEST_F(ImportTextsTest, WhatIsLeftOutIsNamedWithItsReason) {
     EXPECT_TRUE(says("More Items, entry 7: no rule"));
 }
 
-TEST_F(ImportTextsTest, OfManyItemsTheFirstAreNamed) {
+TEST_F(TransferTextsTest, OfManyItemsTheFirstAreNamed) {
     for (int item = 0; item < 10; ++item) {
         leaveOut(LeftOutReason::unknown, "key" + std::to_string(item));
     }
@@ -84,7 +84,7 @@ TEST_F(ImportTextsTest, OfManyItemsTheFirstAreNamed) {
     EXPECT_TRUE(says("and 2 more"));
 }
 
-TEST_F(ImportTextsTest, ANameOutOfAFileStaysInOneShortLine) {
+TEST_F(TransferTextsTest, ANameOutOfAFileStaysInOneShortLine) {
     leaveOut(LeftOutReason::unknown, "a\nb\tc");
     leaveOut(LeftOutReason::unknown, std::string(59, 'x') + "\u8868\u8868\u8868");
     leaveOut(LeftOutReason::unknown, std::string(60, 'x'));
@@ -93,7 +93,7 @@ TEST_F(ImportTextsTest, ANameOutOfAFileStaysInOneShortLine) {
     EXPECT_TRUE(says("\u201C" + std::string(60, 'x') + "\u201D: unknown"));
 }
 
-TEST_F(ImportTextsTest, NoNameFillsAPlaceholder) {
+TEST_F(TransferTextsTest, NoNameFillsAPlaceholder) {
     leaveOut(LeftOutReason::unknown, "%@ %1$@");
     EXPECT_TRUE(says("\u201C%@ %1$@\u201D: unknown"));
 }

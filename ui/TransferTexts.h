@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <string>
+#include <vector>
 
 namespace tarnwick {
 
@@ -15,6 +16,10 @@ class ApplicationBundle;
 /// rules that there are now.
 [[nodiscard]] std::string importSummary(
     const ImportPlan& plan, const PerCategory<std::size_t>& present, const ApplicationBundle& bundle);
+
+/// The names of files that could not be exported, as many as an alert has room for.
+[[nodiscard]] std::string leftOutFiles(
+    const std::vector<std::string>& names, const ApplicationBundle& bundle);
 
 /// Why nothing was imported.
 [[nodiscard]] std::string faultText(ImportFault fault, const ApplicationBundle& bundle);
