@@ -5,7 +5,6 @@ It is made from the English table when a program is to be run in it, and is no p
 
 import contextlib
 import math
-import os
 import pathlib
 import re
 import shutil
@@ -51,7 +50,8 @@ def speaking(program, language):
         shutil.copy2(program, bundle)
         for path in (program.parent / "Resources").iterdir():
             if path.name != "en.lproj":
-                os.symlink(path, resources / path.name)
+                # No links: what is copied from there is to be files.
+                (shutil.copytree if path.is_dir() else shutil.copy2)(path, resources / path.name)
         (resources / "en.lproj").mkdir()
         for path in (program.parent / "Resources/en.lproj").iterdir():
             text = path.read_text(encoding="utf-8-sig")

@@ -24,6 +24,11 @@ bool isLarge(NSFont *font) {
     return [font pointSize] >= (isBold ? largeWhenBold : large);
 }
 
+/// The toolkit gives a default button an empty one.
+bool hasPicture(NSButton *button) {
+    return [[button image] size].width > 1;
+}
+
 class Measuring {
 public:
     explicit Measuring(NSWindow *window) : pixels_(window) {}
@@ -94,11 +99,16 @@ private:
     void measureButton(NSButton *button) {
         NSButtonCell *cell = [button cell];
         const NSRect bounds = [button bounds];
+        if ([button imagePosition] == NSImageOnly && hasPicture(button)) {
+            add("picture", [button accessibilityLabel],
+                pixels_.contrastIn(inWindow(button, NSInsetRect(bounds, 4, 4))), forLargeText);
+            return;
+        }
         NSAttributedString *title = [button attributedTitle];
         NSFont *font = [title length] > 0
                            ? [title attribute:NSFontAttributeName atIndex:0 effectiveRange:nullptr]
                            : [button font];
-        const bool isBox = [cell alternateImage] != nil;
+        const bool isBox = [cell alternateImage] != nil && ![button isBordered];
         const CGFloat imageWidth = [button image] ? [[button image] size].width : 0;
         const NSRect picture = NSMakeRect(NSMinX(bounds), NSMidY(bounds) - 8, imageWidth, 16);
         constexpr CGFloat side = 8;
@@ -108,7 +118,7 @@ private:
         addText([button title], font, button, text);
         if (isBox) {
             measureBox(button, picture);
-        } else if ([button image]) {
+        } else if (hasPicture(button)) {
             add("picture", [button title], pixels_.contrastIn(inWindow(button, NSInsetRect(picture, 8, 0))),
                 forLargeText);
         } else if ([button isEnabled]) {
@@ -130,7 +140,9 @@ private:
     void measureScroller(NSScroller *scroller) {
         const NSRect knob = [scroller rectForPart:NSScrollerKnob];
         if ([scroller isEnabled] && !NSIsEmptyRect(knob)) {
-            const NSRect line = NSMakeRect(0, NSMidY(knob), NSWidth([scroller bounds]), 1);
+            const NSSize size = [scroller bounds].size;
+            const NSRect line = size.width > size.height ? NSMakeRect(NSMidX(knob), 0, 1, size.height)
+                                                         : NSMakeRect(0, NSMidY(knob), size.width, 1);
             const NSRect place = [scroller convertRect:line toView:nil];
             add("knob", @"scroller", pixels_.contrastIn(place, pixels_.colourAt(place.origin)), forLargeText);
         }

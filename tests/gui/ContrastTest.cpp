@@ -1,6 +1,7 @@
 #include "tests/gui/Contrast.h"
 #include "tests/gui/Driver.h"
 #include "tests/gui/Input.h"
+#include "tests/gui/Panels.h"
 
 #include "ui/Page.h"
 
@@ -89,6 +90,27 @@ TEST(Contrast, TheFindBarStandsOut) {
     EXPECT_EQ(numberOf(all, "text", "Find:"), 1);
     press(Key::escape);
     settle();
+}
+
+TEST(Contrast, AlertsAndPanelsStandOut) {
+    std::vector<Contrast> all;
+    lookIntoNextAlert([&] { all = contrasts(); });
+    sendAction("initialize");
+    ASSERT_TRUE(waitUntil([&] { return !all.empty(); }));
+    EXPECT_EQ(tooLow(all), "");
+    EXPECT_EQ(numberOf(all, "large text", "Warning"), 1);
+    EXPECT_EQ(numberOf(all, "text", "Cancel"), 1);
+    EXPECT_EQ(numberOf(all, "border", "button"), 2);
+    for (const auto* action : {"exportSettings:", "importSettings:"}) {
+        all.clear();
+        lookIntoNextPanel([&] { all = contrasts(); });
+        sendAction(action);
+        ASSERT_TRUE(waitUntil([&] { return !all.empty(); })) << action;
+        EXPECT_EQ(tooLow(all), "") << action;
+        EXPECT_EQ(numberOf(all, "text", "Cancel"), 1) << action;
+        EXPECT_EQ(numberOf(all, "picture"), 3) << action;
+        EXPECT_GT(numberOf(all, "border", "button"), 0) << action;
+    }
 }
 
 } // namespace

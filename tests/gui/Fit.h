@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-/// Whether what the window shows has the room that it needs.
+/// Whether what is shown has the room that it needs.
 namespace tarnwick::gui {
 
 /// The window becomes as small as it can be.
@@ -16,6 +16,7 @@ struct Fit {
     std::size_t controls = 0;
 };
 
+/// Of the alert or panel that is open, or else of the window.
 [[nodiscard]] Fit fitOfWhatIsShown();
 
 /// Takes room away from the hint in the sidebar, puts a button of the page over the one beside it, and gives

@@ -52,6 +52,9 @@ bool isCut(NSView *view) {
     }
     if ([view isKindOfClass:[NSButton class]]) {
         NSButton *button = static_cast<NSButton *>(view);
+        if ([button imagePosition] == NSImageOnly && [button image]) {
+            return [[button image] size].width > NSWidth([view bounds]) + tolerance;
+        }
         const CGFloat edges = [button isBordered] ? 2 * roomBesideTitle : 0;
         const CGFloat title = [[[button cell] attributedTitle] size].width;
         return [[button image] size].width + title + edges > NSWidth([view bounds]) + tolerance;
@@ -118,7 +121,8 @@ Fit fitOfWhatIsShown() {
     Fit fit;
     std::vector<NSView *> controls;
     std::vector<NSTableView *> tables;
-    collect([settingsWindow() contentView], controls, tables);
+    NSWindow *window = [NSApp modalWindow] ? [NSApp modalWindow] : settingsWindow();
+    collect([window contentView], controls, tables);
     fit.controls = static_cast<std::size_t>(
         std::count_if(controls.begin(), controls.end(), [](NSView *view) { return !isInList(view); }));
     for (auto *table : tables) {

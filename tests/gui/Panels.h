@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -24,5 +25,10 @@ void chooseInNextPanel(const std::string& path);
 void saveInNextPanel(const std::string& path);
 /// Presses Escape in the next open panel.
 void cancelNextPanel();
+
+/// Calls `look` while the next open or save panel is open, and presses Escape in it.
+void lookIntoNextPanel(std::function<void()> look);
+/// Calls `look` while the next alert is open, be there panels before it, and closes it without an answer.
+void lookIntoNextAlert(std::function<void()> look);
 
 } // namespace tarnwick::gui

@@ -6,6 +6,7 @@
 #import "tests/driving/Driving.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -111,10 +112,24 @@ bool eventsAreWaiting() {
 
 @end
 
-@interface ButtonAnswer : PanelAnswer {
+/// Of an alert alone, where it is told so.
+@interface AlertAnswer : PanelAnswer {
+@public
+    BOOL wantsAlert;
+}
+@end
+
+@implementation AlertAnswer
+
+- (BOOL)passesOver:(NSWindow *)panel {
+    return wantsAlert && (!panel || [panel isKindOfClass:[NSSavePanel class]]);
+}
+
+@end
+
+@interface ButtonAnswer : AlertAnswer {
 @public
     NSString *title;
-    BOOL wantsAlert;
 }
 @end
 
@@ -123,10 +138,6 @@ bool eventsAreWaiting() {
 - (void)dealloc {
     [title release];
     [super dealloc];
-}
-
-- (BOOL)passesOver:(NSWindow *)panel {
-    return wantsAlert && (!panel || [panel isKindOfClass:[NSSavePanel class]]);
 }
 
 - (BOOL)goOnIn:(NSWindow *)panel {
@@ -182,19 +193,39 @@ bool eventsAreWaiting() {
 
 @end
 
-@interface EscapeAnswer : PanelAnswer
+@interface EscapeAnswer : AlertAnswer {
+@public
+    std::function<void()> look;
+}
 @end
 
 @implementation EscapeAnswer
 
 - (BOOL)goOnIn:(NSWindow *)panel {
-    driving::postKey(panel, @"\x1B");
+    look();
+    if (wantsAlert) {
+        // A made-up language has no word that the toolkit knows as the answer for Escape.
+        [NSApp abortModal];
+    } else {
+        driving::postKey(panel, @"\x1B");
+    }
     return NO;
 }
 
 @end
 
 namespace tarnwick::gui {
+
+namespace {
+
+void escapeFromNext(BOOL wantsAlert, std::function<void()> look) {
+    EscapeAnswer *answer = [[[EscapeAnswer alloc] init] autorelease];
+    answer->look = std::move(look);
+    answer->wantsAlert = wantsAlert;
+    [answer begin];
+}
+
+} // namespace
 
 void pressInNextPanel(const std::string &buttonTitle) {
     ButtonAnswer *answer = [[[ButtonAnswer alloc] init] autorelease];
@@ -247,7 +278,15 @@ void saveInNextPanel(const std::string &path) {
 }
 
 void cancelNextPanel() {
-    [[[[EscapeAnswer alloc] init] autorelease] begin];
+    escapeFromNext(NO, [] {});
+}
+
+void lookIntoNextPanel(std::function<void()> look) {
+    escapeFromNext(NO, std::move(look));
+}
+
+void lookIntoNextAlert(std::function<void()> look) {
+    escapeFromNext(YES, std::move(look));
 }
 
 } // namespace tarnwick::gui
