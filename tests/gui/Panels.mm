@@ -193,13 +193,14 @@ bool eventsAreWaiting() {
 
 @end
 
-@interface EscapeAnswer : AlertAnswer {
+/// Looks, and closes the panel without an answer.
+@interface LookAnswer : AlertAnswer {
 @public
     std::function<void()> look;
 }
 @end
 
-@implementation EscapeAnswer
+@implementation LookAnswer
 
 - (BOOL)goOnIn:(NSWindow *)panel {
     look();
@@ -218,8 +219,8 @@ namespace tarnwick::gui {
 
 namespace {
 
-void escapeFromNext(BOOL wantsAlert, std::function<void()> look) {
-    EscapeAnswer *answer = [[[EscapeAnswer alloc] init] autorelease];
+void lookIntoNext(BOOL wantsAlert, std::function<void()> look) {
+    LookAnswer *answer = [[[LookAnswer alloc] init] autorelease];
     answer->look = std::move(look);
     answer->wantsAlert = wantsAlert;
     [answer begin];
@@ -278,15 +279,15 @@ void saveInNextPanel(const std::string &path) {
 }
 
 void cancelNextPanel() {
-    escapeFromNext(NO, [] {});
+    lookIntoNext(NO, [] {});
 }
 
 void lookIntoNextPanel(std::function<void()> look) {
-    escapeFromNext(NO, std::move(look));
+    lookIntoNext(NO, std::move(look));
 }
 
 void lookIntoNextAlert(std::function<void()> look) {
-    escapeFromNext(YES, std::move(look));
+    lookIntoNext(YES, std::move(look));
 }
 
 } // namespace tarnwick::gui
