@@ -1,5 +1,6 @@
-// Wrong: the knob of a scroller beside a long list, as of GNUstep GUI 0.29, where it becomes so short that it
-// can hardly be taken hold of.
+// Wrong: the scrollers as of GNUstep GUI 0.29. The knob beside a long list becomes so short that it can
+// hardly be taken hold of, and what it moves in has the colour of a text's ground also where it does not
+// stand beside one.
 
 #import "gnustep/runtime/MethodReplacement.h"
 
@@ -38,6 +39,12 @@ NSRect part(NSScroller *self, SEL command, NSScrollerPart part) {
     return rect;
 }
 
+void drawKnobSlot(NSScroller *self, SEL, NSRect rect, BOOL) {
+    const bool isBesideContent = [[self superview] isKindOfClass:[NSScrollView class]];
+    [isBesideContent ? [NSColor scrollBarColor] : [[self window] backgroundColor] set];
+    NSRectFill(rect);
+}
+
 } // namespace
 
 @interface NSScroller (TNKnob)
@@ -47,6 +54,7 @@ NSRect part(NSScroller *self, SEL command, NSScrollerPart part) {
 
 + (void)load {
     nativePart = TNReplaceMethod(self, @selector(rectForPart:), part);
+    TNReplaceMethod(self, @selector(drawKnobSlotInRect:highlight:), drawKnobSlot);
 }
 
 @end

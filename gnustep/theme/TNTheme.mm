@@ -130,6 +130,21 @@ NSBezierPath *TNThemeHairline(NSRect rect, CGFloat radius) {
     NSRectFill(frame);
 }
 
+/// Without the toolkit's frame around the horizontal scroller, which is there also while nothing can be
+/// scrolled.
+- (void)drawBrowserRect:(NSRect)rect
+                 inView:(NSView *)view
+       withScrollerRect:(NSRect)scrollerRect
+             columnSize:(NSSize)columnSize {
+    NSBrowser *browser = (NSBrowser *)view;
+    if (![browser isLoaded]) {
+        [browser loadColumnZero];
+    }
+    for (NSInteger column = [browser firstVisibleColumn]; column <= [browser lastVisibleColumn]; ++column) {
+        [browser drawTitleOfColumn:column inRect:[browser titleFrameOfColumn:column]];
+    }
+}
+
 - (void)drawWindowBackground:(NSRect)frame view:(NSView *)view {
     [[[view window] backgroundColor] set];
     NSRectFill(frame);
@@ -176,11 +191,7 @@ NSBezierPath *TNThemeHairline(NSRect rect, CGFloat radius) {
     if ([scroller arrowsPosition] != NSScrollerArrowsNone) {
         [scroller setArrowsPosition:NSScrollerArrowsNone];
     }
-    [TNThemeCurrentColors()->surface set];
-    NSRectFill(rect);
-    if (![scroller isEnabled] || [scroller knobProportion] >= 1) {
-        return;
-    }
+    [scroller drawKnobSlotInRect:rect highlight:NO];
     const NSRect knob = NSInsetRect([scroller rectForPart:NSScrollerKnob], knobInset, knobInset);
     const CGFloat radius = std::min(NSWidth(knob), NSHeight(knob)) / 2;
     [TNThemeCurrentColors()->knob set];

@@ -24,6 +24,18 @@ bool isLarge(NSFont *font) {
     return [font pointSize] >= (isBold ? largeWhenBold : large);
 }
 
+/// What the toolkit's scrollers say of themselves is of no use: they are always enabled, and keep their
+/// proportion.
+bool hasSomethingToScroll(NSScroller *scroller) {
+    if (![[scroller superview] isKindOfClass:[NSScrollView class]]) {
+        return [scroller knobProportion] < 1;
+    }
+    auto *view = static_cast<NSScrollView *>([scroller superview]);
+    const NSSize whole = [[view documentView] frame].size;
+    const NSSize seen = [[view contentView] bounds].size;
+    return scroller == [view verticalScroller] ? whole.height > seen.height : whole.width > seen.width;
+}
+
 /// The toolkit gives a default button an empty one.
 bool hasPicture(NSButton *button) {
     return [[button image] size].width > 1;
@@ -139,7 +151,7 @@ private:
 
     void measureScroller(NSScroller *scroller) {
         const NSRect knob = [scroller rectForPart:NSScrollerKnob];
-        if ([scroller isEnabled] && !NSIsEmptyRect(knob)) {
+        if (hasSomethingToScroll(scroller)) {
             const NSSize size = [scroller bounds].size;
             const NSRect line = size.width > size.height ? NSMakeRect(NSMidX(knob), 0, 1, size.height)
                                                          : NSMakeRect(0, NSMidY(knob), size.width, 1);

@@ -8,6 +8,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
+#include <filesystem>
 
 namespace tarnwick::gui {
 namespace {
@@ -93,6 +95,13 @@ TEST(Contrast, TheFindBarStandsOut) {
 }
 
 TEST(Contrast, AlertsAndPanelsStandOut) {
+    // The panels show a folder with more in it than has room, so deep that not all columns have room either.
+    const auto before = std::filesystem::current_path();
+    const auto deep = std::filesystem::path(std::getenv("TARNWICK_USER_FOLDER")) / "a" / "deep" / "place";
+    for (int number = 0; number < 30; ++number) {
+        std::filesystem::create_directories(deep / std::to_string(number));
+    }
+    std::filesystem::current_path(deep);
     std::vector<Contrast> all;
     lookIntoNextAlert([&] { all = contrasts(); });
     sendAction("initialize");
@@ -110,7 +119,9 @@ TEST(Contrast, AlertsAndPanelsStandOut) {
         EXPECT_EQ(numberOf(all, "text", "Cancel"), 1) << action;
         EXPECT_EQ(numberOf(all, "picture"), 3) << action;
         EXPECT_GT(numberOf(all, "border", "button"), 0) << action;
+        EXPECT_GT(numberOf(all, "knob"), 0) << action;
     }
+    std::filesystem::current_path(before);
 }
 
 } // namespace
