@@ -13,7 +13,7 @@ namespace tarnwick {
 namespace {
 
 /// As long as the start is put off, which comes first.
-constexpr double startDelaySeconds = 0.01;
+constexpr double firstLookDelaySeconds = 0.01;
 
 } // namespace
 
@@ -29,7 +29,7 @@ Warnings::Warnings(const Ports& ports, const RuleLists& lists, FinderExtension& 
 
 void Warnings::watch() {
     health_.watch();
-    runLoop_.performAfterDelay(startDelaySeconds, [this] { lookAround(); });
+    runLoop_.performAfterDelay(firstLookDelaySeconds, [this] { lookAround(); });
 }
 
 void Warnings::applicationActivated() {

@@ -1,4 +1,5 @@
 #include "tests/editing/UndoFixture.h"
+#include "tests/support/Categories.h"
 
 #include <random>
 
@@ -7,9 +8,6 @@ namespace {
 
 using Names = std::vector<std::string>;
 using Records = std::vector<RuleRecord>;
-
-constexpr auto templates = RuleCategory::createNewFile;
-const std::string held = "/tmp/org.halvane.Tarnwick.undo-100";
 
 /// Changes whose template files cannot be kept, and the steps before and after them.
 class FinalChangeTest : public UndoFixture {
@@ -20,12 +18,12 @@ protected:
     void turn(long row, bool on) { editing_.toggling.set(templates, row, field::enable, on); }
     void move(long from, long to) { editing_.reordering.acceptDrop(templates, templates, from, to); }
     void removeForGood(long row) {
-        platform_.files.failing.insert(held);
+        platform_.files.failing.insert(heldFolder);
         remove(templates, row);
         platform_.files.failing.clear();
     }
     void resetForGood() {
-        platform_.files.failing.insert(held);
+        platform_.files.failing.insert(heldFolder);
         editing_.resetting.reset(templates);
         platform_.files.failing.clear();
     }
@@ -168,7 +166,7 @@ TEST_F(FinalChangeTest, AResetThatIsTakenBackForGoodLeavesEarlierStepsAsTheyAre)
     const auto before = everything();
     turn(2, true);
     editing_.resetting.reset(templates);
-    platform_.files.failing.insert(held + "/2");
+    platform_.files.failing.insert(heldFolder + "/2");
     undo();
     EXPECT_EQ(redoNames(), Names());
     EXPECT_EQ(steps(), Names{"turn on C"});
@@ -182,7 +180,7 @@ TEST_F(FinalChangeTest, WhatIsTakenBackForGoodIsNotRepeatedAndHindersNoEarlierSt
     add(templates, {"/home/New.txt"});
     rename(1, "Later");
     undo();
-    platform_.files.failing.insert(held);
+    platform_.files.failing.insert(heldFolder);
     undo();
     EXPECT_EQ(contentOf("New.txt"), "(none)");
     EXPECT_EQ(redoNames(), Names());
@@ -196,7 +194,7 @@ TEST_F(FinalChangeTest, WhatIsRepeatedForGoodIsFinalFromThenOn) {
     turn(2, true);
     remove(templates, 0);
     undo();
-    platform_.files.failing.insert(held);
+    platform_.files.failing.insert(heldFolder);
     redo();
     EXPECT_EQ(contentOf("A.x"), "(none)");
     EXPECT_EQ(steps(), Names{"turn on C"});

@@ -7,8 +7,6 @@
 namespace tarnwick::testing {
 namespace {
 
-const std::string templates = "/container/Templates/CreateNewFile";
-
 /// What a killed program leaves: the stores and the files.
 struct Remains {
     PlistDictionary local;
@@ -53,7 +51,7 @@ public:
     void keepTemporaryFilesElsewhere() { platform_.files.volumes.insert("/tmp"); }
     [[nodiscard]] bool isAnythingHeld() const { return !platform_.files.namesIn("/tmp").empty(); }
     [[nodiscard]] std::string contentOf(const std::string& name) const {
-        const auto found = platform_.files.files.find(templates + "/" + name);
+        const auto found = platform_.files.files.find(templateFolder + "/" + name);
         return found == platform_.files.files.end() ? "" : found->second;
     }
     void addFile(const std::string& path) { platform_.files.files[path] = "content of " + path; }
@@ -85,7 +83,7 @@ public:
     }
     /// Files of the folder that are no record's template and no icon.
     [[nodiscard]] std::set<std::string> strangers() const {
-        const auto all = platform_.files.namesIn(templates);
+        const auto all = platform_.files.namesIn(templateFolder);
         std::set<std::string> names(all.begin(), all.end());
         for (const auto& name : templateNames()) {
             names.erase(name);
@@ -97,7 +95,7 @@ public:
     /// Records' templates that are not in the folder.
     [[nodiscard]] std::set<std::string> missing() const {
         auto names = templateNames();
-        for (const auto& name : platform_.files.namesIn(templates)) {
+        for (const auto& name : platform_.files.namesIn(templateFolder)) {
             names.erase(name);
         }
         return names;

@@ -66,7 +66,7 @@ INSTANTIATE_TEST_SUITE_P(Editing, OrderOfEffectsTest,
     ::testing::Values(
         Effects{"TheNameOfATemplate", [](auto& window) { window.edit("NewFileDisplayName"); },
             noted() + stored("arrOfCreateNewFile") + Lines{"reload createNewFile"} + publishedTemplates() +
-                Lines{"move " + templates + "TXT.txt -> " + templates + "New.txt"} + forgotten()},
+                Lines{"move " + templateFolder + "/TXT.txt -> " + templateFolder + "/New.txt"} + forgotten()},
         Effects{"TheNameOfATarget", [](auto& window) { window.edit("Note"); },
             stored("arrOfCopyFilesTo") + Lines{"reload copyFilesTo"} + publishedTargets()},
         Effects{"TheNameOfATargetByItsOtherIdentifier", [](auto& window) { window.edit("newFileName"); },

@@ -72,8 +72,7 @@ Lines forgotten() {
 }
 
 Lines held(const std::string& path) {
-    const std::string folder = "/tmp/org.halvane.Tarnwick.undo-100";
-    return {"create folder " + folder, "move " + path + " -> " + folder + "/1"};
+    return {"create folder " + heldFolder, "move " + path + " -> " + heldFolder + "/1"};
 }
 
 Lines publishedTemplates() {

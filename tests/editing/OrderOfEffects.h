@@ -37,8 +37,6 @@ public:
     [[nodiscard]] RuleEditing& editing() { return editing_; }
 };
 
-inline const std::string templates = "/container/Templates/CreateNewFile/";
-
 [[nodiscard]] Lines operator+(Lines first, const Lines& second);
 
 /// The list written into the application's own preferences, then synchronised.

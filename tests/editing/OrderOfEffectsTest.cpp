@@ -9,17 +9,18 @@ TEST_P(OrderOfEffectsTest, TheStepsFollowOneAnotherExactly) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Adding, OrderOfEffectsTest,
-    ::testing::Values(Effects{"Templates",
-                          [](auto& window) {
-                              window.add(RuleCategory::createNewFile, {"/home/Gone.txt", "/home/Letter.txt"});
-                          },
-                          Lines{"open panel"} + noted() +
-                              Lines{"local synchronise", "copy /home/Gone.txt -> " + templates + "Gone.txt",
-                                  "copy /home/Letter.txt -> " + templates + "Letter.txt",
-                                  "local set prePathOfCreateNewFile"} +
-                              Lines{"local set arrOfCreateNewFile"} + forgotten() +
-                              Lines{"local synchronise", "reload createNewFile"} + publishedTemplates() +
-                              Lines{"scroll createNewFile 15"}},
+    ::testing::Values(
+        Effects{"Templates",
+            [](auto& window) {
+                window.add(RuleCategory::createNewFile, {"/home/Gone.txt", "/home/Letter.txt"});
+            },
+            Lines{"open panel"} + noted() +
+                Lines{"local synchronise", "copy /home/Gone.txt -> " + templateFolder + "/Gone.txt",
+                    "copy /home/Letter.txt -> " + templateFolder + "/Letter.txt",
+                    "local set prePathOfCreateNewFile"} +
+                Lines{"local set arrOfCreateNewFile"} + forgotten() +
+                Lines{"local synchronise", "reload createNewFile"} + publishedTemplates() +
+                Lines{"scroll createNewFile 15"}},
         Effects{"Targets", [](auto& window) { window.add(RuleCategory::copyFilesTo, {"/a/Zoo"}); },
             Lines{"open panel", "local set prePathOfSendFilesTo"} + stored("arrOfCopyFilesTo") +
                 Lines{"reload copyFilesTo"} + publishedTargets() + Lines{"scroll copyFilesTo 3"}},
@@ -38,7 +39,7 @@ INSTANTIATE_TEST_SUITE_P(Removing, OrderOfEffectsTest,
     ::testing::Values(
         Effects{"ATemplate", [](auto& window) { window.remove(RuleCategory::createNewFile, 2); },
             noted() + stored("arrOfCreateNewFile") + Lines{"reload createNewFile"} +
-                held(templates + "XML.xml") + forgotten() + Lines{"select createNewFile 1"} +
+                held(templateFolder + "/XML.xml") + forgotten() + Lines{"select createNewFile 1"} +
                 publishedTemplates()},
         Effects{"ATarget", [](auto& window) { window.remove(RuleCategory::copyFilesTo, 2); },
             stored("arrOfCopyFilesTo") + Lines{"reload copyFilesTo", "select copyFilesTo 1"} +

@@ -1,12 +1,10 @@
 #include "tests/editing/UndoFixture.h"
+#include "tests/support/Categories.h"
 
 namespace tarnwick::testing {
 namespace {
 
 using Names = std::vector<std::string>;
-
-constexpr auto templates = RuleCategory::createNewFile;
-const std::string held = "/tmp/org.halvane.Tarnwick.undo-100";
 
 class UndoFilesTest : public UndoFixture {
 protected:
@@ -17,11 +15,12 @@ protected:
 };
 
 TEST_F(UndoFilesTest, WhatIsTakenAwayWaitsInAFolderOfTheProcessUntilItEnds) {
-    EXPECT_FALSE(exists(held));
+    EXPECT_FALSE(exists(heldFolder));
     remove(templates, 3);
-    EXPECT_EQ(platform_.files.files.at(held + "/1/Contents/index"), "content of D.pages/Contents/index");
+    EXPECT_EQ(
+        platform_.files.files.at(heldFolder + "/1/Contents/index"), "content of D.pages/Contents/index");
     preferences_.held.removeAll();
-    EXPECT_FALSE(exists(held));
+    EXPECT_FALSE(exists(heldFolder));
 }
 
 TEST_F(UndoFilesTest, NothingIsMadeAndRemovedWhereNothingWasTakenAway) {
@@ -71,7 +70,7 @@ TEST_F(UndoFilesTest, ARenameIsTakenBackWithoutOverwriting) {
 
 TEST_F(UndoFilesTest, ARemovalWithoutAFileToHoldIsAStepEvenOnAFullDisk) {
     platform_.files.files.erase(templateFolder + "/A.x");
-    platform_.files.failing.insert(held);
+    platform_.files.failing.insert(heldFolder);
     remove(templates, 0);
     EXPECT_EQ(steps(), Names{"remove A"});
 }
@@ -86,11 +85,11 @@ TEST_F(UndoFilesTest, FilesComeBackFromAnotherVolumeToo) {
         undo();
         undo();
         EXPECT_TRUE(everything() == before);
-        EXPECT_EQ(platform_.files.namesIn(held).size(), 1U);
+        EXPECT_EQ(platform_.files.namesIn(heldFolder).size(), 1U);
         redo();
         redo();
         EXPECT_TRUE(everything() == after);
-        EXPECT_EQ(platform_.files.namesIn(held).size(), 2U);
+        EXPECT_EQ(platform_.files.namesIn(heldFolder).size(), 2U);
     }
 }
 
@@ -122,7 +121,7 @@ TEST_F(UndoFilesTest, WithoutAGroupContainerTheListAloneComesBack) {
     undo();
     undo();
     EXPECT_TRUE(list(templates).records() == before);
-    EXPECT_FALSE(exists(held));
+    EXPECT_FALSE(exists(heldFolder));
 }
 
 TEST_F(UndoFilesTest, AStartRemovesWhatProcessesThatAreGoneHaveHeldAndNothingElse) {

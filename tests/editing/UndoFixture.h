@@ -9,8 +9,6 @@
 
 namespace tarnwick::testing {
 
-inline const std::string templateFolder = "/container/Templates/CreateNewFile";
-
 /// All that undo must bring back: the lists in memory and as stored, what is published of them, the flags
 /// that go with them, and everything in the container.
 struct EverythingKept {

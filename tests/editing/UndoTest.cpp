@@ -1,4 +1,5 @@
 #include "tests/editing/UndoFixture.h"
+#include "tests/support/Categories.h"
 
 #include <functional>
 #include <ostream>
@@ -123,12 +124,6 @@ TEST_P(UndoTest, GoingBackAndForthHasTheEffectsOfAnEditedRow) {
     }
 }
 
-constexpr auto templates = RuleCategory::createNewFile;
-constexpr auto targets = RuleCategory::copyFilesTo;
-constexpr auto paths = RuleCategory::commonPath;
-constexpr auto icons = RuleCategory::customIcon;
-constexpr auto others = RuleCategory::others;
-
 INSTANTIATE_TEST_SUITE_P(Of, UndoTest,
     ::testing::Values(Edit{"AddingATemplate", templates,
                           [](auto& test) { test.add(templates, {"/home/New.txt"}); }, "add New", 3, 4},
@@ -137,7 +132,7 @@ INSTANTIATE_TEST_SUITE_P(Of, UndoTest,
                 test.add(templates, {"/home/New.txt", "/home/Other.txt", "/home/Gone.txt"});
             },
             "add", 3, 4},
-        Edit{"AddingAFolder", paths, [](auto& test) { test.add(paths, {"/home/Zoo"}); }, "add Zoo", 3, 4},
+        Edit{"AddingAFolder", folders, [](auto& test) { test.add(folders, {"/home/Zoo"}); }, "add Zoo", 3, 4},
         Edit{"AddingAPicture", icons, [](auto& test) { test.add(icons, {"/home/Blue.png"}); }, "add Blue.png",
             3, 4},
         Edit{"AddingAnItem", others, [](auto& test) { test.add(others, {"/x/Cut.png"}); }, "add Cut", 6, 7},
@@ -162,7 +157,7 @@ INSTANTIATE_TEST_SUITE_P(Of, UndoTest,
             std::nullopt, std::nullopt},
         Edit{"DisablingAll", icons, [](auto& test) { test.enableAll(icons, false); }, "disable all",
             std::nullopt, std::nullopt},
-        Edit{"MovingDown", paths, [](auto& test) { test.move(paths, 0, 2); }, "reorder A", 0, 2},
+        Edit{"MovingDown", folders, [](auto& test) { test.move(folders, 0, 2); }, "reorder A", 0, 2},
         Edit{"MovingUp", templates, [](auto& test) { test.move(templates, 3, 1); }, "reorder D", 3, 1},
         Edit{"MovingByKey", icons, [](auto& test) { test.moveByKey(icons, 2, MoveDirection::up); },
             "reorder C", 2, 1},
@@ -170,7 +165,7 @@ INSTANTIATE_TEST_SUITE_P(Of, UndoTest,
             "rename B", 1, 1},
         Edit{"RenamingAPackage", templates, [](auto& test) { test.edit("NewFileDisplayName", 3, "Book"); },
             "rename D", 3, 3},
-        Edit{"RenamingAFolder", paths, [](auto& test) { test.edit("commonPathDisplayName", 2, ""); },
+        Edit{"RenamingAFolder", folders, [](auto& test) { test.edit("commonPathDisplayName", 2, ""); },
             "rename C", 2, 2},
         Edit{"EditingANote", others, [](auto& test) { test.edit("OthersNote", 3, "New"); }, "edit note D", 3,
             3},

@@ -20,7 +20,6 @@ namespace {
 using namespace tarnwick;
 using namespace tarnwick::fuzz;
 
-const std::string templates = "/container/Templates/CreateNewFile/";
 const std::string temporary = "/tmp/";
 
 PlistValue anyDocument(FuzzInput& input) {
@@ -101,7 +100,8 @@ void import(Program& program, testing::InMemoryPlatform& platform, const ListFil
 
 void checkPlaces(const Disk& before, const Disk& after) {
     const auto others = [](std::map<std::string, std::string> files) {
-        std::erase_if(files, [](const auto& file) { return file.first.starts_with(templates); });
+        std::erase_if(
+            files, [](const auto& file) { return file.first.starts_with(testing::templateFolder + "/"); });
         return files;
     };
     require(others(before.files) == others(after.files), "only the template folder changes");

@@ -17,7 +17,8 @@ namespace {
 
 using namespace tarnwick;
 
-constexpr const char* templateFolder = "/container/Templates/CreateNewFile";
+using testing::templateFolder;
+
 constexpr const char* outsider = "/container/Templates/CreateNewFile/../keep";
 
 void damagePlatform(testing::InMemoryPlatform& platform, fuzz::FuzzInput& input) {
@@ -56,7 +57,7 @@ void leaveWork(testing::InMemoryPlatform& platform, fuzz::FuzzInput& input) {
     }
     if (platform.files.exists(templateFolder)) {
         for (const auto* name : {"/TXT.txt", "/Memo.txt", "/txt", "/../keep"}) {
-            platform.files.files[std::string(templateFolder) + name] = name;
+            platform.files.files[templateFolder + name] = name;
         }
     }
 }
@@ -68,7 +69,7 @@ std::set<std::string> templatesInPlace(const testing::InMemoryPlatform& platform
     const auto* elements = stored == platform.preferences.local.end() ? nullptr : stored->second.array();
     for (const auto& element : elements ? *elements : PlistArray()) {
         if (auto fields = element.sharedDictionary()) {
-            auto path = std::string(templateFolder) + "/" + templateFileName(RuleRecord(std::move(fields)));
+            auto path = templateFolder + "/" + templateFileName(RuleRecord(std::move(fields)));
             if (platform.files.exists(path)) {
                 files.insert(std::move(path));
             }

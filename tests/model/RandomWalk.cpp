@@ -7,8 +7,6 @@
 namespace tarnwick::testing {
 namespace {
 
-const std::string templateFolder = "/container/Templates/CreateNewFile";
-
 /// A column that shows one text of a record, and the record's field.
 struct ShownField {
     std::string_view column;

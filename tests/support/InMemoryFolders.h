@@ -6,6 +6,10 @@
 
 namespace tarnwick::testing {
 
+inline const std::string templateFolder = "/container/Templates/CreateNewFile";
+/// Where files are held for the first step that can be undone.
+inline const std::string heldFolder = "/tmp/org.halvane.Tarnwick.undo-100";
+
 /// Folders at fixed places: the group container at "/container", the scripts at "/scripts", the user "anna".
 class InMemoryFolders final : public KnownFolders {
 public:

@@ -5,7 +5,6 @@
 namespace tarnwick::testing {
 namespace {
 
-const std::string templates = "/container/Templates/CreateNewFile";
 const std::string place = "/chosen/Settings.plist";
 
 class ExportSettingsTest : public SettingsFixture {
@@ -26,7 +25,7 @@ protected:
         return part ? *part : PlistDictionary();
     }
     void addFile(const std::string& name, const std::string& content) {
-        platform_.files.files[templates + "/" + name] = content;
+        platform_.files.files[templateFolder + "/" + name] = content;
     }
     static PlistValue bytes(const std::string& text) { return tiffOf(text); }
 };
@@ -114,7 +113,8 @@ TEST_F(ExportSettingsTest, NothingElseIsThere) {
 TEST_F(ExportSettingsTest, ItHoldsTheFilesOfTheTemplatesWholePackagesAndIcons) {
     storeList(RuleCategory::createNewFile, {makeTemplateRecord("Letter", "rtf", "1", RecordOrigin::user),
                                                makeTemplateRecord("Deck", "key", "1", RecordOrigin::user)});
-    platform_.files.folders.insert({templates, templates + "/Deck.key", templates + "/Deck.key/Data"});
+    platform_.files.folders.insert(
+        {templateFolder, templateFolder + "/Deck.key", templateFolder + "/Deck.key/Data"});
     addFile("Letter.rtf", "letter");
     addFile("rtf.png", "icon");
     addFile("Deck.key/Data/Index.zip", "index");
@@ -128,7 +128,7 @@ TEST_F(ExportSettingsTest, ItHoldsTheFilesOfTheTemplatesWholePackagesAndIcons) {
 TEST_F(ExportSettingsTest, ATemplateWithoutExtensionLiesUnderItsBareNameOrWithADot) {
     storeList(RuleCategory::createNewFile, {makeTemplateRecord("Makefile", "", "1", RecordOrigin::user),
                                                makeTemplateRecord("Dotted", "", "1", RecordOrigin::user)});
-    platform_.files.folders.insert(templates);
+    platform_.files.folders.insert(templateFolder);
     addFile("Makefile", "all:");
     addFile("Dotted.", "dot");
     launch();
@@ -139,7 +139,7 @@ TEST_F(ExportSettingsTest, ATemplateWithoutExtensionLiesUnderItsBareNameOrWithAD
 TEST_F(ExportSettingsTest, ANameThatLeadsOutOfTheFolderBringsNothingIn) {
     storeList(
         RuleCategory::createNewFile, {makeTemplateRecord("../outside", "txt", "1", RecordOrigin::user)});
-    platform_.files.folders.insert(templates);
+    platform_.files.folders.insert(templateFolder);
     platform_.files.files["/container/Templates/outside.txt"] = "outside";
     launch();
     EXPECT_EQ(part(exported(), "templateFiles"), PlistDictionary());
@@ -147,8 +147,8 @@ TEST_F(ExportSettingsTest, ANameThatLeadsOutOfTheFolderBringsNothingIn) {
 
 TEST_F(ExportSettingsTest, ATemplateThatCannotBeReadIsLeftOutAndNamed) {
     storeList(RuleCategory::createNewFile, {makeTemplateRecord("Deck", "key", "1", RecordOrigin::user)});
-    platform_.files.folders.insert({templates, templates + "/Deck.key"});
-    platform_.files.links[templates + "/Deck.key/link"] = "/elsewhere";
+    platform_.files.folders.insert({templateFolder, templateFolder + "/Deck.key"});
+    platform_.files.links[templateFolder + "/Deck.key/link"] = "/elsewhere";
     launch();
     EXPECT_EQ(part(exported(), "templateFiles"), PlistDictionary());
     ASSERT_EQ(platform_.panels.alerts.size(), 1U);
@@ -159,12 +159,12 @@ TEST_F(ExportSettingsTest, ATemplateThatCannotBeReadIsLeftOutAndNamed) {
 
 TEST_F(ExportSettingsTest, OfManyTemplatesThatCannotBeReadTheFirstEightAreNamed) {
     std::vector<RuleRecord> records;
-    platform_.files.folders.insert(templates);
+    platform_.files.folders.insert(templateFolder);
     for (const char letter : std::string("ABCDEFGHIJ")) {
         const std::string name(1, letter);
         records.push_back(makeTemplateRecord(name, "key", "1", RecordOrigin::user));
-        platform_.files.folders.insert(templates + "/" + name + ".key");
-        platform_.files.links[templates + "/" + name + ".key/link"] = "/elsewhere";
+        platform_.files.folders.insert(templateFolder + "/" + name + ".key");
+        platform_.files.links[templateFolder + "/" + name + ".key/link"] = "/elsewhere";
     }
     storeList(RuleCategory::createNewFile, records);
     launch();

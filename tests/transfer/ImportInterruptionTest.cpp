@@ -6,7 +6,6 @@
 namespace tarnwick::testing {
 namespace {
 
-const std::string folder = "/container/Templates/CreateNewFile";
 const std::string templatesKey = "arrOfCreateNewFile";
 
 /// What a killed program leaves.
@@ -73,7 +72,7 @@ TEST_P(ImportInterruptionTest, TheNextStartFinishesItOrLeavesTheOldStateWhole) {
     machine.launch();
     machine.import(documentOf(templateRecord("Letter", "1"), "old"));
     const auto oldList = machine.platform.preferences.local.at(templatesKey);
-    const auto oldFiles = machine.platform.contents.readTree(folder);
+    const auto oldFiles = machine.platform.contents.readTree(templateFolder);
     const auto document = documentOf(import.record, import.content);
     const auto moments = interrupted(machine, keeping, document);
     ASSERT_GT(moments.size(), 30U);
@@ -86,7 +85,7 @@ TEST_P(ImportInterruptionTest, TheNextStartFinishesItOrLeavesTheOldStateWhole) {
         next.platform.files.folders = moments[moment].folders;
         next.launch();
         const auto& list = next.platform.preferences.local.at(templatesKey);
-        const auto files = next.platform.contents.readTree(folder);
+        const auto files = next.platform.contents.readTree(templateFolder);
         const auto isNew = list == document.at(templatesKey) && files == document.at("templateFiles");
         finished += isNew ? 1 : 0;
         EXPECT_TRUE(isNew || (list == oldList && files == oldFiles)) << moment;

@@ -10,18 +10,16 @@
 namespace tarnwick::testing {
 namespace {
 
-const std::string templates = "/container/Templates/CreateNewFile";
-
 void store(InMemoryPlatform& platform, RuleCategory category, std::vector<RuleRecord> records) {
     platform.preferences.local.insert_or_assign(
         std::string(factsOf(category).listKey), RuleList(category, std::move(records)).toPlist());
 }
 
 void addFile(InMemoryPlatform& platform, const std::string& name, const std::string& content) {
-    for (const auto* folder : {"/container/Templates", templates.c_str()}) {
+    for (const auto* folder : {"/container/Templates", templateFolder.c_str()}) {
         platform.files.folders.insert(folder);
     }
-    platform.files.files[templates + "/" + name] = content;
+    platform.files.files[templateFolder + "/" + name] = content;
 }
 
 PlistDictionary everyKind() {
@@ -95,7 +93,7 @@ void templateFiles(InMemoryPlatform& platform) {
     addFile(platform, "\u8868\u683c e\u0301.md", "#");
     addFile(platform, "stranger.txt", "nobody's");
     for (const auto* folder : {"/Deck.key", "/Deck.key/Data", "/Deck.key/empty", "/Deck.key/Data/deep"}) {
-        platform.files.folders.insert(templates + folder);
+        platform.files.folders.insert(templateFolder + folder);
     }
     addFile(platform, "Deck.key/Index.zip", "index");
     addFile(platform, "Deck.key/Data/deep/picture.png", "picture");

@@ -1,11 +1,10 @@
+#include "tests/support/Categories.h"
 #include "tests/support/SettingsFixture.h"
 #include "ui/CountText.h"
 #include "ui/WindowLayout.h"
 
 namespace tarnwick::testing {
 namespace {
-
-constexpr auto others = RuleCategory::others;
 
 RuleRecord rule(PlistValue enable, std::string_view action = "Cut") {
     return makeRecord({{"enable", std::move(enable)}, {"Action", std::string(action)}});

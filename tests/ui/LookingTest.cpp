@@ -1,11 +1,10 @@
+#include "tests/support/Categories.h"
 #include "tests/support/SettingsFixture.h"
 
 #include <algorithm>
 
 namespace tarnwick::testing {
 namespace {
-
-constexpr auto folders = RuleCategory::commonPath;
 
 /// When the files and folders behind rules are looked at, and when they are left alone.
 class LookingTest : public SettingsFixture {

@@ -1,3 +1,4 @@
+#include "tests/support/Categories.h"
 #include "tests/support/SettingsFixture.h"
 
 namespace tarnwick::testing {
@@ -63,12 +64,6 @@ TEST_P(CellLayoutTest, HasItsFrameAndCarriesItsRow) {
     EXPECT_EQ(view.bare, GetParam().bare);
 }
 
-constexpr auto templates = RuleCategory::createNewFile;
-constexpr auto targets = RuleCategory::copyFilesTo;
-constexpr auto paths = RuleCategory::commonPath;
-constexpr auto icons = RuleCategory::customIcon;
-constexpr auto others = RuleCategory::others;
-
 INSTANTIATE_TEST_SUITE_P(Every, CellLayoutTest,
     ::testing::Values(LayoutCase{templates, "Extension", Frame{0, 0, 300, 23}, true, false},
         LayoutCase{templates, "NewFileDisplayName", Frame{0, 0, 500, 23}, true, false},
@@ -79,9 +74,9 @@ INSTANTIATE_TEST_SUITE_P(Every, CellLayoutTest,
         LayoutCase{targets, "realPath", Frame{0, 0, 500, 23}, false, false},
         LayoutCase{targets, "Enable", std::nullopt, true, true},
         LayoutCase{targets, "SendFileIcon", Frame{5, 1, 28, 28}, false, false},
-        LayoutCase{paths, "commonPathDisplayName", Frame{0, 0, 300, 23}, true, false},
-        LayoutCase{paths, "realPath", Frame{0, 0, 500, 23}, false, false},
-        LayoutCase{paths, "commonPathIcon", Frame{5, 1, 28, 28}, false, false},
+        LayoutCase{folders, "commonPathDisplayName", Frame{0, 0, 300, 23}, true, false},
+        LayoutCase{folders, "realPath", Frame{0, 0, 500, 23}, false, false},
+        LayoutCase{folders, "commonPathIcon", Frame{5, 1, 28, 28}, false, false},
         LayoutCase{icons, "CustomIconName", Frame{0, 0, 300, 23}, true, false},
         LayoutCase{icons, "Icon", Frame{8, 1, 28, 28}, false, false},
         LayoutCase{icons, "Enable", Frame{6, 5, 20, 20}, true, false},
@@ -112,7 +107,7 @@ TEST_P(NameFieldTest, IsEditableReportsToTheControllerAndIsIdentifiedByItsColumn
 
 INSTANTIATE_TEST_SUITE_P(Every, NameFieldTest,
     ::testing::Values(NameCase{templates, "NewFileDisplayName"}, NameCase{targets, "Note"},
-        NameCase{paths, "commonPathDisplayName"}, NameCase{icons, "CustomIconName"},
+        NameCase{folders, "commonPathDisplayName"}, NameCase{icons, "CustomIconName"},
         NameCase{others, "OthersDisplayName"}, NameCase{others, "OthersNote"}));
 
 TEST_F(RuleCellsTest, TheExtensionIsShownAsItIsWithoutDelegateOrIdentifier) {
@@ -167,13 +162,13 @@ TEST_F(RuleCellsTest, AFolderWithoutNameShowsTheLocalisedOrItsOwnName) {
     EXPECT_EQ(field(targets, "Note", 2).text, "Backup");
     EXPECT_EQ(field(targets, "Note", 3).text, "Named");
     EXPECT_EQ(field(targets, "Note", 4).text, "Desktop");
-    EXPECT_EQ(field(paths, "commonPathDisplayName", 0).text, "Music");
+    EXPECT_EQ(field(folders, "commonPathDisplayName", 0).text, "Music");
 }
 
 TEST_F(RuleCellsTest, EveryOccurrenceOfTheHomeInAPathIsShortened) {
     EXPECT_EQ(field(targets, "realPath", 0).text, "~/Downloads");
     EXPECT_EQ(field(targets, "realPath", 3).text, "/a~/b~");
-    EXPECT_EQ(field(paths, "realPath", 1).text, "~bel/x");
+    EXPECT_EQ(field(folders, "realPath", 1).text, "~bel/x");
     EXPECT_FALSE(field(targets, "realPath", 0).editable);
 }
 
@@ -186,7 +181,7 @@ TEST_F(RuleCellsTest, ATemplateShowsItsIconFileElseTheSystemsIconOfItsFile) {
 
 TEST_F(RuleCellsTest, FoldersShowTheSystemsIcon) {
     EXPECT_EQ(image(targets, "SendFileIcon", 2), "icon of /Volumes/Backup");
-    EXPECT_EQ(image(paths, "commonPathIcon", 0), "icon of /Users/anna/Music");
+    EXPECT_EQ(image(folders, "commonPathIcon", 0), "icon of /Users/anna/Music");
 }
 
 TEST_F(RuleCellsTest, RecordImagesAreMadeFromTheirData) {

@@ -1,9 +1,8 @@
+#include "tests/support/Categories.h"
 #include "tests/support/SettingsFixture.h"
 
 namespace tarnwick::testing {
 namespace {
-
-constexpr auto folders = RuleCategory::commonPath;
 
 class RuleHealthTest : public SettingsFixture {
 protected:

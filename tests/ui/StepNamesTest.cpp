@@ -99,9 +99,9 @@ TEST_F(StepNamesTest, AStepKeepsItsNameOnTheWayBackAndForth) {
 
 TEST_F(StepNamesTest, WhatIsHeldGoesWhenTheProcessEnds) {
     remove(RuleCategory::createNewFile, 3);
-    EXPECT_TRUE(platform_.files.exists("/tmp/org.halvane.Tarnwick.undo-100"));
+    EXPECT_TRUE(platform_.files.exists(heldFolder));
     controller_.removeHeldFiles();
-    EXPECT_FALSE(platform_.files.exists("/tmp/org.halvane.Tarnwick.undo-100"));
+    EXPECT_FALSE(platform_.files.exists(heldFolder));
 }
 
 } // namespace
