@@ -19,12 +19,12 @@ struct Remains {
 /// the next synchronisation on, as with files.
 enum class Keeping { atOnce, whenSynchronised };
 
-const char* nameOf(Keeping keeping) {
+const char* wordsOf(Keeping keeping) {
     return keeping == Keeping::atOnce ? "KeptAtOnce" : "KeptWhenSynchronised";
 }
 
 void PrintTo(Keeping keeping, std::ostream* stream) {
-    *stream << nameOf(keeping);
+    *stream << wordsOf(keeping);
 }
 
 /// A window that the tests look over the shoulder of.
@@ -228,7 +228,7 @@ INSTANTIATE_TEST_SUITE_P(Of, InterruptionTest,
             Work{"RedoingAReset", launchAndTakeBack<resetTemplates>, redo}),
         ::testing::Values(Keeping::atOnce, Keeping::whenSynchronised)),
     [](const auto& info) {
-        return std::string(std::get<Work>(info.param).name) + nameOf(std::get<Keeping>(info.param));
+        return std::string(std::get<Work>(info.param).name) + wordsOf(std::get<Keeping>(info.param));
     });
 
 } // namespace
