@@ -5,7 +5,7 @@
 namespace tarnwick::testing {
 namespace {
 
-PlistValue bytes(const std::string& text) {
+PlistValue bytesOf(const std::string& text) {
     return tiffOf(text);
 }
 
@@ -24,39 +24,39 @@ protected:
 };
 
 TEST_P(FileContentsContract, AFileIsReadAsItWasWritten) {
-    const auto content = bytes(std::string("a\0\xFF", 3) + std::string(200'000, 'x'));
+    const auto content = bytesOf(std::string("a\0\xFF", 3) + std::string(200'000, 'x'));
     EXPECT_TRUE(contents().writeTree(at("a"), content));
     EXPECT_EQ(contents().readTree(at("a")), content);
 }
 
 TEST_P(FileContentsContract, AFolderIsReadWithAllThatItHolds) {
     const PlistValue tree(PlistDictionary{
-        {"Contents", PlistDictionary{{"empty", PlistDictionary()}, {"e\u0301 \u8868", bytes("1")}}},
-        {"b", bytes("")}});
+        {"Contents", PlistDictionary{{"empty", PlistDictionary()}, {"e\u0301 \u8868", bytesOf("1")}}},
+        {"b", bytesOf("")}});
     EXPECT_TRUE(contents().writeTree(at("a.pages"), tree));
     EXPECT_EQ(contents().readTree(at("a.pages")), tree);
 }
 
 TEST_P(FileContentsContract, ATreeReplacesNothing) {
-    EXPECT_TRUE(contents().writeTree(at("a"), bytes("1")));
-    EXPECT_FALSE(contents().writeTree(at("a"), bytes("2")));
+    EXPECT_TRUE(contents().writeTree(at("a"), bytesOf("1")));
+    EXPECT_FALSE(contents().writeTree(at("a"), bytesOf("2")));
     EXPECT_FALSE(contents().writeTree(at("a"), PlistDictionary()));
-    EXPECT_EQ(contents().readTree(at("a")), bytes("1"));
+    EXPECT_EQ(contents().readTree(at("a")), bytesOf("1"));
 }
 
 TEST_P(FileContentsContract, OfAFolderThatCannotBeWrittenWholeNothingIsLeft) {
-    const PlistDictionary tree{{"a", bytes("1")}, {"b", PlistDictionary{{"c", PlistValue("no file")}}}};
+    const PlistDictionary tree{{"a", bytesOf("1")}, {"b", PlistDictionary{{"c", PlistValue("no file")}}}};
     EXPECT_FALSE(contents().writeTree(at("folder"), tree));
     EXPECT_EQ(names(), std::vector<std::string>());
 }
 
 TEST_P(FileContentsContract, WhatIsNotThereIsNoTree) {
     EXPECT_EQ(contents().readTree(at("a")), std::nullopt);
-    EXPECT_FALSE(contents().writeTree(at("a/b"), bytes("1")));
+    EXPECT_FALSE(contents().writeTree(at("a/b"), bytesOf("1")));
 }
 
 TEST_P(FileContentsContract, ALinkIsNotFollowedAndSpoilsItsFolder) {
-    EXPECT_TRUE(contents().writeTree(at("folder"), PlistDictionary{{"a", bytes("1")}}));
+    EXPECT_TRUE(contents().writeTree(at("folder"), PlistDictionary{{"a", bytesOf("1")}}));
     harness_.link("folder/link", at("folder/a"));
     EXPECT_EQ(contents().readTree(at("folder/link")), std::nullopt);
     EXPECT_EQ(contents().readTree(at("folder")), std::nullopt);

@@ -30,8 +30,7 @@ TEST(BigList, ARowFarDownIsRemovedAndTheRestStays) {
 TEST(BigList, ACommonFolderIsDraggedToAnotherPlace) {
     scrollToRow(RuleCategory::commonPath, 0);
     dragRowIntoGap(RuleCategory::commonPath, 3, 1);
-    EXPECT_EQ(shared("[r['displayName'] for r in d['arrOfCommonPath']][:4]"),
-        "['Folder 0', 'Folder 3', 'Folder 1', 'Folder 2']");
+    EXPECT_EQ(sharedNames("arrOfCommonPath", 4), "['Folder 0', 'Folder 3', 'Folder 1', 'Folder 2']");
     EXPECT_EQ(selectedRow(RuleCategory::commonPath), -1);
 }
 

@@ -3,6 +3,7 @@
 #include "tests/gui/Input.h"
 #include "tests/gui/Menus.h"
 #include "tests/gui/Shown.h"
+#include "tests/support/Categories.h"
 
 #include <gtest/gtest.h>
 
@@ -12,14 +13,10 @@
 namespace tarnwick::gui {
 namespace {
 
-constexpr auto templates = RuleCategory::createNewFile;
-constexpr auto actions = RuleCategory::others;
+using testing::others;
+using testing::templates;
 constexpr auto name = "NewFileDisplayName";
 constexpr auto actionName = "OthersDisplayName";
-
-std::string names(const std::string& key, int count) {
-    return shared("[r['displayName'] for r in d['" + key + "']][:" + std::to_string(count) + "]");
-}
 
 /// What the stand-ins for the desktop's programs were told.
 bool wasTold(const std::string& file, const std::string& text) {
@@ -62,14 +59,14 @@ TEST(Commands, TheMenuOfARowShowsItsKeys) {
 
 TEST(Commands, WhatIsChosenActsOnTheRow) {
     openMenuOfCell(templates, 1, name, "Turn Off");
-    EXPECT_EQ(names("arrOfCreateNewFile", 2), "['TXT', 'XML']");
+    EXPECT_EQ(sharedNames("arrOfCreateNewFile", 2), "['TXT', 'XML']");
     EXPECT_EQ(titlesOf(openMenuOfCell(templates, 1, name, "Turn On"))[1], "Turn On");
-    EXPECT_EQ(names("arrOfCreateNewFile", 2), "['TXT', 'RTF']");
+    EXPECT_EQ(sharedNames("arrOfCreateNewFile", 2), "['TXT', 'RTF']");
     openMenuOfCell(templates, 1, name, "Move Up");
-    EXPECT_EQ(names("arrOfCreateNewFile", 2), "['RTF', 'TXT']");
+    EXPECT_EQ(sharedNames("arrOfCreateNewFile", 2), "['RTF', 'TXT']");
     EXPECT_EQ(selectedRow(templates), 0);
     openMenuOfCell(templates, 0, name, "Move Down");
-    EXPECT_EQ(names("arrOfCreateNewFile", 2), "['TXT', 'RTF']");
+    EXPECT_EQ(sharedNames("arrOfCreateNewFile", 2), "['TXT', 'RTF']");
 }
 
 TEST(Commands, RenamingBeginsInTheRowsNameAndTakesSpaces) {
@@ -78,7 +75,7 @@ TEST(Commands, RenamingBeginsInTheRowsNameAndTakesSpaces) {
     pressCommand('a');
     type("My Letter");
     press(Key::returnKey);
-    EXPECT_EQ(names("arrOfCreateNewFile", 3), "['TXT', 'RTF', 'My Letter']");
+    EXPECT_EQ(sharedNames("arrOfCreateNewFile", 3), "['TXT', 'RTF', 'My Letter']");
     EXPECT_EQ(rowCount(templates), 15);
 }
 
@@ -89,7 +86,7 @@ TEST(Commands, AnEditInProgressEndsBeforeTheMenuOpens) {
     type("Letter");
     openMenuOfCell(templates, 3, name, "Remove");
     EXPECT_FALSE(isEditing());
-    EXPECT_EQ(names("arrOfCreateNewFile", 4), "['TXT', 'Letter', 'My Letter', 'Excel']");
+    EXPECT_EQ(sharedNames("arrOfCreateNewFile", 4), "['TXT', 'Letter', 'My Letter', 'Excel']");
 }
 
 TEST(Commands, EmptySpaceOffersWhatIsAboutTheList) {
@@ -100,20 +97,20 @@ TEST(Commands, EmptySpaceOffersWhatIsAboutTheList) {
 
 TEST(Commands, ADisabledItemSaysWhy) {
     clickPageButton(Page::others);
-    const auto items = openMenuOfCell(actions, 16, actionName);
+    const auto items = openMenuOfCell(others, 16, actionName);
     EXPECT_EQ(itemTitled(items, "Remove").toolTip, "This item cannot be removed.");
     EXPECT_FALSE(itemTitled(items, "Remove").isEnabled);
     EXPECT_FALSE(itemTitled(items, "Move Up").isEnabled);
     EXPECT_EQ(itemTitled(items, "Add\u2026").toolTip, "");
-    EXPECT_FALSE(removeButtonIsEnabled(actions));
-    EXPECT_EQ(itemTitled(openMenuOfCell(actions, 2, actionName), "Remove").toolTip, "");
-    EXPECT_TRUE(removeButtonIsEnabled(actions));
+    EXPECT_FALSE(removeButtonIsEnabled(others));
+    EXPECT_EQ(itemTitled(openMenuOfCell(others, 2, actionName), "Remove").toolTip, "");
+    EXPECT_TRUE(removeButtonIsEnabled(others));
 }
 
 TEST(Commands, TheMenuBarHasThemForTheListThatIsShown) {
     clickPageButton(Page::others);
-    openMenuOfCell(actions, 2, actionName);
-    const auto ofRow = openMenuOfCell(actions, 2, actionName);
+    openMenuOfCell(others, 2, actionName);
+    const auto ofRow = openMenuOfCell(others, 2, actionName);
     EXPECT_EQ(openMenuOfBar("Rule"), ofRow);
     clickPageButton(Page::moreApps);
     for (const auto& item : openMenuOfBar("Rule")) {
@@ -124,9 +121,9 @@ TEST(Commands, TheMenuBarHasThemForTheListThatIsShown) {
 
 TEST(Commands, NotesAndMainMenuSwitchesAreChangedByTheKeyboardAlone) {
     pressCommand('5');
-    const auto before = selectedRow(actions);
+    const auto before = selectedRow(others);
     press(Key::down);
-    const auto noted = selectedRow(actions);
+    const auto noted = selectedRow(others);
     ASSERT_EQ(noted, before + 1);
     pressCommand('e');
     ASSERT_TRUE(isEditing());

@@ -41,7 +41,7 @@ TEST(Dropping, AFolderIsAddedWhereverOnThePageItIsDropped) {
     EXPECT_TRUE(dropFiles({thing("Zoo")}, DropSpot::heading).wasHighlighted);
     EXPECT_TRUE(dropFiles({thing("Attic")}, DropSpot::switches).wasHighlighted);
     EXPECT_TRUE(dropFiles({thing("Zoo")}, DropSpot::table).wasHighlighted);
-    EXPECT_EQ(shared("[r['displayName'] for r in d['arrOfCommonPath']]"), "['Zoo', 'Attic', 'Zoo']");
+    EXPECT_EQ(sharedNames("arrOfCommonPath"), "['Zoo', 'Attic', 'Zoo']");
 }
 
 TEST(Dropping, AFileIsNoFolderAndAFolderIsNoFile) {
@@ -100,13 +100,13 @@ TEST(Dropping, ANameThatIsBeingEditedIsKept) {
     type("Den");
     dropFiles({thing("Zoo")}, DropSpot::heading);
     EXPECT_FALSE(isEditing());
-    EXPECT_EQ(shared("[r['displayName'] for r in d['arrOfCopyFilesTo']]"), "['Den', 'Attic', 'Zoo']");
+    EXPECT_EQ(sharedNames("arrOfCopyFilesTo"), "['Den', 'Attic', 'Zoo']");
 }
 
 TEST(Dropping, RowsAreStillDraggedWithinTheirTable) {
     clickPageButton(Page::copyFilesTo);
     dragRowIntoGap(RuleCategory::copyFilesTo, 2, 0);
-    EXPECT_EQ(shared("[r['displayName'] for r in d['arrOfCopyFilesTo']]"), "['Zoo', 'Den', 'Attic']");
+    EXPECT_EQ(sharedNames("arrOfCopyFilesTo"), "['Zoo', 'Den', 'Attic']");
 }
 
 } // namespace

@@ -2,13 +2,14 @@
 #include "tests/gui/Foreign.h"
 #include "tests/gui/Input.h"
 #include "tests/gui/Shown.h"
+#include "tests/support/Categories.h"
 
 #include <gtest/gtest.h>
 
 namespace tarnwick::gui {
 namespace {
 
-constexpr auto templates = RuleCategory::createNewFile;
+using testing::templates;
 const ControlFacts tableOfTemplates{"table", "New File"};
 const ControlFacts fieldOnTemplates{"field", "Find in New File"};
 

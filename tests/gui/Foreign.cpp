@@ -34,6 +34,11 @@ std::string found(const std::string& what, const std::string& where) {
     return outputOf(TARNWICK_STORES " " + quoted(what) + " " + quoted(where) + " 2>&1");
 }
 
+std::string namesIn(const std::string& list, std::optional<int> count) {
+    const auto slice = count ? "[:" + std::to_string(*count) + "]" : "";
+    return "[r['displayName'] for r in d['" + list + "']]" + slice;
+}
+
 } // namespace
 
 std::string sandboxFolder() {
@@ -47,6 +52,14 @@ std::string local(const std::string& expression) {
 
 std::string shared(const std::string& expression) {
     return found("H7Q2ZK5RX9.org.halvane.Tarnwick", expression);
+}
+
+std::string localNames(const std::string& list, std::optional<int> count) {
+    return local(namesIn(list, count));
+}
+
+std::string sharedNames(const std::string& list, std::optional<int> count) {
+    return shared(namesIn(list, count));
 }
 
 std::string containerFolder(const std::string& relativePath) {

@@ -4,6 +4,7 @@
 #include "tests/gui/Input.h"
 #include "tests/gui/Panels.h"
 #include "tests/gui/Shown.h"
+#include "tests/support/Categories.h"
 
 #include <gtest/gtest.h>
 
@@ -14,7 +15,7 @@
 namespace tarnwick::gui {
 namespace {
 
-constexpr auto folders = RuleCategory::commonPath;
+using testing::folders;
 constexpr auto name = "commonPathDisplayName";
 
 /// Adds a common folder that is there, and gives its path.

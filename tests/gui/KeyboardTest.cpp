@@ -12,10 +12,6 @@
 namespace tarnwick::gui {
 namespace {
 
-std::string names(const std::string& key, int count) {
-    return shared("[r['displayName'] for r in d['" + key + "']][:" + std::to_string(count) + "]");
-}
-
 std::string folder(const std::string& name) {
     const auto path = sandboxFolder() + "/" + name;
     mkdir(path.c_str(), 0700);
@@ -34,12 +30,12 @@ TEST(Keyboard, ARowIsSelectedRenamedMovedSwitchedOffAndRemoved) {
     type("Letter");
     press(Key::returnKey);
     EXPECT_FALSE(isEditing());
-    EXPECT_EQ(names("arrOfCreateNewFile", 3), "['TXT', 'Letter', 'XML']");
+    EXPECT_EQ(sharedNames("arrOfCreateNewFile", 3), "['TXT', 'Letter', 'XML']");
     EXPECT_EQ(selectedRow(RuleCategory::createNewFile), 1);
     pressOptionCommand(Key::up);
-    EXPECT_EQ(names("arrOfCreateNewFile", 3), "['Letter', 'TXT', 'XML']");
+    EXPECT_EQ(sharedNames("arrOfCreateNewFile", 3), "['Letter', 'TXT', 'XML']");
     press(Key::space);
-    EXPECT_EQ(names("arrOfCreateNewFile", 2), "['TXT', 'XML']");
+    EXPECT_EQ(sharedNames("arrOfCreateNewFile", 2), "['TXT', 'XML']");
     EXPECT_EQ(local("d['arrOfCreateNewFile'][0]['displayName']"), "'Letter'");
     press(Key::deleteKey);
     EXPECT_EQ(local("d['arrOfCreateNewFile'][0]['displayName']"), "'TXT'");
@@ -55,7 +51,7 @@ TEST(Keyboard, TheButtonsBelowTheListArePressed) {
     ASSERT_TRUE(tabTo("Reset List"));
     press(Key::space);
     EXPECT_EQ(rowCount(RuleCategory::createNewFile), 15);
-    EXPECT_EQ(names("arrOfCreateNewFile", 2), "['TXT', 'RTF']");
+    EXPECT_EQ(sharedNames("arrOfCreateNewFile", 2), "['TXT', 'RTF']");
 }
 
 TEST(Keyboard, ASwitchOfThePageIsTurned) {

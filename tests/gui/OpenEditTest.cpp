@@ -39,12 +39,12 @@ void startTyping(RuleCategory table, long row, const std::string& column, const 
 }
 
 std::string names(const std::string& list, int count) {
-    const auto expression = "[r['displayName'] for r in d['" + list + "']][:" + std::to_string(count) + "]";
-    const auto stored = local(expression);
-    return stored == shared(expression) ? stored : stored + " but published " + shared(expression);
+    const auto stored = localNames(list, count);
+    const auto published = sharedNames(list, count);
+    return stored == published ? stored : stored + " but published " + published;
 }
 
-std::string templates(int count) {
+std::string templateNames(int count) {
     return names("arrOfCreateNewFile", count);
 }
 
@@ -58,7 +58,7 @@ TEST_F(OpenEdit, RemoveTakesTheEditedRowAndTheNextOneKeepsItsNameAndFile) {
     startEditing(createNewFile, 2, "NewFileDisplayName");
     clickButton("Remove");
     EXPECT_FALSE(isEditing());
-    EXPECT_EQ(templates(4), "['TXT', 'RTF', 'Word', 'Excel']");
+    EXPECT_EQ(templateNames(4), "['TXT', 'RTF', 'Word', 'Excel']");
     EXPECT_EQ(local("d['arrOfCreateNewFile'][2]['modified']"), "'0'");
     EXPECT_TRUE(hasTemplate("Word.docx"));
     EXPECT_FALSE(hasTemplate("XML.xml"));
@@ -78,7 +78,7 @@ TEST_F(OpenEdit, ResetListMakesTheFactoryListWithoutTheTypedName) {
     startTyping(createNewFile, 2, "NewFileDisplayName", "Letter");
     clickButton("Reset List");
     EXPECT_FALSE(isEditing());
-    EXPECT_EQ(templates(4), "['TXT', 'RTF', 'XML', 'Word']");
+    EXPECT_EQ(templateNames(4), "['TXT', 'RTF', 'XML', 'Word']");
     EXPECT_EQ(local("d['arrOfCreateNewFile'][2]['modified']"), "'0'");
     EXPECT_TRUE(hasTemplate("XML.xml"));
     EXPECT_FALSE(hasTemplate("Letter.xml"));
@@ -88,7 +88,7 @@ TEST_F(OpenEdit, ResetListMakesTheFactoryListWithoutTheTypedName) {
 TEST_F(OpenEdit, MovingByKeyTakesTheTypedNameAlong) {
     startTyping(createNewFile, 2, "NewFileDisplayName", "Letter");
     pressOptionCommand(Key::down);
-    EXPECT_TRUE(waitUntil([] { return templates(5) == "['TXT', 'RTF', 'Word', 'Letter', 'Excel']"; }));
+    EXPECT_TRUE(waitUntil([] { return templateNames(5) == "['TXT', 'RTF', 'Word', 'Letter', 'Excel']"; }));
     EXPECT_TRUE(hasTemplate("Letter.xml"));
     EXPECT_TRUE(hasTemplate("Word.docx"));
     EXPECT_EQ(selectedRow(createNewFile), 3);
@@ -125,8 +125,7 @@ TEST_F(OpenEdit, ARowSwitchTurnsItsOwnRowAndKeepsTheTypedName) {
     EXPECT_EQ(local("d['arrOfCreateNewFile'][2]['displayName']"), "'Letter'");
     EXPECT_EQ(
         local("[r['enable'] for r in d['arrOfCreateNewFile']][:7]"), "['1', '1', '1', '1', '1', 0, '1']");
-    EXPECT_EQ(shared("[r['displayName'] for r in d['arrOfCreateNewFile']][:6]"),
-        "['TXT', 'RTF', 'Letter', 'Word', 'Excel', 'WPS_wps']");
+    EXPECT_EQ(sharedNames("arrOfCreateNewFile", 6), "['TXT', 'RTF', 'Letter', 'Word', 'Excel', 'WPS_wps']");
 }
 
 TEST_F(OpenEdit, EnableAllTurnsEveryRowAndKeepsTheTypedName) {
@@ -134,7 +133,7 @@ TEST_F(OpenEdit, EnableAllTurnsEveryRowAndKeepsTheTypedName) {
     // Some are off as they come: the click turns all on.
     clickButton("Enable all templates");
     EXPECT_EQ(shared("len(d['arrOfCreateNewFile'])"), "15");
-    EXPECT_EQ(templates(3), "['TXT', 'RTF', 'Letter']");
+    EXPECT_EQ(templateNames(3), "['TXT', 'RTF', 'Letter']");
     startTyping(createNewFile, 2, "NewFileDisplayName", "Memo");
     clickButton("Enable all templates");
     EXPECT_EQ(shared("d['arrOfCreateNewFile']"), "[]");
@@ -147,14 +146,14 @@ TEST_F(OpenEdit, AnotherPageIsShownAfterTheTypedNameIsStored) {
     clickPageButton(Page::customIcon);
     EXPECT_EQ(shownPage(), static_cast<int>(Page::customIcon));
     EXPECT_FALSE(isEditing());
-    EXPECT_EQ(templates(3), "['TXT', 'RTF', 'Letter']");
+    EXPECT_EQ(templateNames(3), "['TXT', 'RTF', 'Letter']");
 }
 
 TEST_F(OpenEdit, APageKeyDoesTheSame) {
     startTyping(createNewFile, 2, "NewFileDisplayName", "Letter");
     pressCommand('5');
     EXPECT_EQ(shownPage(), static_cast<int>(Page::others));
-    EXPECT_EQ(templates(3), "['TXT', 'RTF', 'Letter']");
+    EXPECT_EQ(templateNames(3), "['TXT', 'RTF', 'Letter']");
 }
 
 TEST_F(OpenEdit, DroppedFilesAreAddedAfterTheTypedName) {
@@ -162,7 +161,7 @@ TEST_F(OpenEdit, DroppedFilesAreAddedAfterTheTypedName) {
     const auto file = sandboxFolder() + "/Report.txt";
     std::ofstream(file) << "Dear";
     dropFiles({file}, DropSpot::table);
-    EXPECT_EQ(templates(3), "['TXT', 'RTF', 'Letter']");
+    EXPECT_EQ(templateNames(3), "['TXT', 'RTF', 'Letter']");
     EXPECT_EQ(local("d['arrOfCreateNewFile'][-1]['displayName']"), "'Report'");
     EXPECT_EQ(rowCount(createNewFile), 16);
 }
@@ -200,7 +199,7 @@ TEST_F(OpenEdit, AClickOnAnotherNameGoesOnEditingThere) {
     startTyping(createNewFile, 2, "NewFileDisplayName", "Letter");
     startTyping(createNewFile, 3, "NewFileDisplayName", "Memo");
     press(Key::returnKey);
-    EXPECT_EQ(templates(5), "['TXT', 'RTF', 'Letter', 'Memo', 'Excel']");
+    EXPECT_EQ(templateNames(5), "['TXT', 'RTF', 'Letter', 'Memo', 'Excel']");
     EXPECT_TRUE(hasTemplate("Memo.docx"));
 }
 

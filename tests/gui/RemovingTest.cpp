@@ -7,8 +7,6 @@
 namespace tarnwick::gui {
 namespace {
 
-const char* const sharedNames = "[r['displayName'] for r in d['arrOfCreateNewFile']]";
-
 TEST(Removing, TheButtonFollowsTheSelection) {
     EXPECT_FALSE(removeButtonIsEnabled(RuleCategory::createNewFile));
     clickCell(RuleCategory::createNewFile, 3, "NewFileDisplayName");
@@ -21,7 +19,8 @@ TEST(Removing, TheButtonRemovesTheRowAndItsFileAndSelectsTheRowAbove) {
     EXPECT_EQ(rowCount(RuleCategory::createNewFile), 14);
     EXPECT_EQ(selectedRow(RuleCategory::createNewFile), 2);
     EXPECT_EQ(local("'Word' in [r['displayName'] for r in d['arrOfCreateNewFile']]"), "False");
-    EXPECT_EQ(shared(sharedNames), "['TXT', 'RTF', 'XML', 'Excel', 'PPT', 'WPS_wps', 'WPS_et', 'WPS_dps']");
+    EXPECT_EQ(sharedNames("arrOfCreateNewFile"),
+        "['TXT', 'RTF', 'XML', 'Excel', 'PPT', 'WPS_wps', 'WPS_et', 'WPS_dps']");
     EXPECT_EQ(containerFolder("Templates/CreateNewFile").find("Word.docx"), std::string::npos);
     EXPECT_NE(containerFolder("Templates/CreateNewFile").find("Excel.xlsx"), std::string::npos);
 }

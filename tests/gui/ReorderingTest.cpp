@@ -7,13 +7,9 @@
 namespace tarnwick::gui {
 namespace {
 
-std::string names(const std::string& key, int count) {
-    return shared("[r['displayName'] for r in d['" + key + "']][:" + std::to_string(count) + "]");
-}
-
 TEST(Reordering, DraggingUpLandsInTheGap) {
     dragRowIntoGap(RuleCategory::createNewFile, 3, 1);
-    EXPECT_EQ(names("arrOfCreateNewFile", 4), "['TXT', 'Word', 'RTF', 'XML']");
+    EXPECT_EQ(sharedNames("arrOfCreateNewFile", 4), "['TXT', 'Word', 'RTF', 'XML']");
     EXPECT_EQ(cellText(RuleCategory::createNewFile, 1, "Extension"), "docx");
     EXPECT_EQ(selectedRow(RuleCategory::createNewFile), -1);
     EXPECT_FALSE(removeButtonIsEnabled(RuleCategory::createNewFile));
@@ -21,13 +17,13 @@ TEST(Reordering, DraggingUpLandsInTheGap) {
 
 TEST(Reordering, DraggingDownLandsOnePlaceFurther) {
     dragRowIntoGap(RuleCategory::createNewFile, 0, 2);
-    EXPECT_EQ(names("arrOfCreateNewFile", 4), "['Word', 'RTF', 'TXT', 'XML']");
+    EXPECT_EQ(sharedNames("arrOfCreateNewFile", 4), "['Word', 'RTF', 'TXT', 'XML']");
 }
 
 TEST(Reordering, ADropOnARowIsRefused) {
-    const auto before = names("arrOfCreateNewFile", 9);
+    const auto before = sharedNames("arrOfCreateNewFile", 9);
     dragRowOntoRow(RuleCategory::createNewFile, 0, 3);
-    EXPECT_EQ(names("arrOfCreateNewFile", 9), before);
+    EXPECT_EQ(sharedNames("arrOfCreateNewFile", 9), before);
     EXPECT_EQ(selectedRow(RuleCategory::createNewFile), 0);
 }
 
@@ -42,13 +38,13 @@ TEST(Reordering, ATargetDroppedBelowTheLastRowMovesToTheEnd) {
 TEST(Reordering, ACustomIconMoves) {
     clickPageButton(Page::customIcon);
     dragRowIntoGap(RuleCategory::customIcon, 4, 0);
-    EXPECT_EQ(names("arrOfCustomIcon", 3), "['Cloud', 'App', 'Apple']");
+    EXPECT_EQ(sharedNames("arrOfCustomIcon", 3), "['Cloud', 'App', 'Apple']");
 }
 
 TEST(Reordering, AnOthersItemMovesAndAFixedOneDoesNot) {
     clickPageButton(Page::others);
     dragRowIntoGap(RuleCategory::others, 2, 0);
-    EXPECT_EQ(names("arrOfOthers", 2), "['Copy Path', 'Cut']");
+    EXPECT_EQ(sharedNames("arrOfOthers", 2), "['Copy Path', 'Cut']");
     scrollToRow(RuleCategory::others, 17);
     dragRowIntoGap(RuleCategory::others, 16, 13);
     EXPECT_EQ(shared("d['arrOfOthers'][16]['Action']"), "'Translate by Google'");
@@ -59,15 +55,15 @@ TEST(Reordering, OptionCommandAndAnArrowMoveTheSelectedRowWhichStaysSelected) {
     clickButton("Reset List");
     clickCell(RuleCategory::createNewFile, 1, "Extension");
     pressOptionCommand(Key::down);
-    EXPECT_EQ(names("arrOfCreateNewFile", 4), "['TXT', 'XML', 'RTF', 'Word']");
+    EXPECT_EQ(sharedNames("arrOfCreateNewFile", 4), "['TXT', 'XML', 'RTF', 'Word']");
     EXPECT_EQ(selectedRow(RuleCategory::createNewFile), 2);
     EXPECT_TRUE(removeButtonIsEnabled(RuleCategory::createNewFile));
     pressOptionCommand(Key::up);
     pressOptionCommand(Key::up);
-    EXPECT_EQ(names("arrOfCreateNewFile", 4), "['RTF', 'TXT', 'XML', 'Word']");
+    EXPECT_EQ(sharedNames("arrOfCreateNewFile", 4), "['RTF', 'TXT', 'XML', 'Word']");
     EXPECT_EQ(selectedRow(RuleCategory::createNewFile), 0);
     pressOptionCommand(Key::up);
-    EXPECT_EQ(names("arrOfCreateNewFile", 4), "['RTF', 'TXT', 'XML', 'Word']");
+    EXPECT_EQ(sharedNames("arrOfCreateNewFile", 4), "['RTF', 'TXT', 'XML', 'Word']");
     EXPECT_EQ(selectedRow(RuleCategory::createNewFile), 0);
 }
 

@@ -15,7 +15,7 @@ TEST(Switches, ARowsCheckBoxStoresAnIntegerAndTheSuiteFollowsAtOnce) {
     EXPECT_FALSE(cellIsOn(RuleCategory::createNewFile, 2, "Enable"));
     EXPECT_EQ(local("d['arrOfCreateNewFile'][2]['enable']"), "0");
     EXPECT_EQ(local("d['arrOfCreateNewFile'][0]['enable']"), "'1'");
-    EXPECT_EQ(shared("[r['displayName'] for r in d['arrOfCreateNewFile']][:3]"), "['TXT', 'RTF', 'Word']");
+    EXPECT_EQ(sharedNames("arrOfCreateNewFile", 3), "['TXT', 'RTF', 'Word']");
     EXPECT_EQ(selectedRow(RuleCategory::createNewFile), -1);
 }
 

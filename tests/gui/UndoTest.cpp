@@ -1,14 +1,18 @@
 #include "tests/gui/Foreign.h"
 #include "tests/gui/Input.h"
 #include "tests/gui/Shown.h"
+#include "tests/support/Categories.h"
 
 #include <gtest/gtest.h>
 
 namespace tarnwick::gui {
 namespace {
 
-constexpr auto templates = RuleCategory::createNewFile;
-const char* const names = "[r['displayName'] for r in d['arrOfCreateNewFile']][:4]";
+using testing::templates;
+
+std::string storedNames() {
+    return localNames("arrOfCreateNewFile", 4);
+}
 
 bool hasFile(const std::string& name) {
     return containerFolder("Templates/CreateNewFile").find(name) != std::string::npos;
@@ -44,14 +48,14 @@ TEST(Undo, KeysBringARemovedRuleBackWithItsFileAndRemoveItAgain) {
     EXPECT_EQ(selectedRow(templates), 3);
     EXPECT_TRUE(removeButtonIsEnabled(templates));
     EXPECT_TRUE(hasFile("Word.docx"));
-    EXPECT_EQ(shared(names), "['TXT', 'RTF', 'XML', 'Word']");
+    EXPECT_EQ(sharedNames("arrOfCreateNewFile", 4), "['TXT', 'RTF', 'XML', 'Word']");
     EXPECT_EQ(undoItem(), (StepItem{"Undo", false}));
     EXPECT_EQ(redoItem(), (StepItem{"Redo Remove \u201CWord\u201D", true}));
     redo();
-    EXPECT_EQ(local(names), "['TXT', 'RTF', 'XML', 'Excel']");
+    EXPECT_EQ(storedNames(), "['TXT', 'RTF', 'XML', 'Excel']");
     EXPECT_FALSE(hasFile("Word.docx"));
     undo();
-    EXPECT_EQ(local(names), "['TXT', 'RTF', 'XML', 'Word']");
+    EXPECT_EQ(storedNames(), "['TXT', 'RTF', 'XML', 'Word']");
 }
 
 TEST(Undo, WhileANameIsEditedItMeansTheTypingAlone) {
@@ -67,7 +71,7 @@ TEST(Undo, WhileANameIsEditedItMeansTheTypingAlone) {
     EXPECT_EQ(local("d['arrOfCreateNewFile'][4]['enable']"), "0");
     press(Key::escape);
     EXPECT_FALSE(isEditing());
-    EXPECT_EQ(local(names), "['TXT', 'RTF', 'XML', 'Word']");
+    EXPECT_EQ(storedNames(), "['TXT', 'RTF', 'XML', 'Word']");
     EXPECT_EQ(undoItem(), (StepItem{"Undo Turn Off \u201CExcel\u201D", true}));
     undo();
     EXPECT_EQ(local("d['arrOfCreateNewFile'][4]['enable']"), "'1'");
@@ -76,13 +80,13 @@ TEST(Undo, WhileANameIsEditedItMeansTheTypingAlone) {
 TEST(Undo, ANameThatAnActionEndsIsAStepOfItsOwn) {
     typeName(0, "Memo");
     clickCheckBox(templates, 1, "Enable");
-    EXPECT_EQ(local(names), "['Memo', 'RTF', 'XML', 'Word']");
+    EXPECT_EQ(storedNames(), "['Memo', 'RTF', 'XML', 'Word']");
     EXPECT_EQ(undoItem(), (StepItem{"Undo Turn Off \u201CRTF\u201D", true}));
     undo();
     EXPECT_EQ(undoItem(), (StepItem{"Undo Rename \u201CTXT\u201D", true}));
-    EXPECT_EQ(local(names), "['Memo', 'RTF', 'XML', 'Word']");
+    EXPECT_EQ(storedNames(), "['Memo', 'RTF', 'XML', 'Word']");
     undo();
-    EXPECT_EQ(local(names), "['TXT', 'RTF', 'XML', 'Word']");
+    EXPECT_EQ(storedNames(), "['TXT', 'RTF', 'XML', 'Word']");
     EXPECT_TRUE(hasFile("TXT.txt"));
     EXPECT_EQ(local("d['arrOfCreateNewFile'][0]['modified']"), "'0'");
 }
