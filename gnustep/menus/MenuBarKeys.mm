@@ -27,7 +27,7 @@ BOOL TNIsMenuBarKey(NSEvent *event) {
 }
 
 BOOL TNOpenMenuBarByKey(NSEvent *event) {
-    if (!TNIsMenuBarKey(event) || [NSApp modalWindow]) {
+    if (!TNIsMenuBarKey(event)) {
         return NO;
     }
     NSWindow *window = [event window];

@@ -17,6 +17,8 @@ struct MenuItemFacts {
     std::string toolTip;
     bool isEnabled = false;
     bool isMarked = false;
+    /// In front of its title.
+    bool showsPicture = false;
 
     bool operator==(const MenuItemFacts&) const = default;
 };
@@ -29,6 +31,8 @@ std::vector<MenuItemFacts> openMenuOfCell(RuleCategory table, long row, const st
 std::vector<MenuItemFacts> openMenuOfEmptySpace(RuleCategory table);
 /// The same by the Menu key, for the selected row.
 std::vector<MenuItemFacts> openMenuByKey(RuleCategory table, const std::string& chosen = "");
+/// The same for the preview of the extension's menu.
+std::vector<MenuItemFacts> openPreview();
 /// The same for a menu of the menu bar, which a click on its title opens.
 std::vector<MenuItemFacts> openMenuOfBar(const std::string& title, const std::string& chosen = "");
 

@@ -3,9 +3,12 @@
 #include "tests/gui/SettingsWindow.h"
 
 #import "adapters/foundation/StringConversion.h"
+#import "front/SettingsViewController+Actions.h"
 #import "gnustep/menus/KeyLabels.h"
+#import "gnustep/menus/TNMenuView.h"
 #import "gnustep/menus/TNMenuWindow.h"
 #import "tests/driving/Driving.h"
+#import "tests/gui/Pixels.h"
 
 #include <algorithm>
 
@@ -31,6 +34,17 @@ TNMenuWindow *openMenu() {
     return nil;
 }
 
+/// Whether anything is drawn in front of the title.
+bool showsPicture(TNMenuWindow *window, NSInteger row) {
+    auto *view = static_cast<TNMenuView *>(gui::firstView(
+        [window contentView], [](NSView *each) { return [each isKindOfClass:[TNMenuView class]]; }));
+    constexpr CGFloat size = TNMenuRows::imageSize;
+    const NSRect place = [view placeOfRow:row];
+    const NSRect picture = NSMakeRect(view->rows->imageLeft(), NSMidY(place) - size / 2, size, size);
+    return view->rows->titleLeft() > NSMaxX(picture) &&
+           gui::Pixels([view window]).coloursIn([view convertRect:picture toView:nil]).size() > 1;
+}
+
 void postKey(unichar key) {
     driving::postKey(gui::settingsWindow(), [NSString stringWithCharacters:&key length:1]);
 }
@@ -43,13 +57,15 @@ void postKey(unichar key) {
     constexpr unichar escape = 0x1B;
     NSInteger downs = 0;
     bool isThere = false;
+    NSInteger row = -1;
     for (NSMenuItem *item in [[openMenu() shownMenu] itemArray]) {
+        ++row;
         if ([item isSeparatorItem]) {
             continue;
         }
         found.push_back({toString([item title]), toString(TNKeyLabel(item)),
             [item toolTip] ? toString([item toolTip]) : "", [item isEnabled] == YES,
-            [item state] == NSControlStateValueOn});
+            [item state] == NSControlStateValueOn, showsPicture(openMenu(), row)});
         downs += !isThere && [item isEnabled] ? 1 : 0;
         isThere = isThere || found.back().title == chosen;
     }
@@ -108,6 +124,11 @@ std::vector<MenuItemFacts> openMenuByKey(RuleCategory table, const std::string &
     [settingsWindow() makeFirstResponder:tableOf(table)];
     postKey(NSMenuFunctionKey);
     return visit(chosen);
+}
+
+std::vector<MenuItemFacts> openPreview() {
+    driving::postClicks(settingsWindow(), driving::middleOf([settingsController() previewButton]));
+    return visit("");
 }
 
 std::vector<MenuItemFacts> openMenuOfBar(const std::string &title, const std::string &chosen) {

@@ -1,6 +1,7 @@
 #include "tests/gui/Preview.h"
 #include "tests/gui/Controls.h"
 #include "tests/gui/Input.h"
+#include "tests/gui/Menus.h"
 #include "tests/gui/Shown.h"
 
 #include <gtest/gtest.h>
@@ -24,6 +25,16 @@ TEST(Preview, ARuleOfASectionIsShownOnItsPage) {
     EXPECT_EQ(shownPage(), static_cast<int>(Page::createNewFile));
     EXPECT_EQ(selectedRow(RuleCategory::createNewFile), 1);
     EXPECT_TRUE(removeButtonIsEnabled(RuleCategory::createNewFile));
+}
+
+TEST(Preview, EverythingButTheRemarkAtTheFootShowsItsIcon) {
+    auto items = openPreview();
+    ASSERT_GT(items.size(), 10U);
+    EXPECT_FALSE(items.back().showsPicture);
+    items.pop_back();
+    for (const auto& item : items) {
+        EXPECT_TRUE(item.showsPicture) << item.title;
+    }
 }
 
 TEST(Preview, LeavingTheMenuChangesNothing) {
