@@ -14,5 +14,7 @@ namespace tarnwick::gui {
 [[nodiscard]] bool cellMovesWindow(RuleCategory table, long row, const std::string& column);
 /// Whether a drag across the cell's text would select it.
 [[nodiscard]] bool cellTextIsSelectable(RuleCategory table, long row, const std::string& column);
+/// The part of the cell's width that its text takes up as it is drawn, from 0 to 1.
+[[nodiscard]] double drawnShareOfText(RuleCategory table, long row, const std::string& column);
 
 } // namespace tarnwick::gui

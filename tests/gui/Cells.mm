@@ -1,5 +1,6 @@
 #include "tests/gui/Cells.h"
 
+#include "tests/gui/Pixels.h"
 #include "tests/gui/SettingsWindow.h"
 
 #import "adapters/foundation/StringConversion.h"
@@ -36,6 +37,20 @@ bool cellMovesWindow(RuleCategory table, long row, const std::string &column) {
 
 bool cellTextIsSelectable(RuleCategory table, long row, const std::string &column) {
     return [static_cast<NSTextField *>(controlIn(table, row, column)) isSelectable];
+}
+
+double drawnShareOfText(RuleCategory table, long row, const std::string &column) {
+    NSView *text = controlIn(table, row, column);
+    const NSRect place = [text convertRect:NSInsetRect([text visibleRect], 1, 3) toView:nil];
+    const Pixels pixels(settingsWindow());
+    const auto ground = pixels.groundOf(place);
+    CGFloat end = NSMinX(place);
+    for (CGFloat x = NSMinX(place); x < NSMaxX(place); ++x) {
+        if (pixels.contrastIn(NSMakeRect(x, NSMinY(place), 1, NSHeight(place)), ground) > 1) {
+            end = x;
+        }
+    }
+    return (end - NSMinX(place)) / NSWidth(place);
 }
 
 } // namespace tarnwick::gui

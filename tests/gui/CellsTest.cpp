@@ -1,4 +1,5 @@
 #include "tests/gui/Cells.h"
+#include "tests/gui/Driver.h"
 #include "tests/gui/Input.h"
 
 #include <gtest/gtest.h>
@@ -25,6 +26,20 @@ TEST(Cells, OnlyATextThatCanBeEditedCanBeSelected) {
     clickPageButton(Page::createNewFile);
     EXPECT_TRUE(cellTextIsSelectable(list, 0, "NewFileDisplayName"));
     EXPECT_FALSE(cellTextIsSelectable(list, 0, "Extension"));
+}
+
+TEST(Cells, ALongNameIsCutAtTheEndOfItsLineInsteadOfWrapping) {
+    clickPageButton(Page::customIcon);
+    constexpr auto icons = RuleCategory::customIcon;
+    constexpr auto name = "CustomIconName";
+    EXPECT_LT(drawnShareOfText(icons, 0, name), 0.5);
+    clickCell(icons, 0, name, 2);
+    pressCommand('a');
+    type("My " + std::string(80, 'm'));
+    press(Key::returnKey);
+    press(Key::tab);
+    settle();
+    EXPECT_GT(drawnShareOfText(icons, 0, name), 0.9);
 }
 
 } // namespace
