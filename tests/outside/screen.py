@@ -5,10 +5,11 @@ import subprocess
 import time
 
 from harness.waiting import wait_until, wait_until_steady
+from tests.outside.work import is_working
 
 # A hand is no faster, and programs tell a drag from a click by it.
 STEP_SECONDS = 0.04
-# Longer than a program takes to show what a key or a button does.
+# Longer than a program rests before it goes on with what a key or a button does.
 STILL_SECONDS = 0.15
 # A look at the whole screen takes a thousandth of a second.
 LOOK_SECONDS = 0.05
@@ -33,10 +34,11 @@ def option_command(key):
 
 
 class Screen:
-    """`environment` names the display, whose memory is seen through `frames`."""
+    """`environment` names the display, whose memory is seen through `frames`. `programs` are the processes that what
+    is done here gives work to, from the server on."""
 
-    def __init__(self, environment, frames):
-        self.environment, self.frames = environment, frames
+    def __init__(self, environment, frames, server):
+        self.environment, self.frames, self.programs = environment, frames, [server]
 
     def run(self, *command, **more):
         """Of a window that has gone, some programs wait for the next."""
@@ -71,8 +73,13 @@ class Screen:
         self.run("import", "-window", window, "-depth", "8", path)
 
     def settle(self, still=STILL_SECONDS):
-        """Until nothing on the screen changes, its pointer included."""
-        wait_until_steady(self.frames.take, "a quiet screen", still, pause=LOOK_SECONDS)
+        """Until nothing on the screen changes, its pointer included, and nobody is about to change it: on a busy
+        machine a program has an event long before it comes to it."""
+        wait_until_steady(self._quiet_frame, "a quiet screen", still, pause=LOOK_SECONDS)
+
+    def _quiet_frame(self):
+        """Like no other while a program works."""
+        return object() if any(map(is_working, self.programs)) else self.frames.take()
 
     # The pointer
 

@@ -22,7 +22,8 @@ class Session:
         with contextlib.ExitStack() as stack:
             self.user = stack.enter_context(UserFolder())
             display = stack.enter_context(Display(self.user.name))
-            self.screen = Screen(self.user.environment(DISPLAY=display.name, **environment), Frames(self.user.name))
+            self.screen = Screen(self.user.environment(DISPLAY=display.name, **environment), Frames(self.user.name),
+                                 display.server)
             self.stack = stack
             if has_window_manager:
                 self.start_window_manager()
@@ -63,8 +64,10 @@ class Session:
 
     def run(self, *command, **environment):
         with open(self.log(command[0]), "ab") as output:
-            return subprocess.Popen(command, env={**self.screen.environment, **environment}, stdout=output,
-                                    stderr=output)
+            process = subprocess.Popen(command, env={**self.screen.environment, **environment}, stdout=output,
+                                       stderr=output)
+        self.screen.programs.append(process.pid)
+        return process
 
     @staticmethod
     def end(process):
