@@ -1,6 +1,5 @@
-// Wrong: the scrollers as of GNUstep GUI 0.29. The knob beside a long list becomes so short that it can
-// hardly be taken hold of, and what it moves in has the colour of a text's ground also where it does not
-// stand beside one.
+// Wrong: the scrollers, as of GNUstep GUI 0.29, whose knob can hardly be taken hold of beside a long list, and
+// whose ground is that of a text wherever they stand.
 
 #import "gnustep/runtime/MethodReplacement.h"
 
