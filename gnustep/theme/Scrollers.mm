@@ -1,5 +1,5 @@
-// Wrong: the scrollers, as of GNUstep GUI 0.29, whose knob can hardly be taken hold of beside a long list, and
-// whose ground is that of a text wherever they stand.
+// Wrong: the scrollers, as of GNUstep GUI 0.29, whose knob can hardly be taken hold of beside a long list,
+// and whose ground is that of a text wherever they stand.
 
 #import "gnustep/runtime/MethodReplacement.h"
 
