@@ -30,7 +30,8 @@ struct HandlerCallEvent {
 class UserScriptTask {
 public:
     virtual ~UserScriptTask() = default;
-    /// Runs a handler and returns at once; result and errors are dropped.
+    /// Runs a handler and returns at once; result and errors are dropped. The handler finds every setting of
+    /// this program on disk that was set before.
     virtual void execute(const HandlerCallEvent& event) = 0;
 };
 

@@ -1,6 +1,7 @@
 #import "adapters/foundation/StringConversion.h"
 #import "adapters/foundation/UserScriptObjects.h"
 #import "gnustep/defaults/DefaultsFiles.h"
+#import "gnustep/defaults/DefaultsSchedule.h"
 
 #include "adapters/foundation/SystemAdapters.h"
 
@@ -34,6 +35,9 @@ public:
     void execute(const HandlerCallEvent &event) override {
         NSTask *task = object();
         [task setArguments:[[task arguments] arrayByAddingObject:toNSString(event.parameterText)]];
+        // On macOS every setting has left the process by now. Here a write still to come would bring back
+        // what the script removes.
+        TNWriteAllDefaults();
         [task launch];
     }
 

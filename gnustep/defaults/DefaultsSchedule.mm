@@ -5,6 +5,8 @@
 
 #import "gnustep/defaults/DefaultsSchedule.h"
 
+#import "gnustep/defaults/SuiteDefaults.h"
+
 #import <AppKit/AppKit.h>
 
 #include <malloc.h>
@@ -56,4 +58,9 @@ void TNWriteDefaultsPromptly() {
                                              selector:@selector(write:)
                                                  name:NSApplicationDidBecomeActiveNotification
                                                object:nil];
+}
+
+void TNWriteAllDefaults() {
+    [[NSUserDefaults standardUserDefaults] synchronize];
+    TNWriteAllSuites();
 }

@@ -6,7 +6,6 @@
 #import "TNApplication.h"
 #import "gnustep/defaults/DefaultsFiles.h"
 #import "gnustep/defaults/DefaultsSchedule.h"
-#import "gnustep/defaults/SuiteDefaults.h"
 #import "gnustep/events/EventPump.h"
 #import "gnustep/events/Exceptions.h"
 #import "gnustep/events/ForeignDrags.h"
@@ -59,8 +58,7 @@ void registerInitialDefaults(NSArray *languages, NSString *han) {
 /// What is still only in memory when the program ends goes to its files.
 void writeDefaultsAtExit() {
     @autoreleasepool {
-        [[NSUserDefaults standardUserDefaults] synchronize];
-        TNWriteAllSuites();
+        TNWriteAllDefaults();
     }
 }
 

@@ -1,13 +1,19 @@
 #include "Pool.h"
 
 #include "adapters/foundation/Adapters.h"
+#include "adapters/foundation/SystemAdapters.h"
+#include "integration/ScriptHelper.h"
 #include "platform/Images.h"
+#include "platform/PreferenceStore.h"
 #include "platform/Process.h"
+#include "platform/UserScript.h"
+#include "tests/adapters/Waiting.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <fstream>
+#include <sstream>
 
 namespace tarnwick::testing {
 namespace {
@@ -19,6 +25,11 @@ protected:
         const auto path = std::string(std::getenv("TARNWICK_USER_FOLDER")) + "/" + name;
         std::ofstream(path) << content;
         return path;
+    }
+    static std::string contentsOf(const std::string& path) {
+        std::ostringstream contents;
+        contents << std::ifstream(path).rdbuf();
+        return contents.str();
     }
     static std::string text(const PlistData& data) {
         return {reinterpret_cast<const char*>(data.bytes()), data.size()};
@@ -35,6 +46,17 @@ TEST_F(SystemAdaptersTest, ATaskGivesWhatItsProgramWrote) {
 
 TEST_F(SystemAdaptersTest, ATaskWithALotToSayIsReadToItsEnd) {
     EXPECT_EQ(makeProcess()->output("/bin/sh", {"-c", "head -c 1000000 /dev/zero"}).size(), 1'000'000U);
+}
+
+TEST_F(SystemAdaptersTest, AUserScriptFindsEverySettingOnDiskThatWasSetBefore) {
+    const auto seen = file("seen", "");
+    const auto script = file("script.sh", "cat \"$TARNWICK_DEFAULTS_DIR\"/*.plist >'" + seen + "'\n");
+    const auto stores = makePreferenceStores();
+    stores->openStandardDomain()->setValue("setJustBefore", "a standard value");
+    stores->openSuite("H7Q2ZK5RX9.org.halvane.Tarnwick")->setValue("setJustBefore", "a shared value");
+    makeUserScripts()->makeTask(script).task->execute(restartFinderEventDescriptor("initialize"));
+    EXPECT_TRUE(runLoopUntil([&] { return contentsOf(seen).find("a standard value") != std::string::npos; }));
+    EXPECT_NE(contentsOf(seen).find("a shared value"), std::string::npos);
 }
 
 TEST_F(SystemAdaptersTest, DamagedPicturesOfAnyFormatGiveNone) {
