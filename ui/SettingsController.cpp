@@ -11,12 +11,11 @@
 #include "prefs/SharedPreferences.h"
 #include "ui/Colour.h"
 #include "ui/SettingsWindow.h"
+#include "ui/StartDelay.h"
 #include "ui/WindowLayout.h"
 
 namespace tarnwick {
 namespace {
-
-constexpr double startDelaySeconds = 0.01;
 
 /// The system's gray, half white, seen through at 0.4.
 constexpr Colour currentPageColour{0.5, 0.5, 0.5, 0.4};

@@ -7,15 +7,10 @@
 #include "platform/RunLoop.h"
 #include "platform/Workspace.h"
 #include "ui/SettingsWindow.h"
+#include "ui/StartDelay.h"
 #include "ui/WindowLayout.h"
 
 namespace tarnwick {
-namespace {
-
-/// As long as the start is put off, which comes first.
-constexpr double firstLookDelaySeconds = 0.01;
-
-} // namespace
 
 Warnings::Warnings(const Ports& ports, const RuleLists& lists, FinderExtension& extension, ListEditor& editor,
     SettingsWindow& window)
@@ -29,7 +24,8 @@ Warnings::Warnings(const Ports& ports, const RuleLists& lists, FinderExtension& 
 
 void Warnings::watch() {
     health_.watch();
-    runLoop_.performAfterDelay(firstLookDelaySeconds, [this] { lookAround(); });
+    // The start is put off as long and comes first.
+    runLoop_.performAfterDelay(startDelaySeconds, [this] { lookAround(); });
 }
 
 void Warnings::applicationActivated() {

@@ -19,7 +19,7 @@ using namespace tarnwick;
 
 using testing::templateFolder;
 
-constexpr const char* outsider = "/container/Templates/CreateNewFile/../keep";
+const std::string outsider = templateFolder + "/../keep";
 
 void damagePlatform(testing::InMemoryPlatform& platform, fuzz::FuzzInput& input) {
     platform.images.missingNames.clear();

@@ -1,5 +1,6 @@
 #include "tests/gui/Around.h"
 
+#include "tests/gui/Foreign.h"
 #include "tests/gui/SettingsWindow.h"
 
 #import "adapters/foundation/StringConversion.h"
@@ -12,7 +13,7 @@
 namespace tarnwick::gui {
 
 void setSystemState(const std::string &answers) {
-    const std::string path = std::string(std::getenv("TARNWICK_USER_FOLDER")) + "/system-state.plist";
+    const std::string path = sandboxFolder() + "/system-state.plist";
     std::ofstream(path) << "{" << answers << "}";
     setenv("TARNWICK_SYSTEM_STATE", path.c_str(), 1);
 }

@@ -1,5 +1,6 @@
 #include "tests/gui/Contrast.h"
 #include "tests/gui/Driver.h"
+#include "tests/gui/Foreign.h"
 #include "tests/gui/Input.h"
 #include "tests/gui/Panels.h"
 
@@ -8,7 +9,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 
 namespace tarnwick::gui {
@@ -19,6 +19,25 @@ long numberOf(const std::vector<Contrast>& all, const std::string& kind, const s
     return std::count_if(all.begin(), all.end(),
         [&](const Contrast& one) { return one.kind == kind && (what.empty() || one.what == what); });
 }
+
+/// The process's current folder, in which panels begin, for a scope: one with more in it than has room, so
+/// deep that not all columns have room either.
+class DeepFolder {
+public:
+    DeepFolder() {
+        const auto deep = std::filesystem::path(sandboxFolder()) / "a" / "deep" / "place";
+        for (int number = 0; number < 30; ++number) {
+            std::filesystem::create_directories(deep / std::to_string(number));
+        }
+        std::filesystem::current_path(deep);
+    }
+    ~DeepFolder() { std::filesystem::current_path(before_); }
+    DeepFolder(const DeepFolder&) = delete;
+    DeepFolder& operator=(const DeepFolder&) = delete;
+
+private:
+    std::filesystem::path before_ = std::filesystem::current_path();
+};
 
 TEST(Contrast, EverythingOnEveryPageStandsOutFromItsGround) {
     for (const auto page : allPages) {
@@ -95,13 +114,7 @@ TEST(Contrast, TheFindBarStandsOut) {
 }
 
 TEST(Contrast, AlertsAndPanelsStandOut) {
-    // The panels show a folder with more in it than has room, so deep that not all columns have room either.
-    const auto before = std::filesystem::current_path();
-    const auto deep = std::filesystem::path(std::getenv("TARNWICK_USER_FOLDER")) / "a" / "deep" / "place";
-    for (int number = 0; number < 30; ++number) {
-        std::filesystem::create_directories(deep / std::to_string(number));
-    }
-    std::filesystem::current_path(deep);
+    const DeepFolder folder;
     std::vector<Contrast> all;
     lookIntoNextAlert([&] { all = contrasts(); });
     sendAction("initialize");
@@ -121,7 +134,6 @@ TEST(Contrast, AlertsAndPanelsStandOut) {
         EXPECT_GT(numberOf(all, "border", "button"), 0) << action;
         EXPECT_GT(numberOf(all, "knob"), 0) << action;
     }
-    std::filesystem::current_path(before);
 }
 
 } // namespace

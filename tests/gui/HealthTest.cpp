@@ -1,6 +1,7 @@
 #include "tests/gui/Health.h"
 #include "tests/gui/Controls.h"
 #include "tests/gui/Driver.h"
+#include "tests/gui/Foreign.h"
 #include "tests/gui/Input.h"
 #include "tests/gui/Panels.h"
 #include "tests/gui/Shown.h"
@@ -8,7 +9,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 
@@ -20,7 +20,7 @@ constexpr auto name = "commonPathDisplayName";
 
 /// Adds a common folder that is there, and gives its path.
 std::string addFolder(const std::string& folderName) {
-    const auto path = std::filesystem::path(std::getenv("TARNWICK_USER_FOLDER")) / folderName;
+    const auto path = std::filesystem::path(sandboxFolder()) / folderName;
     std::filesystem::create_directories(path);
     chooseInNextPanel(path);
     const auto before = rowCount(folders);
