@@ -1,6 +1,6 @@
 // Missing: Return and Escape for a field that is being edited, context menus by the Control key, reports of
-// failing event handlers, the prompt end of a modal session, and what is drawn during one that was begun by a
-// deferred call, as of GNUstep GUI 0.29.
+// failing event handlers, and of a modal session the prompt end, a window that stays in front of the one that
+// waits for it, and what is drawn when a deferred call has begun it, as of GNUstep GUI 0.29.
 
 #import "TNApplication.h"
 
@@ -8,7 +8,32 @@
 #import "gnustep/events/Exceptions.h"
 #import "gnustep/menus/MenuBarKeys.h"
 
+#import <GNUstepGUI/GSDisplayServer.h>
+
 @implementation TNApplication
+
+/// What waits for a window: the one that is modal already, the main window, or that which will be.
+- (NSWindow *)windowBehind:(NSWindow *)window {
+    NSWindow *behind = [self modalWindow] ? [self modalWindow] : [self mainWindow];
+    for (NSWindow *other in [self windows]) {
+        if (!behind && other != window && [other isVisible] && [other canBecomeMainWindow]) {
+            behind = other;
+        }
+    }
+    return behind == window ? nil : behind;
+}
+
+/// A click on the window behind would bring that to the front, and the application would seem to hang. The
+/// window manager knows the modal window only once that has come up.
+- (NSModalSession)beginModalSessionForWindow:(NSWindow *)window {
+    NSWindow *behind = [self windowBehind:window];
+    const NSModalSession session = [super beginModalSessionForWindow:window];
+    if (behind) {
+        [GSServerForWindow(window) setParentWindow:static_cast<int>([behind windowNumber])
+                                    forChildWindow:static_cast<int>([window windowNumber])];
+    }
+    return session;
+}
 
 /// A session that is ended from a timer would wait for the next event to return.
 - (void)stopModalWithCode:(NSInteger)code {

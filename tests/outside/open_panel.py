@@ -53,6 +53,17 @@ def a_panel_can_be_read_and_looks_the_same_the_second_time(start):
         model.expect("no change by cancelled panels")
 
 
+def a_panel_stays_in_front_of_the_window_that_waits_for_it(start):
+    with start() as (desktop, model):
+        panel = ask(desktop)
+        before = desktop.screen.picture()
+        desktop.click("page_button")
+        desktop.screen.settle()
+        require(look_the_same(before, desktop.screen.picture()), "a click on the window changes what is seen")
+        panel.cancel()
+        model.expect("no change by a cancelled panel")
+
+
 def files_are_chosen_by_their_paths_and_by_any_names(start):
     with start() as (desktop, _):
         names = ("a:b", "C:x", "c\\d")
@@ -130,6 +141,7 @@ def ending_with_an_open_panel_keeps_the_lists(start):
 
 
 if __name__ == "__main__":
-    run_checks(a_panel_can_be_read_and_looks_the_same_the_second_time, files_are_chosen_by_their_paths_and_by_any_names,
+    run_checks(a_panel_can_be_read_and_looks_the_same_the_second_time,
+               a_panel_stays_in_front_of_the_window_that_waits_for_it, files_are_chosen_by_their_paths_and_by_any_names,
                a_type_is_one_in_capitals_too, buttons_behind_a_panel_do_nothing,
                opening_a_panel_ends_an_edit_into_its_row, ending_with_an_open_panel_keeps_the_lists)
