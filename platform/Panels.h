@@ -31,7 +31,8 @@ struct OpenPanelRequest {
     bool extensionsHidden = false;
     /// Extensions that may be chosen, without dot; empty: any.
     std::vector<std::string> allowedFileTypes;
-    /// Where the chooser starts, an absolute path; nothing: where the platform likes.
+    /// Where the chooser starts, an absolute path; nothing, or a folder that is not there: where the platform
+    /// likes.
     std::optional<std::string> startFolder;
     /// `startFolder` is the text of a URL instead of a path; an invalid URL gives no starting folder.
     bool startFolderIsURLText = false;
@@ -59,6 +60,8 @@ struct SavePanelRequest {
     std::string message;
     /// What the button says that confirms.
     std::string prompt;
+    /// Where the panel starts, an absolute path.
+    std::string startFolder;
 
     bool operator==(const SavePanelRequest&) const = default;
 };

@@ -6,9 +6,11 @@
 #include "platform/Panels.h"
 #include "platform/Ports.h"
 #include "platform/RunLoop.h"
+#include "prefs/HomeFolder.h"
 #include "prefs/Preferences.h"
 #include "transfer/UnderstandSettings.h"
 #include "ui/TransferTexts.h"
+#include "values/PathText.h"
 
 #include <optional>
 #include <utility>
@@ -43,7 +45,8 @@ SettingsTransfer::SettingsTransfer(const Ports& ports, Preferences& preferences,
     : exporting_(preferences.local, ports.files, ports.contents, ports.folders, ports.bundle, ports.runLoop),
       importing_(preferences.local, ports.contents, preferences.held, editor, tables, names),
       lists_(preferences.lists), panels_(ports.panels), contents_(ports.contents), images_(ports.images),
-      bundle_(ports.bundle), clock_(ports.runLoop), editor_(editor) {}
+      bundle_(ports.bundle), clock_(ports.runLoop), editor_(editor),
+      folder_(homeSubfolder(ports.folders, "Documents")) {}
 
 void SettingsTransfer::exportSettings() {
     exportSettings([] {});
@@ -55,9 +58,11 @@ void SettingsTransfer::exportSettings(std::function<void()> then) {
         .name = "Tarnwick Settings " + clock_.today() + "." + std::string(fileType),
         .fileType = std::string(fileType),
         .message = bundle_.localized("Choose where the file with all your settings goes."),
-        .prompt = bundle_.localized("Export")};
+        .prompt = bundle_.localized("Export"),
+        .startFolder = folder_};
     panels_.choosePlace(request, [this, then = std::move(then)](const std::optional<std::string>& path) {
         if (path) {
+            folder_ = withoutLastPathComponent(*path);
             exportTo(*path);
         }
         then();
@@ -89,10 +94,12 @@ void SettingsTransfer::exportTo(const std::string& path) {
 void SettingsTransfer::importSettings() {
     editor_.endEditing();
     panels_.choose({.allowedFileTypes = {std::string(fileType)},
+                       .startFolder = folder_,
                        .prompt = bundle_.localized("Import"),
                        .message = bundle_.localized("Choose a file of settings that Tarnwick has exported.")},
         [this](const OpenPanelAnswer& answer) {
             if (answer.confirmed && !answer.paths.empty()) {
+                folder_ = withoutLastPathComponent(answer.paths.front());
                 importFrom(answer.paths.front());
             }
         });

@@ -54,6 +54,8 @@ private:
     const ApplicationBundle& bundle_;
     const RunLoop& clock_;
     ListEditor& editor_;
+    /// Where the panels begin: with the file that was chosen last, at first among the user's documents.
+    std::string folder_;
 };
 
 } // namespace tarnwick

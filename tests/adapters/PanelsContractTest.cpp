@@ -84,7 +84,8 @@ TEST_P(PanelsContract, ACancelledChooserSaysSoWithoutPaths) {
 
 TEST_P(PanelsContract, APlaceIsAPathThatEndsInTheProposedName) {
     std::vector<std::optional<std::string>> places;
-    harness_.port().choosePlace({.name = "Settings \u8868.plist", .fileType = "plist"},
+    harness_.port().choosePlace(
+        {.name = "Settings \u8868.plist", .fileType = "plist", .startFolder = harness_.folder},
         [&places](const auto& place) { places.push_back(place); });
     EXPECT_TRUE(places.empty());
     harness_.save();
@@ -97,7 +98,8 @@ TEST_P(PanelsContract, APlaceIsAPathThatEndsInTheProposedName) {
 
 TEST_P(PanelsContract, ACancelledPlaceIsNone) {
     std::vector<std::optional<std::string>> places;
-    harness_.port().choosePlace({.name = "Settings.plist", .fileType = "plist"},
+    harness_.port().choosePlace(
+        {.name = "Settings.plist", .fileType = "plist", .startFolder = harness_.folder},
         [&places](const auto& place) { places.push_back(place); });
     harness_.cancel();
     EXPECT_TRUE(runLoopUntil([&places] { return !places.empty(); }));

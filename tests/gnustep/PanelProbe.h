@@ -40,4 +40,12 @@ struct HiddenExtension {
 };
 HiddenExtension chooseOnlyFile(const std::string& folder, bool hidesExtension);
 
+/// Where a panel begins that is to begin in a folder.
+std::string beginningOf(const std::string& folder);
+std::string homeFolder();
+
+/// Whether a long name above a column of a panel is cut in its middle; that of another cell is not.
+bool cutsColumnTitlesInTheMiddle();
+bool cutsOtherTextsInTheMiddle();
+
 } // namespace tarnwick::probe

@@ -161,4 +161,31 @@ HiddenExtension chooseOnlyFile(const std::string &folder, bool hidesExtension) {
     }
 }
 
+std::string beginningOf(const std::string &folder) {
+    @autoreleasepool {
+        startUp();
+        NSSavePanel *panel = [NSSavePanel savePanel];
+        [panel setDirectoryURL:[NSURL fileURLWithPath:text(folder) isDirectory:YES]];
+        return [[panel directory] UTF8String];
+    }
+}
+
+bool cutsColumnTitlesInTheMiddle() {
+    @autoreleasepool {
+        NSCell *title = [[[NSClassFromString(@"GSBrowserTitleCell") alloc] initTextCell:@""] autorelease];
+        return [title lineBreakMode] == NSLineBreakByTruncatingMiddle;
+    }
+}
+
+bool cutsOtherTextsInTheMiddle() {
+    @autoreleasepool {
+        NSCell *cell = [[[NSTextFieldCell alloc] initTextCell:@""] autorelease];
+        return [cell lineBreakMode] == NSLineBreakByTruncatingMiddle;
+    }
+}
+
+std::string homeFolder() {
+    return [NSHomeDirectory() UTF8String];
+}
+
 } // namespace tarnwick::probe

@@ -47,6 +47,17 @@ TEST(Panel, GivesTheBlockTheNameToSaveAsWithItsExtension) {
     EXPECT_EQ(result.path, folder + "/Backup \u00E9.plist");
 }
 
+TEST(Panel, BeginsInTheUsersHomeWhenTheFolderAskedForIsNotThere) {
+    EXPECT_EQ(beginningOf("/usr/share"), "/usr/share");
+    EXPECT_EQ(beginningOf("/nowhere/Desktop"), homeFolder());
+    EXPECT_EQ(beginningOf("/etc/passwd"), homeFolder());
+}
+
+TEST(Panel, CutsALongNameAboveAColumnInItsMiddle) {
+    EXPECT_TRUE(cutsColumnTitlesInTheMiddle());
+    EXPECT_FALSE(cutsOtherTextsInTheMiddle());
+}
+
 TEST(Panel, HidesExtensionsWhereItIsToldTo) {
     const auto folder = newFolder("chosen");
     writeContent(folder + "/Letter.document", "x");

@@ -20,24 +20,18 @@ long numberOf(const std::vector<Contrast>& all, const std::string& kind, const s
         [&](const Contrast& one) { return one.kind == kind && (what.empty() || one.what == what); });
 }
 
-/// The process's current folder, in which panels begin, for a scope: one with more in it than has room, so
-/// deep that not all columns have room either.
-class DeepFolder {
-public:
-    DeepFolder() {
-        const auto deep = std::filesystem::path(sandboxFolder()) / "a" / "deep" / "place";
-        for (int number = 0; number < 30; ++number) {
-            std::filesystem::create_directories(deep / std::to_string(number));
-        }
-        std::filesystem::current_path(deep);
+/// Exports the settings there, where the panels for them begin afterwards: in a folder with more in it than
+/// has room, so deep that not all columns have room either.
+void exportIntoDeepFolder() {
+    const auto deep = std::filesystem::path(sandboxFolder()) / "a" / "deep" / "place";
+    for (int number = 0; number < 30; ++number) {
+        std::filesystem::create_directories(deep / std::to_string(number));
     }
-    ~DeepFolder() { std::filesystem::current_path(before_); }
-    DeepFolder(const DeepFolder&) = delete;
-    DeepFolder& operator=(const DeepFolder&) = delete;
-
-private:
-    std::filesystem::path before_ = std::filesystem::current_path();
-};
+    const auto file = deep / "settings.plist";
+    saveInNextPanel(file);
+    sendAction("exportSettings:");
+    ASSERT_TRUE(waitUntil([&] { return std::filesystem::exists(file); }));
+}
 
 TEST(Contrast, EverythingOnEveryPageStandsOutFromItsGround) {
     for (const auto page : allPages) {
@@ -114,7 +108,7 @@ TEST(Contrast, TheFindBarStandsOut) {
 }
 
 TEST(Contrast, AlertsAndPanelsStandOut) {
-    const DeepFolder folder;
+    exportIntoDeepFolder();
     std::vector<Contrast> all;
     lookIntoNextAlert([&] { all = contrasts(); });
     sendAction("initialize");

@@ -34,8 +34,24 @@ TEST_F(ExportSettingsTest, TheFileIsNamedAfterTheDay) {
     launch();
     controller_.transfer().exportSettings();
     const SavePanelRequest request{"Tarnwick Settings 2023-03-08.plist", "plist",
-        "Choose where the file with all your settings goes.", "Export"};
+        "Choose where the file with all your settings goes.", "Export", "/Users/anna/Documents"};
     EXPECT_EQ(platform_.panels.saveRequests, std::vector{request});
+}
+
+TEST_F(ExportSettingsTest, ThePanelsBeginWhereTheLastFileOfSettingsWas) {
+    launch();
+    auto& panels = platform_.panels;
+    controller_.transfer().importSettings();
+    EXPECT_EQ(panels.requests.back().startFolder, "/Users/anna/Documents");
+    panels.confirm({"/Backups/old.plist"});
+    controller_.transfer().exportSettings();
+    EXPECT_EQ(panels.saveRequests.back().startFolder, "/Backups");
+    panels.cancel();
+    controller_.transfer().exportSettings();
+    EXPECT_EQ(panels.saveRequests.back().startFolder, "/Backups");
+    panels.confirm({"/Here/new.plist"});
+    controller_.transfer().importSettings();
+    EXPECT_EQ(panels.requests.back().startFolder, "/Here");
 }
 
 TEST_F(ExportSettingsTest, ItSaysWhatItIsWhatWroteItAndWhen) {
