@@ -172,6 +172,7 @@ std::string beginningOf(const std::string &folder) {
 
 bool cutsColumnTitlesInTheMiddle() {
     @autoreleasepool {
+        startUp();
         NSCell *title = [[[NSClassFromString(@"GSBrowserTitleCell") alloc] initTextCell:@""] autorelease];
         return [title lineBreakMode] == NSLineBreakByTruncatingMiddle;
     }
@@ -179,6 +180,7 @@ bool cutsColumnTitlesInTheMiddle() {
 
 bool cutsOtherTextsInTheMiddle() {
     @autoreleasepool {
+        startUp();
         NSCell *cell = [[[NSTextFieldCell alloc] initTextCell:@""] autorelease];
         return [cell lineBreakMode] == NSLineBreakByTruncatingMiddle;
     }
