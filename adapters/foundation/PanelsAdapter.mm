@@ -9,13 +9,9 @@
 namespace tarnwick {
 namespace {
 
-NSURL *folderURL(const std::string &path) {
-    return [NSURL fileURLWithPath:toNSString(path) isDirectory:YES];
-}
-
 NSURL *startURL(const OpenPanelRequest &request) {
-    return request.startFolderIsURLText ? [NSURL URLWithString:toNSString(*request.startFolder)]
-                                        : folderURL(*request.startFolder);
+    NSString *start = toNSString(*request.startFolder);
+    return request.startFolderIsURLText ? [NSURL URLWithString:start] : [NSURL fileURLWithPath:start];
 }
 
 NSArray *toTypes(const std::vector<std::string> &types) {
@@ -84,7 +80,7 @@ public:
         [panel setCanCreateDirectories:YES];
         [panel setMessage:toNSString(request.message)];
         [panel setPrompt:toNSString(request.prompt)];
-        [panel setDirectoryURL:folderURL(request.startFolder)];
+        [panel setDirectoryURL:[NSURL fileURLWithPath:toNSString(request.startFolder)]];
         [panel beginWithCompletionHandler:^(NSInteger result) {
             const bool isConfirmed = result == NSModalResponseOK;
             completion(isConfirmed ? std::optional(toString([[panel URL] path])) : std::nullopt);

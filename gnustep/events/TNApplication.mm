@@ -10,6 +10,13 @@
 
 #import <GNUstepGUI/GSDisplayServer.h>
 
+namespace {
+
+/// A window manager needs some time to bring a window back; until then it cannot have the keyboard.
+constexpr NSTimeInterval returnSeconds = 0.2;
+
+} // namespace
+
 @implementation TNApplication
 
 /// What waits for a window: the one that is modal already, the main window, or that which will be.
@@ -93,6 +100,27 @@
     return NO;
 }
 
+/// A window manager minimises a modal window and the one behind it together, and no click would bring them
+/// back: they stay. NO for any other event.
+- (BOOL)keepInSight:(NSEvent *)event {
+    NSWindow *modal = [self modalWindow];
+    if (!modal || [event type] != NSAppKitDefined || [event subtype] != GSAppKitWindowMiniaturize) {
+        return NO;
+    }
+    [[event window] orderFrontRegardless];
+    [modal orderFrontRegardless];
+    [self performSelector:@selector(focusModalWindow)
+               withObject:nil
+               afterDelay:returnSeconds
+                  inModes:[NSArray arrayWithObject:NSModalPanelRunLoopMode]];
+    return YES;
+}
+
+- (void)focusModalWindow {
+    NSWindow *modal = [self modalWindow];
+    [GSServerForWindow(modal) setinputfocus:static_cast<int>([modal windowNumber])];
+}
+
 /// A default button would take Return away from the field that is being edited, and Escape asks GNUstep to
 /// complete the text.
 - (void)sendEvent:(NSEvent *)event {
@@ -104,7 +132,7 @@
         [editor keyDown:event];
     } else if (key == escape) {
         [editor doCommandBySelector:@selector(cancelOperation:)];
-    } else if (!TNOpenMenuBarByKey(event) && ![self showMenuFor:event]) {
+    } else if (![self keepInSight:event] && !TNOpenMenuBarByKey(event) && ![self showMenuFor:event]) {
         [super sendEvent:event];
     }
 }

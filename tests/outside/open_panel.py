@@ -64,6 +64,27 @@ def a_panel_stays_in_front_of_the_window_that_waits_for_it(start):
         model.expect("no change by a cancelled panel")
 
 
+def a_panel_that_the_window_manager_closes_is_cancelled(start):
+    with start() as (desktop, model):
+        panel = ask(desktop)
+        desktop.screen.key("alt+F4")
+        wait_until(lambda: not panel.is_open(), "the end of the closed panel", process=desktop.application)
+        desktop.show(PAGES[2])
+        model.expect("no change by a closed panel")
+
+
+def a_panel_and_the_window_behind_it_stay_when_they_are_minimised(start):
+    with start() as (desktop, model):
+        for is_panel in (True, False):
+            panel = ask(desktop)
+            desktop.screen.xdotool("windowminimize", (panel.window if is_panel else desktop.window).number)
+            desktop.screen.settle()
+            wait_until(lambda: panel.is_open() and desktop.screen.windows(desktop.title) and panel.window.has_focus(),
+                       "both in sight, and the keyboard in the panel", process=desktop.application)
+            panel.cancel()
+        model.expect("no change by cancelled panels")
+
+
 def files_are_chosen_by_their_paths_and_by_any_names(start):
     with start() as (desktop, _):
         names = ("a:b", "C:x", "c\\d")
@@ -142,6 +163,9 @@ def ending_with_an_open_panel_keeps_the_lists(start):
 
 if __name__ == "__main__":
     run_checks(a_panel_can_be_read_and_looks_the_same_the_second_time,
-               a_panel_stays_in_front_of_the_window_that_waits_for_it, files_are_chosen_by_their_paths_and_by_any_names,
+               a_panel_stays_in_front_of_the_window_that_waits_for_it,
+               a_panel_that_the_window_manager_closes_is_cancelled,
+               a_panel_and_the_window_behind_it_stay_when_they_are_minimised,
+               files_are_chosen_by_their_paths_and_by_any_names,
                a_type_is_one_in_capitals_too, buttons_behind_a_panel_do_nothing,
                opening_a_panel_ends_an_edit_into_its_row, ending_with_an_open_panel_keeps_the_lists)
