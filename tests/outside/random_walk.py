@@ -133,12 +133,13 @@ class Walk:
             self.is_editing = False
 
     def step_over(self, key, step):
-        """The list concerned is shown. While a name is being edited, this would be of its typing alone."""
+        """The list concerned is shown, and the row. While a name is being edited, this would be of its typing alone."""
         self.end_edit()
         for _ in range(self.random.choice([1, 1, 2, 5])):
             self.desktop.screen.key(key)
             if changed := step():
                 self.desktop.page = PAGE_OF[changed]
+        self.scroll_to_top()
 
     def undo(self):
         self.step_over(command("z"), self.model.undo)
@@ -146,10 +147,14 @@ class Walk:
     def redo(self):
         self.step_over(shift_command("z"), self.model.redo)
 
+    def scroll_to_top(self):
+        self.desktop.window.move(self.desktop.places.cell(self.desktop.page, 0))
+        self.desktop.screen.wheel(-12)
+
     def turn_the_wheel(self):
         self.desktop.window.move(self.desktop.places.cell(self.desktop.page, 0))
         self.desktop.screen.wheel(6)
-        self.desktop.screen.wheel(-12)
+        self.scroll_to_top()
 
     def resize(self):
         self.desktop.window.resize(*self.random.choice(SIZES))
