@@ -2,6 +2,7 @@
 #include "adapters/foundation/Adapters.h"
 #include "platform/FileManager.h"
 #include "tests/adapters/Pool.h"
+#include "tests/adapters/Waiting.h"
 #include "tests/support/Printing.h"
 
 #include <gtest/gtest.h>
@@ -9,7 +10,6 @@
 #include <csignal>
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 #include <memory>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -45,10 +45,7 @@ protected:
     void put(const std::string& name, const std::string& content) const {
         std::ofstream(at(name)) << content;
     }
-    [[nodiscard]] std::string contentOf(const std::string& name) const {
-        std::ifstream stream(at(name));
-        return {std::istreambuf_iterator<char>(stream), {}};
-    }
+    [[nodiscard]] std::string contentOf(const std::string& name) const { return contentsOfFile(at(name)); }
     [[nodiscard]] ListFileContent readOf(const std::string& content) const {
         put("list", content);
         return contents->readList(at("list"));

@@ -13,7 +13,6 @@
 
 #include <cstdlib>
 #include <fstream>
-#include <sstream>
 
 namespace tarnwick::testing {
 namespace {
@@ -25,11 +24,6 @@ protected:
         const auto path = std::string(std::getenv("TARNWICK_USER_FOLDER")) + "/" + name;
         std::ofstream(path) << content;
         return path;
-    }
-    static std::string contentsOf(const std::string& path) {
-        std::ostringstream contents;
-        contents << std::ifstream(path).rdbuf();
-        return contents.str();
     }
     static std::string text(const PlistData& data) {
         return {reinterpret_cast<const char*>(data.bytes()), data.size()};
@@ -55,8 +49,9 @@ TEST_F(SystemAdaptersTest, AUserScriptFindsEverySettingOnDiskThatWasSetBefore) {
     stores->openStandardDomain()->setValue("setJustBefore", "a standard value");
     stores->openSuite("H7Q2ZK5RX9.org.halvane.Tarnwick")->setValue("setJustBefore", "a shared value");
     makeUserScripts()->makeTask(script).task->execute(restartFinderEventDescriptor("initialize"));
-    EXPECT_TRUE(runLoopUntil([&] { return contentsOf(seen).find("a standard value") != std::string::npos; }));
-    EXPECT_NE(contentsOf(seen).find("a shared value"), std::string::npos);
+    EXPECT_TRUE(
+        runLoopUntil([&] { return contentsOfFile(seen).find("a standard value") != std::string::npos; }));
+    EXPECT_NE(contentsOfFile(seen).find("a shared value"), std::string::npos);
 }
 
 TEST_F(SystemAdaptersTest, DamagedPicturesOfAnyFormatGiveNone) {

@@ -12,6 +12,8 @@ bool runLoopUntil(const std::function<bool()>& condition);
 [[nodiscard]] bool isMainThread();
 /// What the process writes to its standard error while `work` runs.
 [[nodiscard]] std::string standardErrorOf(const std::function<void()>& work);
+/// All bytes of a file; none when there is no such file.
+[[nodiscard]] std::string contentsOfFile(const std::string& path);
 /// The bytes of a picture of this size, all of one colour.
 [[nodiscard]] std::string pictureOfSize(int width, int height);
 

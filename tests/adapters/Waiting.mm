@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <fstream>
-#include <sstream>
+#include <iterator>
 #include <unistd.h>
 
 namespace tarnwick::testing {
@@ -39,9 +39,12 @@ std::string standardErrorOf(const std::function<void()> &work) {
     dup2(kept, STDERR_FILENO);
     close(kept);
     close(file);
-    std::ostringstream written;
-    written << std::ifstream(path).rdbuf();
-    return written.str();
+    return contentsOfFile(path);
+}
+
+std::string contentsOfFile(const std::string &path) {
+    std::ifstream stream(path);
+    return {std::istreambuf_iterator<char>(stream), {}};
 }
 
 std::string pictureOfSize(int width, int height) {

@@ -1,10 +1,10 @@
 #include "tests/adapters/WorkFolder.h"
 
 #include "adapters/foundation/Adapters.h"
+#include "tests/adapters/Waiting.h"
 
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 #include <unistd.h>
 
 namespace tarnwick::testing {
@@ -38,8 +38,7 @@ std::string WorkFolder::read(const std::string& name) {
     if (!realFiles_) {
         return memoryFiles_.files.at(at(name));
     }
-    std::ifstream stream(at(name));
-    return {std::istreambuf_iterator<char>(stream), {}};
+    return contentsOfFile(at(name));
 }
 
 void WorkFolder::link(const std::string& name, const std::string& targetPath) {

@@ -9,9 +9,7 @@ from harness.pseudo import LANGUAGE, speaking
 from harness.published import describe_stores
 from tests.outside.desktop import Desktop
 from tests.outside.places import PAGES, ROOT
-from tests.outside.states import answer_prompt, keep_states
-
-NAMES = ("new-file", "copy-and-move-to", "common-folders", "custom-icons", "more-items", "more-apps")
+from tests.outside.states import answer_prompt, file_name, keep_states
 
 
 def keep_pages(program, folder, **look):
@@ -19,9 +17,9 @@ def keep_pages(program, folder, **look):
     with Desktop(program, **look) as desktop:
         answer_prompt(desktop)
         desktop.screen.settle()
-        for number, (page, name) in enumerate(zip(PAGES, NAMES), 1):
+        for number, page in enumerate(PAGES, 1):
             desktop.show(page)
-            desktop.window.keep_picture(folder / f"{number}-{name}.png")
+            desktop.window.keep_picture(folder / f"{number}-{file_name(page)}.png")
         print(f"Pictures of the pages: {folder}")
         describe_stores(desktop.stores)
 

@@ -6,7 +6,7 @@ import pathlib
 import plistlib
 import re
 
-from harness.stores import COMMON_FOLDERS, COPY_TARGETS, folder_records
+from harness.stores import ACTIONS, COMMON_FOLDERS, COPY_TARGETS, folder_records
 from harness.waiting import wait_until
 from tests.outside.commands import open_menu
 from tests.outside.desktop import Desktop
@@ -60,16 +60,17 @@ def answer_prompt(desktop):
 
 
 class TroubledDesktop(Desktop):
-    """On a system that has switched the extension off, and with a setting that an administrator has set."""
+    """On a system that has switched the extension off, and with a switch and a list that an administrator has set."""
 
     def prepare(self):
         super().prepare()
         path = pathlib.Path(self.user.name, "system-state.plist")
-        path.write_bytes(plistlib.dumps({"extensionIsOff": True, "forced": ["ShowMainMenu"]}))
+        path.write_bytes(plistlib.dumps({"extensionIsOff": True, "forced": ["enableCommonPath", ACTIONS]}))
         self.screen.environment["TARNWICK_SYSTEM_STATE"] = str(path)
 
 
 def file_name(page):
+    """In the names of pictures."""
     return page.title.lower().replace(" & ", "-and-").replace(" ", "-")
 
 
