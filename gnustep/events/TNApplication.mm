@@ -7,15 +7,9 @@
 #import "gnustep/events/EventPump.h"
 #import "gnustep/events/Exceptions.h"
 #import "gnustep/menus/MenuBarKeys.h"
+#import "gnustep/windows/WindowActivation.h"
 
 #import <GNUstepGUI/GSDisplayServer.h>
-
-namespace {
-
-/// A window manager needs some time to bring a window back; until then it cannot have the keyboard.
-constexpr NSTimeInterval returnSeconds = 0.2;
-
-} // namespace
 
 @implementation TNApplication
 
@@ -108,17 +102,8 @@ constexpr NSTimeInterval returnSeconds = 0.2;
         return NO;
     }
     [[event window] orderFrontRegardless];
-    [modal orderFrontRegardless];
-    [self performSelector:@selector(focusModalWindow)
-               withObject:nil
-               afterDelay:returnSeconds
-                  inModes:[NSArray arrayWithObject:NSModalPanelRunLoopMode]];
+    TNActivateWindow(modal);
     return YES;
-}
-
-- (void)focusModalWindow {
-    NSWindow *modal = [self modalWindow];
-    [GSServerForWindow(modal) setinputfocus:static_cast<int>([modal windowNumber])];
 }
 
 /// A default button would take Return away from the field that is being edited, and Escape asks GNUstep to

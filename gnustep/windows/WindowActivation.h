@@ -1,0 +1,7 @@
+#pragma once
+
+@class NSWindow;
+
+/// Asks the window manager to bring the window back, minimised or not, to the front, and to give it the
+/// keyboard. It does so a little later.
+void TNActivateWindow(NSWindow *window);
