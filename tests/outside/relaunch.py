@@ -5,6 +5,8 @@ from tests.outside.checks import require, run_checks
 from tests.outside.screen import command
 
 FRAME = "NSWindow Frame Settings"
+# What the toolkit has found out about the frames of the window manager: four lengths for each style of windows.
+MEASURED, STYLES = "_GNUSTEP_FRAME_OFFSETS", 15
 
 
 def relaunch(desktop):
@@ -46,7 +48,19 @@ def a_frame_that_was_kept_with_its_title_bar_still_counts(start):
         require(desktop.stores.local(FRAME).endswith("content"), "the frame is still kept with its title bar")
 
 
+def a_frame_of_a_thousand_points_is_not_believed(start):
+    """As the toolkit takes it from a tiling window manager, and leaves it for the next program."""
+    with start() as (desktop, _):
+        usual = desktop.window.size()
+        desktop.screen.run("xprop", "-root", "-f", MEASURED, "16c", "-set", MEASURED,
+                           ",".join(["0", "1180", "0", "780"] * STYLES))
+        relaunch(desktop)
+        size = desktop.window.size()
+        require(size == usual, f"the window comes up as large as {size}, and is {usual} otherwise")
+
+
 if __name__ == "__main__":
     run_checks(a_window_that_was_moved_and_resized_comes_up_as_it_was_left,
                so_does_one_that_was_there_before_the_window_manager,
-               a_frame_that_was_kept_with_its_title_bar_still_counts)
+               a_frame_that_was_kept_with_its_title_bar_still_counts,
+               a_frame_of_a_thousand_points_is_not_believed)
