@@ -1,16 +1,24 @@
 #import "front/CellContainerView.h"
 
+#import "front/LayoutDirection.h"
+
 #include <algorithm>
 
 @implementation CellContainerView
 
 - (void)resizeSubviewsWithOldSize:(NSSize)oldSize {
+    const CGFloat width = NSWidth([self bounds]);
+    const bool isMirrored = tarnwick::isRightToLeft();
     for (NSView *view in [self subviews]) {
+        NSRect frame = [view frame];
+        const CGFloat inset = isMirrored ? oldSize.width - NSMaxX(frame) : NSMinX(frame);
         if ([view isKindOfClass:[NSTextField class]]) {
-            NSRect frame = [view frame];
-            frame.size.width = std::max(0.0, NSWidth([self bounds]) - NSMinX(frame));
-            [view setFrame:frame];
+            frame.size.width = std::max(0.0, width - inset);
         }
+        if (isMirrored) {
+            frame.origin.x = width - inset - NSWidth(frame);
+        }
+        [view setFrame:frame];
     }
 }
 

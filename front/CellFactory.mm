@@ -4,6 +4,7 @@
 #import "adapters/foundation/StringConversion.h"
 #import "front/CellContainerView.h"
 #import "front/CellControls.h"
+#import "front/LayoutDirection.h"
 #import "front/RuleTextField.h"
 #import "front/Selectors.h"
 
@@ -85,6 +86,7 @@ NSView *makeCell(const CellView &cell, RuleCategory category, NSString *label, i
     NSView *container = [[[CellContainerView alloc] initWithFrame:rectOf(cellContainerFrame)] autorelease];
     if (control) {
         [container addSubview:control];
+        mirrorIfRightToLeft(container);
     }
     return container;
 }

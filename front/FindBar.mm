@@ -2,6 +2,7 @@
 
 #import "adapters/foundation/StringConversion.h"
 #import "front/ControlMaking.h"
+#import "front/LayoutDirection.h"
 #import "front/RuleTableView.h"
 #import "front/SettingsViewController+Finding.h"
 
@@ -46,8 +47,13 @@ std::initializer_list<NSString *> followedNotifications() {
         _controller = controller;
         const CGFloat left = [self placeLabel];
         CGFloat right = [self placeButton:[self makeDoneButton] leftOf:width] - gap;
-        _next = [self makeArrow:@"\u203A" label:localizedText("Find Next") action:@selector(findNextRule:)];
-        _previous = [self makeArrow:@"\u2039"
+        NSString *const leftwards = @"\u2039";
+        NSString *const rightwards = @"\u203A";
+        const bool isMirrored = tarnwick::isRightToLeft();
+        _next = [self makeArrow:isMirrored ? leftwards : rightwards
+                          label:localizedText("Find Next")
+                         action:@selector(findNextRule:)];
+        _previous = [self makeArrow:isMirrored ? rightwards : leftwards
                               label:localizedText("Find Previous")
                              action:@selector(findPreviousRule:)];
         right = [self placeButton:_next leftOf:right];
@@ -55,6 +61,7 @@ std::initializer_list<NSString *> followedNotifications() {
         right = [self placeCountLeftOf:right] - gap;
         [self placeFieldFrom:left to:right];
         [self setAutoresizingMask:NSViewWidthSizable | NSViewMinYMargin];
+        tarnwick::mirrorIfRightToLeft(self);
     }
     return self;
 }

@@ -1,5 +1,7 @@
 #import "front/KeyViewLoop.h"
 
+#import "front/LayoutDirection.h"
+
 #include <algorithm>
 #include <vector>
 
@@ -28,10 +30,10 @@ void collect(NSView *view, std::vector<NSView *> &found) {
     }
 }
 
-/// The upper left corner, in the window; a table's is that of the part which can be seen.
+/// The upper corner at which reading begins, in the window; a table's is that of the part which can be seen.
 NSPoint cornerOf(NSView *view) {
     const NSRect frame = [view convertRect:[view visibleRect] toView:nil];
-    return NSMakePoint(NSMinX(frame), NSMaxY(frame));
+    return NSMakePoint(isRightToLeft() ? -NSMaxX(frame) : NSMinX(frame), NSMaxY(frame));
 }
 
 void sortAsRead(std::vector<NSView *> &views) {

@@ -2,6 +2,7 @@
 
 #import "adapters/foundation/StringConversion.h"
 #import "front/ControlMaking.h"
+#import "front/LayoutDirection.h"
 #import "front/SettingsViewController+Actions.h"
 #import "front/TextMeasuring.h"
 
@@ -89,6 +90,7 @@ constexpr CGFloat pointSize = 12;
         [button setFrameOrigin:NSMakePoint(right, (height - NSHeight([button frame])) / 2)];
         right -= gap;
     }
+    tarnwick::mirrorIfRightToLeft(self);
 }
 
 @end

@@ -5,6 +5,7 @@
 #import "front/ControlMaking.h"
 #import "front/EnableAllSwitch.h"
 #import "front/FaultLineView.h"
+#import "front/LayoutDirection.h"
 #import "front/PageDropView.h"
 #import "front/PageFrame.h"
 #import "front/PreferenceSwitch.h"
@@ -106,7 +107,7 @@ NSTableColumn *makeColumn(const Column &facts) {
     NSTableColumn *column =
         [[[NSTableColumn alloc] initWithIdentifier:toNSString(facts.identifier)] autorelease];
     [[column headerCell] setStringValue:facts.title.empty() ? @"" : localizedText(facts.title)];
-    [[column headerCell] setAlignment:facts.centredTitle ? NSTextAlignmentCenter : NSTextAlignmentLeft];
+    [[column headerCell] setAlignment:facts.centredTitle ? NSTextAlignmentCenter : leadingAlignment()];
     [column setWidth:facts.width];
     [column setEditable:NO];
     if (facts.flexible) {

@@ -2,6 +2,7 @@
 
 #import "adapters/foundation/StringConversion.h"
 #import "front/ControlMaking.h"
+#import "front/LayoutDirection.h"
 #import "front/MoreAppsPage.h"
 #import "front/NoticeBar.h"
 #import "front/PageViewBuilder.h"
@@ -55,6 +56,7 @@ NSView *makeSettingsView(SettingsViewController *controller, CGFloat &minimumWid
         makePages(NSMakeRect(pagesLeft, 0, windowWidth - pagesLeft, windowHeight), controller, pagesWidth);
     [view addSubview:pages];
     [view addSubview:[[[NoticeBar alloc] initAbove:pages controller:controller] autorelease]];
+    mirrorIfRightToLeft(view);
     [controller setTabView:pages];
     // Some languages need more room than others.
     minimumWidth = pagesLeft + std::ceil(pagesWidth);

@@ -3,6 +3,7 @@
 #import "front/Colors.h"
 #import "front/ControlMaking.h"
 #import "front/HelpButton.h"
+#import "front/LayoutDirection.h"
 #import "front/Selectors.h"
 #import "front/SettingsViewController+Actions.h"
 #import "front/SettingsViewController+System.h"
@@ -49,10 +50,10 @@ NSButton *makePageButton(Page page, SettingsViewController *controller) {
     [button setBordered:NO];
     [button setWantsLayer:YES];
     [[button layer] setCornerRadius:6];
-    [button setAlignment:NSTextAlignmentLeft];
+    [button setAlignment:leadingAlignment()];
     [button setTitle:localizedText(layout.title)];
     [button setImage:pageIcon(layout.image)];
-    [button setImagePosition:NSImageLeft];
+    [button setImagePosition:isRightToLeft() ? NSImageRight : NSImageLeft];
     [button setTarget:controller];
     [button setAction:actionOf(page)];
     [button setToolTip:localizedText(layout.explanation)];

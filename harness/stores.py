@@ -18,6 +18,9 @@ TEMPLATES, COPY_TARGETS, COMMON_FOLDERS, ICONS, ACTIONS = LISTS
 # A user who has started the application before: it does not ask to enable the extension.
 USED = {"ShownEnableExtensionAlert": True}
 
+DARK = {"AppleInterfaceStyle": "Dark"}
+RIGHT_TO_LEFT = {"AppleTextDirection": True, "NSForceRightToLeftWritingDirection": True}
+
 
 class Stores:
     """Those of a user folder, or of any folder with the same inside."""
@@ -35,6 +38,11 @@ class Stores:
 
     def write(self, values, domain=LOCAL):
         self.file(domain).write_bytes(plistlib.dumps(values))
+
+    def write_look(self, is_dark=False, is_right_to_left=False):
+        """How the system makes each application look."""
+        if look := {**(DARK if is_dark else {}), **(RIGHT_TO_LEFT if is_right_to_left else {})}:
+            self.write(look, GLOBAL)
 
     def local(self, key):
         return self.read().get(key)

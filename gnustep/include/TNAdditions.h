@@ -17,6 +17,11 @@
 - (CALayer *)layer;
 @end
 
+// LayoutDirection.mm
+@interface NSApplication (TNLayoutDirection)
+- (NSUserInterfaceLayoutDirection)userInterfaceLayoutDirection;
+@end
+
 // Identifiers.mm
 @interface NSView (TNIdentifiers)
 - (void)setIdentifier:(NSString *)identifier;

@@ -11,6 +11,7 @@
 #import "gnustep/events/ForeignDrags.h"
 #import "gnustep/events/Signals.h"
 #import "gnustep/start/Languages.h"
+#import "gnustep/start/LayoutDirection.h"
 #import "gnustep/start/Paths.h"
 #import "gnustep/start/Workspace.h"
 #import "gnustep/theme/ImageReaders.h"
@@ -48,6 +49,10 @@ void registerInitialDefaults(NSArray *languages, NSString *han) {
     [values setObject:@"YES" forKey:@"GSScrollViewNoInnerBorder"];
     [values setObject:@"YES" forKey:@"GSSuppressAppIcon"];
     [values setObject:@"NSMacintoshInterfaceStyle" forKey:@"NSInterfaceStyleDefault"];
+    if (TNReadsFromRightToLeft()) {
+        // It has its scrollers at the left.
+        [values setObject:@"NSNextStepInterfaceStyle" forKey:@"NSScrollViewInterfaceStyle"];
+    }
     // The menu bar stands in the window.
     [values setObject:@"NSWindows95InterfaceStyle" forKey:@"NSMenuInterfaceStyle"];
     // Report, instead of dropping, what event handlers raise.

@@ -3,6 +3,8 @@
 
 #import "TNTableView.h"
 
+#import "gnustep/start/LayoutDirection.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -13,6 +15,15 @@ constexpr CGFloat minimumColumnWidth = 40;
 } // namespace
 
 @implementation TNTableView (Columns)
+
+/// The first is where reading begins. On macOS it is the first there too; here it is the last among the
+/// columns.
+- (void)addTableColumn:(NSTableColumn *)column {
+    [super addTableColumn:column];
+    if (TNReadsFromRightToLeft()) {
+        [self moveColumn:[self numberOfColumns] - 1 toColumn:0];
+    }
+}
 
 - (void)sizeToFit {
     [self fillWidth];

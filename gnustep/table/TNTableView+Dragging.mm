@@ -6,6 +6,7 @@
 #import "TNTableView.h"
 
 #import "TNTheme.h"
+#import "gnustep/start/LayoutDirection.h"
 
 #include <algorithm>
 #include <array>
@@ -70,8 +71,12 @@ void thinOut(NSBitmapImageRep *pixels) {
         ![source tableView:self writeRowsWithIndexes:rows toPasteboard:pasteboard]) {
         return;
     }
-    NSRect frame = [self rectOfRow:static_cast<NSInteger>([rows firstIndex])];
-    frame.size.width = std::min(NSWidth(frame), pictureWidth);
+    const NSRect row = [self rectOfRow:static_cast<NSInteger>([rows firstIndex])];
+    NSRect frame = row;
+    frame.size.width = std::min(NSWidth(row), pictureWidth);
+    if (TNReadsFromRightToLeft()) {
+        frame.origin.x = NSMaxX(row) - NSWidth(frame);
+    }
     [self dragImage:[self pictureOfRect:NSIntersectionRect(frame, [self visibleRect])]
                  at:NSMakePoint(NSMinX(frame), NSMaxY(frame))
              offset:NSZeroSize

@@ -232,8 +232,12 @@ NSBezierPath *TNThemeHairline(NSRect rect, CGFloat radius) {
                           TNThemeCurrentColors() -> secondaryText, NSForegroundColorAttributeName, nil];
         NSString *title = [cell stringValue];
         const NSSize size = [title sizeWithAttributes:attributes];
-        const CGFloat left =
-            [cell alignment] == NSCenterTextAlignment ? NSMidX(frame) - size.width / 2 : NSMinX(frame);
+        CGFloat left = NSMinX(frame);
+        if ([cell alignment] == NSCenterTextAlignment) {
+            left = NSMidX(frame) - size.width / 2;
+        } else if ([cell alignment] == NSRightTextAlignment) {
+            left = NSMaxX(frame) - size.width;
+        }
         [title drawAtPoint:NSMakePoint(left, NSMidY(frame) - size.height / 2) withAttributes:attributes];
     }
 }

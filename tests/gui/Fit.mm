@@ -4,6 +4,7 @@
 #include "tests/gui/SettingsWindow.h"
 
 #import "adapters/foundation/StringConversion.h"
+#import "front/LayoutDirection.h"
 #import "front/SettingsViewController.h"
 
 #import <AppKit/AppKit.h>
@@ -153,7 +154,9 @@ void spoilFit() {
     placeOfHint = [hint frame];
     placeOfButton = [removeButton() frame];
     [hint setFrameSize:NSMakeSize(NSWidth(placeOfHint), 4)];
-    [removeButton() setFrameOrigin:NSMakePoint(NSMinX(placeOfButton) - 20, NSMinY(placeOfButton))];
+    // Over its neighbour.
+    const CGFloat distance = isRightToLeft() ? 20 : -20;
+    [removeButton() setFrameOrigin:NSMakePoint(NSMinX(placeOfButton) + distance, NSMinY(placeOfButton))];
 }
 
 void mendFit() {

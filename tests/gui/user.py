@@ -5,7 +5,7 @@ import os
 import pathlib
 import subprocess
 
-from harness.stores import COMMON_FOLDERS, GLOBAL, USED, Stores, folder_records
+from harness.stores import COMMON_FOLDERS, USED, Stores, folder_records
 from harness.user_folder import Display, UserFolder
 
 MOST_SECONDS = 120
@@ -43,10 +43,9 @@ def new_user():
 
 
 @contextlib.contextmanager
-def used_user(folders=0, is_dark=False):
+def used_user(folders=0, is_dark=False, is_right_to_left=False):
     """For whom the prompt to enable the extension counts as shown, with that many common folders."""
     with new_user() as user:
         user.stores.write({**USED, **({COMMON_FOLDERS: folder_records(folders)} if folders else {})})
-        if is_dark:
-            user.stores.write({"AppleInterfaceStyle": "Dark"}, GLOBAL)
+        user.stores.write_look(is_dark, is_right_to_left)
         yield user

@@ -13,7 +13,7 @@ To try it by hand, from the project's root:
 import atexit
 import sys
 
-from harness.stores import COMMON_FOLDERS, GLOBAL, LISTS, SHARED, USED, Stores
+from harness.stores import COMMON_FOLDERS, LISTS, SHARED, USED, Stores
 from harness.waiting import wait_until
 from tests.outside.places import PAGE_OF, PAGES, Places
 from tests.outside.screen import command
@@ -29,16 +29,16 @@ class Desktop(Session):
 
     title = "^Tarnwick$"
 
-    def __init__(self, program, settings=None, is_dark=False, language="en", has_window_manager=True):
-        self.settings, self.is_dark = settings, is_dark
+    def __init__(self, program, settings=None, is_dark=False, is_right_to_left=False, language="en",
+                 has_window_manager=True):
+        self.settings, self.is_dark, self.is_right_to_left = settings, is_dark, is_right_to_left
         super().__init__(program, has_window_manager, LANGUAGE=language)
 
     def prepare(self):
         self.stores = Stores(self.user)
         if self.settings is not None:
             self.stores.write({**USED, **self.settings})
-        if self.is_dark:
-            self.stores.write({"AppleInterfaceStyle": "Dark"}, GLOBAL)
+        self.stores.write_look(self.is_dark, self.is_right_to_left)
 
     def start(self):
         super().start()
@@ -67,7 +67,12 @@ class Desktop(Session):
 
     def place(self, name, *arguments):
         """Of a control of the page, by its name among the places: "remove", "reset", "row_switch", 3."""
-        return getattr(self.places, name)(self.page, *arguments)
+        return self.seen(getattr(self.places, name)(self.page, *arguments))
+
+    def seen(self, place):
+        """Where it is in this window, which may be laid out from right to left."""
+        x, y = place
+        return (self.window.size()[0] - x if self.is_right_to_left else x), y
 
     def click(self, name, *arguments, times=1, delay=60):
         self.window.click(self.place(name, *arguments), times, delay=delay)

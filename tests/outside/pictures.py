@@ -29,6 +29,7 @@ def main():
     parser.add_argument("--language", default="en",
                         help="that of a table of texts: en, de, zh-Hans and so on; or pseudo, which is English, longer")
     parser.add_argument("--appearance", default="light", choices=["light", "dark"])
+    parser.add_argument("--right-to-left", action="store_true", help="laid out as for a language read in that way")
     parser.add_argument("--states", action="store_true",
                         help="menus, alerts, panels, notices, an edit, a drag and so on, in place of the pages")
     parser.add_argument("program", nargs="?", default="build/release/Tarnwick.app/Tarnwick")
@@ -39,7 +40,8 @@ def main():
     options.folder.mkdir(parents=True, exist_ok=True)
     keep = keep_states if options.states else keep_pages
     with speaking(options.program, options.language) as (program, language):
-        keep(program, options.folder, is_dark=options.appearance == "dark", language=language)
+        keep(program, options.folder, is_dark=options.appearance == "dark",
+             is_right_to_left=options.right_to_left, language=language)
 
 
 if __name__ == "__main__":

@@ -6,6 +6,10 @@
 
 @class NSMenu;
 
+typedef TN_ENUM(NSInteger, NSUserInterfaceLayoutDirection){
+    NSUserInterfaceLayoutDirectionRightToLeft = 1,
+};
+
 extern "C" NSString *const NSApplicationDidBecomeActiveNotification;
 extern "C" NSString *const NSApplicationWillTerminateNotification;
 extern "C" NSString *const NSEventTrackingRunLoopMode;
@@ -28,6 +32,7 @@ extern "C" NSString *const NSModalPanelRunLoopMode;
 @property (nullable, strong) NSMenu *windowsMenu;
 @property (nullable, strong) NSMenu *helpMenu;
 @property (nullable, strong) NSMenu *servicesMenu;
+@property (readonly) NSUserInterfaceLayoutDirection userInterfaceLayoutDirection;
 - (void)activateIgnoringOtherApps:(BOOL)ignoring;
 - (BOOL)sendAction:(SEL)action to:(nullable id)target from:(nullable id)sender;
 - (void)terminate:(nullable id)sender;

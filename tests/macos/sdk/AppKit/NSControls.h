@@ -15,7 +15,7 @@ enum : NSControlStateValue {
 };
 typedef TN_ENUM(NSUInteger, NSImageScaling){
     NSImageScaleProportionallyDown = 0, NSImageScaleProportionallyUpOrDown = 3};
-typedef TN_ENUM(NSUInteger, NSCellImagePosition){NSImageLeft = 2};
+typedef TN_ENUM(NSUInteger, NSCellImagePosition){NSImageLeft = 2, NSImageRight = 3};
 typedef TN_ENUM(NSUInteger, NSButtonType){NSButtonTypeSwitch = 3};
 typedef TN_ENUM(NSUInteger, NSBezelStyle){NSBezelStyleRounded = 1};
 

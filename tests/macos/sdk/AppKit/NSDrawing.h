@@ -10,9 +10,9 @@ typedef TN_ENUM(NSUInteger, NSCompositingOperation){NSCompositingOperationSource
 typedef TN_ENUM(NSInteger, NSTextAlignment) {
     NSTextAlignmentLeft = 0,
 #if __aarch64__
-    NSTextAlignmentCenter = 1,
+    NSTextAlignmentCenter = 1, NSTextAlignmentRight = 2,
 #else
-    NSTextAlignmentCenter = 2,
+    NSTextAlignmentRight = 1, NSTextAlignmentCenter = 2,
 #endif
 };
 typedef TN_ENUM(NSUInteger, NSLineBreakMode){

@@ -68,6 +68,7 @@ typedef TN_ENUM(NSUInteger, NSTabViewType){NSNoTabsNoBorder = 6};
 @property NSTabViewType tabViewType;
 @property BOOL drawsBackground;
 @property (nullable, readonly, strong) NSTabViewItem *selectedTabViewItem;
+@property (copy) NSArray *tabViewItems;
 - (void)addTabViewItem:(NSTabViewItem *)item;
 - (void)selectTabViewItem:(nullable NSTabViewItem *)item;
 - (NSTabViewItem *)tabViewItemAtIndex:(NSInteger)index;

@@ -1,0 +1,48 @@
+// Missing: interfaces that are read from right to left, as of GNUstep GUI 0.29, in which the application has
+// no direction and check boxes, scrollers and columns are always placed for reading from left to right.
+
+#import "gnustep/start/LayoutDirection.h"
+
+#import "TNAdditions.h"
+#import "gnustep/runtime/MethodReplacement.h"
+
+namespace {
+
+using SetButtonType = void (*)(id self, SEL command, NSButtonType type);
+SetButtonType nativeSetButtonType = nullptr;
+
+void setButtonType(id self, SEL command, NSButtonType type) {
+    nativeSetButtonType(self, command, type);
+    if (type == NSButtonTypeSwitch && TNReadsFromRightToLeft()) {
+        [self setImagePosition:NSImageRight];
+    }
+}
+
+} // namespace
+
+bool TNReadsFromRightToLeft() {
+    NSUserDefaults *defaults = [NSUserDefaults standardUserDefaults];
+    static const bool isForced = [defaults boolForKey:@"AppleTextDirection"] &&
+                                 [defaults boolForKey:@"NSForceRightToLeftWritingDirection"];
+    return isForced;
+}
+
+@implementation NSApplication (TNLayoutDirection)
+
+- (NSUserInterfaceLayoutDirection)userInterfaceLayoutDirection {
+    return TNReadsFromRightToLeft() ? NSUserInterfaceLayoutDirectionRightToLeft
+                                    : NSUserInterfaceLayoutDirectionLeftToRight;
+}
+
+@end
+
+@interface NSButtonCell (TNLayoutDirection)
+@end
+
+@implementation NSButtonCell (TNLayoutDirection)
+
++ (void)load {
+    nativeSetButtonType = TNReplaceMethod(self, @selector(setButtonType:), setButtonType);
+}
+
+@end

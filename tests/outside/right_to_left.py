@@ -1,0 +1,76 @@
+"""python3 -m tests.outside.right_to_left PROGRAM: the window as it is laid out for a language that is read from right
+to left, with a real pointer at the places of the usual layout, seen in a mirror. Both stores are looked at after each
+step."""
+
+from harness.stores import ACTIONS, COPY_TARGETS, TEMPLATES, folder_records
+from harness.waiting import wait_until
+from tests.outside.checks import require, run_checks
+from tests.outside.picture import Picture
+from tests.outside.places import PAGES, constant
+from tests.outside.screen import command
+
+NAME = "NewFileDisplayName"
+OPENING, SECOND_OPTION = "enableAutoOpenAfterCreateNewFile", 1
+# Of the heading's line, from the margin: its title is in it, and far longer than this.
+TITLE_END = 40
+
+
+def controls_are_where_a_mirror_shows_them(start):
+    with start(is_right_to_left=True) as (desktop, model):
+        desktop.window.click(desktop.seen(desktop.places.switch(SECOND_OPTION)))
+        wait_until(lambda: desktop.stores.local(OPENING) is False, "the switch that was clicked")
+        desktop.click("row_switch", 2)
+        model.toggle(TEMPLATES, 2)
+        model.expect("a row switched off")
+        desktop.select(1)
+        desktop.click("remove")
+        model.remove(TEMPLATES, 1)
+        model.expect("a row less")
+        desktop.click("reset")
+        model.reset(TEMPLATES)
+        model.expect("the factory's list")
+        for page in PAGES[1:]:
+            desktop.show(page)
+        desktop.show_list(ACTIONS)
+        desktop.click("enable_all")
+        model.enable_all(ACTIONS, False)
+        model.expect("all switched off")
+
+
+def rows_are_edited_dragged_and_found(start):
+    with start({COPY_TARGETS: folder_records(3)}, is_right_to_left=True) as (desktop, model):
+        desktop.start_typing(1, "Letter")
+        desktop.screen.key("Return")
+        model.edit(TEMPLATES, 1, NAME, "Letter")
+        model.expect("the typed name")
+        desktop.window.drag(desktop.place("cell", 3), desktop.seen(desktop.places.cell(desktop.page, 0, height=0.05)))
+        model.drop(TEMPLATES, 3, 0)
+        model.expect("another row at the head")
+        desktop.screen.key(command("f"))
+        desktop.screen.settle()
+        desktop.screen.type("Letter")
+        desktop.screen.settle()
+        desktop.screen.key("Escape")
+        desktop.screen.settle()
+        desktop.screen.key("space")
+        model.toggle(TEMPLATES, 2)
+        model.expect("the row that was found switched off")
+
+
+def texts_begin_at_the_right(start):
+    """The title of a page ends where the table does, and nothing is at the other end of its line."""
+    with start(is_right_to_left=True) as (desktop, _):
+        picture = Picture(desktop.screen.picture())
+        left, top = desktop.window.on_screen(desktop.seen((desktop.places.right, desktop.places.top)))
+        right, _ = desktop.window.on_screen(desktop.seen((desktop.places.left, 0)))
+        top += constant("PageFrame.margin")
+        bottom = top + constant("PageFrame.headingHeight")
+
+        def colours(begin):
+            return len(set(picture.colours(round(begin), round(top), round(begin) + TITLE_END, round(bottom))))
+        require(colours(right - TITLE_END) > 1, "no title at the right")
+        require(colours(left) == 1, "something at the left of the title")
+
+
+if __name__ == "__main__":
+    run_checks(controls_are_where_a_mirror_shows_them, rows_are_edited_dragged_and_found, texts_begin_at_the_right)
