@@ -42,6 +42,18 @@ TEST(Keyboard, ARowIsSelectedRenamedMovedSwitchedOffAndRemoved) {
     EXPECT_EQ(rowCount(RuleCategory::createNewFile), 14);
 }
 
+/// Its cells are made anew after the edit, and the switch that the second key presses is among the old ones.
+TEST(Keyboard, ARowIsSwitchedOffAsSoonAsItsNameIsTyped) {
+    pressCommand('1');
+    press(Key::down);
+    ASSERT_EQ(selectedRow(RuleCategory::createNewFile), 1);
+    press(Key::returnKey);
+    ASSERT_TRUE(isEditing());
+    typeFast("Fast\r ");
+    EXPECT_EQ(local("d['arrOfCreateNewFile'][1]['displayName']"), "'Fast'");
+    EXPECT_EQ(local("int(d['arrOfCreateNewFile'][1]['enable'])"), "0");
+}
+
 TEST(Keyboard, TheButtonsBelowTheListArePressed) {
     pressCommand('1');
     press(Key::up);
