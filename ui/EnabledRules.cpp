@@ -2,6 +2,7 @@
 
 #include "platform/ApplicationBundle.h"
 #include "prefs/RuleList.h"
+#include "ui/NumberText.h"
 #include "ui/WindowLayout.h"
 
 namespace tarnwick {
@@ -31,7 +32,7 @@ std::string enabledText(const ApplicationBundle& bundle, const RuleList& list) {
     if (key.empty() || rules.all == 0) {
         return {};
     }
-    return filled(bundle.localized(key), {std::to_string(rules.on), std::to_string(rules.all)});
+    return filled(bundle.localized(key), {numberText(bundle, rules.on), numberText(bundle, rules.all)});
 }
 
 } // namespace tarnwick

@@ -3,6 +3,7 @@
 #include "editing/ListEditor.h"
 #include "platform/ApplicationBundle.h"
 #include "ui/CountText.h"
+#include "ui/NumberText.h"
 #include "ui/SettingsWindow.h"
 
 namespace tarnwick {
@@ -46,9 +47,9 @@ std::string Finding::count(RuleCategory category) const {
         return {};
     }
     const auto count = search_.count(category, window_.selectedRow(category));
-    const auto all = std::to_string(count.all);
+    const auto all = numberText(bundle_, count.all);
     if (count.place > 0) {
-        return filled(bundle_.localized("%1$@ of %2$@ found"), {std::to_string(count.place), all});
+        return filled(bundle_.localized("%1$@ of %2$@ found"), {numberText(bundle_, count.place), all});
     }
     return filled(bundle_.localized(foundTexts.formFor(count.all)), {all});
 }

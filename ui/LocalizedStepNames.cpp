@@ -2,6 +2,7 @@
 
 #include "platform/ApplicationBundle.h"
 #include "ui/CountText.h"
+#include "ui/NumberText.h"
 #include "ui/ShortenedText.h"
 
 #include <string_view>
@@ -55,7 +56,7 @@ std::string LocalizedStepNames::nameOf(
         return format;
     }
     const auto name = cells_.shownName(list, *row);
-    return filled(format, {name.empty() ? filled(bundle_.localized("row %@"), {std::to_string(*row + 1)})
+    return filled(format, {name.empty() ? filled(bundle_.localized("row %@"), {numberText(bundle_, *row + 1)})
                                         : shortened(name, longestName)});
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/ApplicationBundle.h"
 #include "ui/CountText.h"
+#include "ui/NumberText.h"
 
 #include <algorithm>
 
@@ -52,7 +53,7 @@ std::string summaryOf(const FaultCounts& counts, const ApplicationBundle& bundle
     if (total == 0) {
         return {};
     }
-    return total == 1 ? bundle.localized(one) : filled(bundle.localized(many), {std::to_string(total)});
+    return total == 1 ? bundle.localized(one) : filled(bundle.localized(many), {numberText(bundle, total)});
 }
 
 } // namespace tarnwick

@@ -3,6 +3,7 @@
 #include "platform/ApplicationBundle.h"
 #include "prefs/RuleList.h"
 #include "ui/CountText.h"
+#include "ui/NumberText.h"
 #include "ui/RuleColumns.h"
 
 namespace tarnwick {
@@ -41,7 +42,7 @@ std::string RuleRows::spokenName(RuleCategory category, std::size_t row) const {
     if (!name.empty() && !repeatedNames_.has(category, row)) {
         return name;
     }
-    auto number = filled(bundle_.localized("row %@"), {std::to_string(row + 1)});
+    auto number = filled(bundle_.localized("row %@"), {numberText(bundle_, row + 1)});
     return name.empty() ? number : name + " (" + number + ")";
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/ApplicationBundle.h"
 #include "ui/CountText.h"
+#include "ui/NumberText.h"
 #include "ui/ShortenedText.h"
 #include "ui/WindowLayout.h"
 
@@ -33,7 +34,7 @@ std::string listed(const Items& items, const ApplicationBundle& bundle, const Li
     }
     if (items.size() > mostNamed) {
         text.append("\n").append(
-            filled(bundle.localized("and %@ more"), {std::to_string(items.size() - mostNamed)}));
+            filled(bundle.localized("and %@ more"), {numberText(bundle, items.size() - mostNamed)}));
     }
     return text;
 }
@@ -70,8 +71,8 @@ private:
         addHeading(bundle_.localized("Rules, now and afterwards:"));
         for (const auto category : allRuleCategories) {
             add(filled(bundle_.localized("%1$@: %2$@ \u2192 %3$@"),
-                {titleOf(category), std::to_string(present_[category]),
-                    std::to_string(plan_.lists[category].size())}));
+                {titleOf(category), numberText(bundle_, present_[category]),
+                    numberText(bundle_, plan_.lists[category].size())}));
         }
     }
 
@@ -91,7 +92,7 @@ private:
 
     void tellOdd(std::string_view format, RuleCategory category, std::size_t number) {
         if (number > 0) {
-            add(filled(bundle_.localized(format), {titleOf(category), std::to_string(number)}));
+            add(filled(bundle_.localized(format), {titleOf(category), numberText(bundle_, number)}));
         }
     }
 
@@ -116,7 +117,7 @@ private:
         switch (item.reason) {
         case LeftOutReason::noRule:
             return filled(bundle_.localized("%1$@, entry %2$@: no rule"),
-                {titleOf(*item.category), std::to_string(item.number)});
+                {titleOf(*item.category), numberText(bundle_, item.number)});
         case LeftOutReason::unknown:
             return filled(bundle_.localized("\u201C%@\u201D: unknown"), {name});
         case LeftOutReason::otherKind:
