@@ -1,6 +1,6 @@
 // Wrong: the press of a button by a key, as of GNUstep GUI 0.29. It runs the run loop for a tenth of a second
-// while it draws into the button: when that went with its row meanwhile an exception was raised, and the press
-// lost. Here the button acts at once.
+// while it draws into the button: when that went with its row meanwhile an exception was raised, and the
+// press lost. Here the button acts at once.
 
 #import <AppKit/AppKit.h>
 
