@@ -1,6 +1,7 @@
 // Missing: Return and Escape for a field that is being edited, context menus by the Control key, reports of
 // failing event handlers, and of a modal session the prompt end, a window that stays in front of the one that
-// waits for it, and what is drawn when a deferred call has begun it, as of GNUstep GUI 0.29.
+// waits for it, and what is drawn when a deferred call has begun it, as of GNUstep GUI 0.29. Wrong: which
+// window is the last one.
 
 #import "TNApplication.h"
 
@@ -11,7 +12,20 @@
 
 #import <GNUstepGUI/GSDisplayServer.h>
 
+/// GNUstep's own, which is told of every window that closes.
+@interface NSApplication (TNLastWindow)
+- (void)_windowWillClose:(NSNotification *)notification;
+@end
+
 @implementation TNApplication
+
+/// A menu or panel is never the last window: the main one may be minimised, and GNUstep counts what is on the
+/// screen.
+- (void)_windowWillClose:(NSNotification *)notification {
+    if ([[notification object] canBecomeMainWindow]) {
+        [super _windowWillClose:notification];
+    }
+}
 
 /// What waits for a window: the one that is modal already, the main window, or that which will be.
 - (NSWindow *)windowBehind:(NSWindow *)window {

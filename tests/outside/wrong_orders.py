@@ -4,12 +4,18 @@ stores and the template files are looked at after each step."""
 import signal
 
 from harness.stores import ACTIONS, COMMON_FOLDERS, ICONS, TEMPLATES, folder_records
+from harness.waiting import wait_until
 from tests.outside.checks import require, run_checks
+from tests.outside.commands import choose, open_menu
 from tests.outside.places import PAGE_OF
-from tests.outside.screen import command
+from tests.outside.screen import BUTTON, command
 
 GAP = 0.05
 FAST = 10
+# In the menu bar, and the number of its first item.
+APPLICATION_MENU, ABOUT = (30, 10), 1
+# On the screen.
+BESIDE_ALL = (20, 20)
 
 
 def clicks_in_a_row_count_each(start):
@@ -88,7 +94,44 @@ def a_request_to_end_in_the_middle_of_a_drag_keeps_the_list(start):
         model.expect("the list as it was, after another start")
 
 
+def minimise(desktop):
+    desktop.screen.xdotool("windowminimize", desktop.window.number)
+    wait_until(lambda: not is_in_sight(desktop), "the end of the window")
+
+
+def is_in_sight(desktop):
+    return desktop.window.number in [window.number for window in desktop.screen.windows(desktop.title)]
+
+
+def bring_back(desktop):
+    desktop.screen.xdotool("windowmap", desktop.window.number)
+    desktop.screen.xdotool("windowactivate", desktop.window.number)
+    wait_until(lambda: is_in_sight(desktop), "the window", process=desktop.application)
+    desktop.screen.settle()
+
+
+def a_menu_or_panel_that_closes_beside_the_minimised_window_does_not_end_the_application(start):
+    with start() as (desktop, model):
+        open_menu(desktop, desktop.place("cell", 2))
+        minimise(desktop)
+        desktop.screen.click(BESIDE_ALL)
+        bring_back(desktop)
+        desktop.click("row_switch", 4)
+        model.toggle(TEMPLATES, 4)
+        model.expect("a row switched after a menu")
+        open_menu(desktop, APPLICATION_MENU, BUTTON)
+        choose(desktop, ABOUT)
+        minimise(desktop)
+        desktop.screen.key("alt+F4")
+        wait_until(lambda: not desktop.screen.windows(desktop.title), "the end of the panel")
+        bring_back(desktop)
+        desktop.click("row_switch", 4)
+        model.toggle(TEMPLATES, 4)
+        model.expect("a row switched after a panel")
+
+
 if __name__ == "__main__":
     run_checks(clicks_in_a_row_count_each, deleting_goes_on_until_the_list_is_empty,
                a_row_is_dragged_while_the_wheel_turns, quitting_in_the_middle_of_a_drag_keeps_the_list,
-               a_request_to_end_in_the_middle_of_a_drag_keeps_the_list)
+               a_request_to_end_in_the_middle_of_a_drag_keeps_the_list,
+               a_menu_or_panel_that_closes_beside_the_minimised_window_does_not_end_the_application)
