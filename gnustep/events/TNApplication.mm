@@ -46,6 +46,8 @@
     if (behind) {
         [GSServerForWindow(window) setParentWindow:static_cast<int>([behind windowNumber])
                                     forChildWindow:static_cast<int>([window windowNumber])];
+        // It may be about to give the keyboard to the one behind, which came up a moment ago.
+        TNActivateWindow(window);
     }
     return session;
 }

@@ -30,9 +30,9 @@ def watched(session, name):
 
 def application(program, name):
     @contextlib.contextmanager
-    def start(settings=None, **options):
+    def start(settings=None, is_first_launch=False, **options):
         """The application over these settings, and the model of what is stored."""
-        with Desktop(program, settings or {}, **options) as desktop, watched(desktop, name):
+        with Desktop(program, None if is_first_launch else settings or {}, **options) as desktop, watched(desktop, name):
             model = Model(desktop.stores)
             model.expect("what a start stores")
             yield desktop, model

@@ -53,6 +53,15 @@ def a_panel_can_be_read_and_looks_the_same_the_second_time(start):
         model.expect("no change by cancelled panels")
 
 
+def the_prompt_of_a_first_launch_has_the_keyboard(start):
+    for _ in range(4):
+        with start(is_first_launch=True) as (desktop, _):
+            prompt = desktop.screen.window("^Alert$", process=desktop.application)
+            wait_until(prompt.has_focus, "the keyboard in the prompt")
+            desktop.screen.settle(0.2)
+            require(prompt.has_focus(), "the prompt has lost the keyboard")
+
+
 def a_panel_stays_in_front_of_the_window_that_waits_for_it(start):
     with start() as (desktop, model):
         panel = ask(desktop)
@@ -163,6 +172,7 @@ def ending_with_an_open_panel_keeps_the_lists(start):
 
 if __name__ == "__main__":
     run_checks(a_panel_can_be_read_and_looks_the_same_the_second_time,
+               the_prompt_of_a_first_launch_has_the_keyboard,
                a_panel_stays_in_front_of_the_window_that_waits_for_it,
                a_panel_that_the_window_manager_closes_is_cancelled,
                a_panel_and_the_window_behind_it_stay_when_they_are_minimised,
