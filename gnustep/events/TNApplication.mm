@@ -1,10 +1,10 @@
 // Missing: Return and Escape for a field that is being edited, context menus by the Control key, reports of
 // failing event handlers, and of a modal session the prompt end, a window that stays in front of the one that
-// waits for it, and what is drawn when a deferred call has begun it, as of GNUstep GUI 0.29. Wrong: which
-// window is the last one.
+// waits for it, and what is drawn when a deferred call has begun it, as of GNUstep GUI 0.29.
 
 #import "TNApplication.h"
 
+#import "gnustep/events/CommandKeys.h"
 #import "gnustep/events/EventPump.h"
 #import "gnustep/events/Exceptions.h"
 #import "gnustep/menus/MenuBarKeys.h"
@@ -12,20 +12,7 @@
 
 #import <GNUstepGUI/GSDisplayServer.h>
 
-/// GNUstep's own, which is told of every window that closes.
-@interface NSApplication (TNLastWindow)
-- (void)_windowWillClose:(NSNotification *)notification;
-@end
-
 @implementation TNApplication
-
-/// A menu or panel is never the last window: the main one may be minimised, and GNUstep counts what is on the
-/// screen.
-- (void)_windowWillClose:(NSNotification *)notification {
-    if ([[notification object] canBecomeMainWindow]) {
-        [super _windowWillClose:notification];
-    }
-}
 
 /// What waits for a window: the one that is modal already, the main window, or that which will be.
 - (NSWindow *)windowBehind:(NSWindow *)window {
@@ -134,7 +121,7 @@
     } else if (key == escape) {
         [editor doCommandBySelector:@selector(cancelOperation:)];
     } else if (![self keepInSight:event] && !TNOpenMenuBarByKey(event) && ![self showMenuFor:event]) {
-        [super sendEvent:event];
+        [super sendEvent:TNWithLatinCommandKey(event)];
     }
 }
 

@@ -148,8 +148,8 @@ void TNMenuTracking::handle(NSEvent *event) {
         return;
     default:
         [NSApp sendEvent:event];
-        // Another program has come to the front.
-        isOver_ = isOver_ || ![NSApp isActive];
+        // Another program has come to the front, or the window has gone from the screen.
+        isOver_ = isOver_ || ![NSApp isActive] || [captor_ isMiniaturized];
     }
 }
 

@@ -166,6 +166,18 @@ def a_template_that_cannot_be_kept_takes_its_own_step_alone(start):
             redo(desktop, model, what)
 
 
+def its_keys_are_those_of_their_places_on_a_keyboard_without_latin_letters(start):
+    with start() as (desktop, model):
+        desktop.screen.run("setxkbmap", "ru")
+        remove_template(desktop, model)
+        desktop.screen.key(command("Cyrillic_ya"))
+        model.undo()
+        model.expect("the row again")
+        desktop.screen.key(shift_command("Cyrillic_ya"))
+        model.redo()
+        model.expect("the row gone again")
+
+
 def the_end_leaves_nothing_of_it(start):
     with start() as (desktop, model):
         remove_template(desktop, model)
@@ -192,4 +204,5 @@ if __name__ == "__main__":
     run_checks(every_kind_of_change_comes_back, a_step_of_another_page_is_shown_where_it_takes_place,
                typing_has_its_own, a_panel_and_a_drag_come_first, files_that_others_have_changed_are_not_overwritten,
                a_template_that_cannot_be_kept_takes_its_own_step_alone,
+               its_keys_are_those_of_their_places_on_a_keyboard_without_latin_letters,
                the_end_leaves_nothing_of_it, a_killed_application_leaves_held_files_to_the_next_start)
