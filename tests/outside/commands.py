@@ -109,6 +109,16 @@ def the_menu_bar_is_opened_and_walked_by_key(start):
         panel.cancel()
 
 
+def a_page_is_shown_by_its_digit_on_a_keyboard_that_has_digits_with_shift(start):
+    with start({COPY_TARGETS: folder_records(2)}) as (desktop, model):
+        desktop.screen.run("setxkbmap", "fr")
+        desktop.screen.key(command("eacute"))
+        desktop.screen.settle()
+        desktop.screen.key("Down", "Delete")
+        model.remove(COPY_TARGETS, 0)
+        model.expect("a row less on the second page")
+
+
 def marked_rows(desktop):
     """Of open menus: the colours where its icon stands, of each marked row from the top."""
     picture = Picture(desktop.screen.picture())
@@ -140,5 +150,6 @@ def every_item_of_the_preview_has_its_icon(start):
 if __name__ == "__main__":
     run_checks(the_menu_of_a_row_acts_on_it_wherever_the_row_is_clicked,
                what_is_being_typed_is_kept_when_a_menu_opens_and_escape_leaves_the_menu_alone,
+               a_page_is_shown_by_its_digit_on_a_keyboard_that_has_digits_with_shift,
                a_row_is_changed_by_the_keyboard_alone, the_menu_bar_is_opened_and_walked_by_key,
                every_item_of_the_preview_has_its_icon)
