@@ -1,7 +1,7 @@
 """python3 -m tests.outside.small_window PROGRAM: the window at its smallest and at its largest, and in use. Both stores
 and the template files are looked at after each step."""
 
-from harness.stores import COMMON_FOLDERS, COPY_TARGETS, ICONS, LISTS, TEMPLATES, folder_records
+from harness.stores import ACTIONS, COMMON_FOLDERS, COPY_TARGETS, ICONS, LISTS, TEMPLATES, folder_records
 from tests.outside.checks import require, run_checks
 from tests.outside.places import PAGE_OF, constant
 from tests.outside.screen import option_command
@@ -48,6 +48,20 @@ def the_smallest_window_can_be_used(start):
         model.expect("the factory's list")
 
 
+def a_list_can_be_shown_when_it_just_fits(start):
+    """For the first time, with a point too few or too many."""
+    for more in range(-1, 5):
+        with start() as (desktop, model):
+            page, places = PAGE_OF[ACTIONS], desktop.places
+            rows = len(desktop.stores.local(ACTIONS)) * constant("CellView.rowHeight")
+            fitting = places.bottom - places.table_bottom() + places.first_row_top(page) + rows
+            desktop.window.resize(100, round(fitting) + more)
+            desktop.show_list(ACTIONS)
+            desktop.click("row_switch", 2)
+            model.toggle(ACTIONS, 2)
+            model.expect("a row switched off")
+
+
 def a_large_window_can_be_used(start):
     with start(FOLDERS) as (desktop, model):
         desktop.window.resize(1270, 860)
@@ -75,5 +89,5 @@ def rows_are_reached_and_moved_beyond_the_edge_of_a_small_window(start):
 
 
 if __name__ == "__main__":
-    run_checks(the_smallest_window_can_be_used, a_large_window_can_be_used,
+    run_checks(the_smallest_window_can_be_used, a_list_can_be_shown_when_it_just_fits, a_large_window_can_be_used,
                rows_are_reached_and_moved_beyond_the_edge_of_a_small_window)
