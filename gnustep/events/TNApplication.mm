@@ -125,6 +125,10 @@
     }
 }
 
+/// Where nothing has a menu of its own GNUstep would open that of the menu bar.
+- (void)rightMouseDown:(NSEvent *)event {
+}
+
 - (void)reportException:(NSException *)exception {
     TNReportException(exception);
 }

@@ -32,7 +32,8 @@ def application(program, name):
     @contextlib.contextmanager
     def start(settings=None, is_first_launch=False, **options):
         """The application over these settings, and the model of what is stored."""
-        with Desktop(program, None if is_first_launch else settings or {}, **options) as desktop, watched(desktop, name):
+        before = None if is_first_launch else settings or {}
+        with Desktop(program, before, **options) as desktop, watched(desktop, name):
             model = Model(desktop.stores)
             model.expect("what a start stores")
             yield desktop, model

@@ -109,6 +109,15 @@ def the_menu_bar_is_opened_and_walked_by_key(start):
         panel.cancel()
 
 
+def there_is_no_menu_where_nothing_has_one(start):
+    with start() as (desktop, _):
+        before = desktop.screen.picture()
+        for place in (desktop.place("page_button"), desktop.place("heading")):
+            desktop.window.click(place, button=RIGHT_BUTTON)
+            desktop.screen.settle()
+            require(look_the_same(before, desktop.screen.picture()), f"something opens at {place}")
+
+
 def a_page_is_shown_by_its_digit_on_a_keyboard_that_has_digits_with_shift(start):
     with start({COPY_TARGETS: folder_records(2)}) as (desktop, model):
         desktop.screen.run("setxkbmap", "fr")
@@ -150,6 +159,7 @@ def every_item_of_the_preview_has_its_icon(start):
 if __name__ == "__main__":
     run_checks(the_menu_of_a_row_acts_on_it_wherever_the_row_is_clicked,
                what_is_being_typed_is_kept_when_a_menu_opens_and_escape_leaves_the_menu_alone,
+               there_is_no_menu_where_nothing_has_one,
                a_page_is_shown_by_its_digit_on_a_keyboard_that_has_digits_with_shift,
                a_row_is_changed_by_the_keyboard_alone, the_menu_bar_is_opened_and_walked_by_key,
                every_item_of_the_preview_has_its_icon)
