@@ -18,12 +18,17 @@ void setButtonType(id self, SEL command, NSButtonType type) {
     }
 }
 
+bool isForcedBySettings() {
+    NSUserDefaults *defaults = [NSUserDefaults standardUserDefaults];
+    return [defaults boolForKey:@"AppleTextDirection"] &&
+           [defaults boolForKey:@"NSForceRightToLeftWritingDirection"];
+}
+
 } // namespace
 
+/// Asked for every cell: the settings are looked at once.
 bool TNReadsFromRightToLeft() {
-    NSUserDefaults *defaults = [NSUserDefaults standardUserDefaults];
-    static const bool isForced = [defaults boolForKey:@"AppleTextDirection"] &&
-                                 [defaults boolForKey:@"NSForceRightToLeftWritingDirection"];
+    static const bool isForced = isForcedBySettings();
     return isForced;
 }
 

@@ -86,7 +86,7 @@ def a_panel_and_the_window_behind_it_stay_when_they_are_minimised(start):
     with start() as (desktop, model):
         for is_panel in (True, False):
             panel = ask(desktop)
-            desktop.screen.xdotool("windowminimize", (panel.window if is_panel else desktop.window).number)
+            (panel.window if is_panel else desktop.window).minimise()
             desktop.screen.settle()
             wait_until(lambda: panel.is_open() and desktop.screen.windows(desktop.title) and panel.window.has_focus(),
                        "both in sight, and the keyboard in the panel", process=desktop.application)

@@ -11,6 +11,8 @@ from tests.outside.screen import command
 
 NAME = "NewFileDisplayName"
 OPENING, SECOND_OPTION = "enableAutoOpenAfterCreateNewFile", 1
+# Of a row, from its top.
+GAP = 0.05
 # Of the heading's line, from the margin: its title is in it, and far longer than this.
 TITLE_END = 40
 
@@ -43,7 +45,7 @@ def rows_are_edited_dragged_and_found(start):
         desktop.screen.key("Return")
         model.edit(TEMPLATES, 1, NAME, "Letter")
         model.expect("the typed name")
-        desktop.window.drag(desktop.place("cell", 3), desktop.seen(desktop.places.cell(desktop.page, 0, height=0.05)))
+        desktop.window.drag(desktop.place("cell", 3), desktop.place("cell", 0, None, GAP))
         model.drop(TEMPLATES, 3, 0)
         model.expect("another row at the head")
         desktop.screen.key(command("f"))

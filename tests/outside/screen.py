@@ -155,6 +155,9 @@ class Window:
         self.screen.settle(0.2)
         return self.size()
 
+    def minimise(self):
+        self.screen.xdotool("windowminimize", self.number)
+
     def has_focus(self):
         return self.screen.xdotool("getwindowfocus") == [self.number]
 

@@ -93,7 +93,7 @@ def a_request_to_end_in_the_middle_of_a_drag_keeps_the_list(start):
 
 
 def minimise(desktop):
-    desktop.screen.xdotool("windowminimize", desktop.window.number)
+    desktop.window.minimise()
     wait_until(lambda: not is_in_sight(desktop), "the end of the window")
     desktop.screen.settle()
 
