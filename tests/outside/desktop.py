@@ -74,8 +74,8 @@ class Desktop(Session):
         x, y = place
         return (self.window.size()[0] - x if self.is_right_to_left else x), y
 
-    def click(self, name, *arguments, times=1, delay=60):
-        self.window.click(self.place(name, *arguments), times, delay=delay)
+    def click(self, name, *arguments, times=1):
+        self.window.click(self.place(name, *arguments), times)
 
     def select(self, row):
         """A second click on it, after a while, would begin to edit it."""

@@ -1,6 +1,8 @@
 """python3 -m tests.outside.random_walk PROGRAM STEPS SEED: a person who does one thing after another, without waiting
-for what comes of it. Both stores and the template files are looked at after every fifth."""
+for what comes of it. Both stores and the template files are looked at after every fifth. Then another, before whom the
+program stands still each time, and gets five things at once."""
 
+import contextlib
 import random
 import sys
 import time
@@ -17,6 +19,7 @@ SETTINGS = {COPY_TARGETS: folder_records(7), COMMON_FOLDERS: folder_records(7)}
 PROTECTED_ACTIONS = [*FIXED_ACTIONS, "Screenshots by Snapfin", "Pin\u3001Annotation by Snapfin"]
 SIZES = ((940, 646), (920, 526), (1100, 800))
 FEWEST_ROWS = 4
+STEPS_AT_ONCE = 5
 # Two clicks at one place within a shorter time are a double click, and so are one and a turn of the wheel.
 PAUSE_SECONDS = 0.35
 
@@ -159,19 +162,22 @@ class Walk:
     def resize(self):
         self.desktop.window.resize(*self.random.choice(SIZES))
 
-    STEPS = (show_another_page, remove, switch, switch_by_key, switch_all, rename, rename, drag, drag, move_by_key,
-             reset, undo, redo, turn_the_wheel, resize)
+    STEPS = (show_another_page, remove, switch, switch_by_key, switch_all, rename, rename, move_by_key, reset, undo,
+             redo, turn_the_wheel)
+    # In these the person waits for what is to be seen.
+    WATCHED_STEPS = (drag, drag, resize)
 
-    def go(self, steps):
+    def go(self, steps, is_held_up):
+        choice = self.STEPS if is_held_up else self.STEPS + self.WATCHED_STEPS
         done = []
-        for number in range(1, steps + 1):
-            step = self.random.choice(self.STEPS)
-            step(self)
-            done.append(f"{step.__name__} in {self.key}")
-            time.sleep(PAUSE_SECONDS)
-            if number % 5 == 0 or number == steps:
+        while len(done) < steps:
+            with self.desktop.held_up() if is_held_up else contextlib.nullcontext():
+                for step in self.random.choices(choice, k=min(STEPS_AT_ONCE, steps - len(done))):
+                    step(self)
+                    done.append(f"{step.__name__} in {self.key}")
+                    time.sleep(PAUSE_SECONDS)
                 self.end_edit()
-                self.model.expect(f"{number} steps, the last of them {', '.join(done[-8:])}")
+            self.model.expect(f"{len(done)} steps, the last of them {', '.join(done[-8:])}")
 
     def go_back_and_forth(self):
         for key, step in ((command("z"), self.model.undo), (shift_command("z"), self.model.redo)):
@@ -182,11 +188,12 @@ class Walk:
 
 def main():
     program, steps, seed = sys.argv[1], int(sys.argv[2]), int(sys.argv[3])
-    with application(program, f"random-walk-{seed}")(SETTINGS) as (desktop, model):
-        walk = Walk(desktop, model, seed)
-        walk.go(steps)
-        walk.go_back_and_forth()
-    print(f"random walk: {steps} steps from seed {seed}, both stores and the template files as expected")
+    for name, is_held_up in ((f"random-walk-{seed}", False), (f"random-walk-{seed}-held-up", True)):
+        with application(program, name)(SETTINGS) as (desktop, model):
+            walk = Walk(desktop, model, seed)
+            walk.go(steps, is_held_up)
+            walk.go_back_and_forth()
+        print(f"{name}: {steps} steps, both stores and the template files as expected", flush=True)
 
 
 if __name__ == "__main__":

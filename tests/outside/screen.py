@@ -9,6 +9,8 @@ from tests.outside.work import is_working
 
 # A hand is no faster, and programs tell a drag from a click by it.
 STEP_SECONDS = 0.04
+# From one click to the next. A window manager, which sees each first, loses some that come at once.
+CLICK_MILLISECONDS = 60
 # Longer than a program rests before it goes on with what a key or a button does.
 STILL_SECONDS = 0.15
 # A look at the whole screen takes a thousandth of a second.
@@ -174,9 +176,9 @@ class Window:
         x, y = (round(part) for part in place)
         self.screen.xdotool("mousemove", "--window", self.number, x, y)
 
-    def click(self, place, times=1, button=BUTTON, delay=60):
+    def click(self, place, times=1, button=BUTTON):
         self.move(place)
-        self.screen.xdotool("click", "--repeat", times, "--delay", delay, button)
+        self.screen.xdotool("click", "--repeat", times, "--delay", CLICK_MILLISECONDS, button)
 
     def drag_to(self, start, end, steps=12):
         """Holds the button down, also afterwards."""

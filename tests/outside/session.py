@@ -2,6 +2,7 @@
 
 import contextlib
 import pathlib
+import signal
 import subprocess
 
 from harness.user_folder import Display, UserFolder
@@ -73,6 +74,16 @@ class Session:
     def end(process):
         process.kill()
         process.wait(END_SECONDS)
+
+    @contextlib.contextmanager
+    def held_up(self):
+        """The application stands still, and then gets at once what is done meanwhile: no hand is faster."""
+        self.application.send_signal(signal.SIGSTOP)
+        try:
+            yield
+            self.screen.settle()
+        finally:
+            self.application.send_signal(signal.SIGCONT)
 
     def log(self, program):
         return pathlib.Path(self.user.name, f"{pathlib.Path(program).name}.log")

@@ -11,28 +11,43 @@ from tests.outside.places import PAGE_OF
 from tests.outside.screen import BUTTON, command
 
 GAP = 0.05
-FAST = 10
 # In the menu bar, and the number of its first item.
 APPLICATION_MENU, ABOUT = (30, 10), 1
+
+
+def click(desktop, name, *arguments, times):
+    with desktop.held_up():
+        desktop.click(name, *arguments, times=times)
 
 
 def clicks_in_a_row_count_each(start):
     with start() as (desktop, model):
         desktop.select(4)
-        desktop.click("remove", times=2, delay=FAST)
+        click(desktop, "remove", times=2)
         model.remove(TEMPLATES, model.remove(TEMPLATES, 4))
         model.expect("two rows less")
         for key, row in ((TEMPLATES, 1), (ICONS, 2), (ACTIONS, 0)):
             desktop.show_list(key)
             for times in (2, 3):
-                desktop.click("row_switch", row, times=times, delay=FAST)
+                click(desktop, "row_switch", row, times=times)
                 for _ in range(times):
                     model.toggle(key, row)
                 model.expect(f"{times} clicks on a row switch of {key}")
-                desktop.click("enable_all", times=times, delay=FAST)
+                click(desktop, "enable_all", times=times)
                 for _ in range(times):
                     model.enable_all(key, not model.is_all_on(key))
                 model.expect(f"{times} clicks on the switch of all rows of {key}")
+
+
+def a_name_is_typed_right_after_another_edit_was_abandoned(start):
+    with start() as (desktop, model):
+        with desktop.held_up():
+            desktop.start_typing(3, "Abandoned")
+            desktop.screen.key("Escape")
+            desktop.start_typing(5, "Report")
+            desktop.screen.key("Return")
+        model.edit(TEMPLATES, 5, "NewFileDisplayName", "Report")
+        model.expect("the typed name")
 
 
 def deleting_goes_on_until_the_list_is_empty(start):
@@ -44,7 +59,7 @@ def deleting_goes_on_until_the_list_is_empty(start):
             row = model.remove(COMMON_FOLDERS, row)
         desktop.screen.key(*["Delete"] * 9)
         model.expect("an empty list")
-        desktop.click("remove", times=2, delay=FAST)
+        click(desktop, "remove", times=2)
         model.expect("still an empty list")
 
 
@@ -129,7 +144,8 @@ def a_menu_or_panel_that_closes_beside_the_minimised_window_does_not_end_the_app
 
 
 if __name__ == "__main__":
-    run_checks(clicks_in_a_row_count_each, deleting_goes_on_until_the_list_is_empty,
-               a_row_is_dragged_while_the_wheel_turns, quitting_in_the_middle_of_a_drag_keeps_the_list,
+    run_checks(clicks_in_a_row_count_each, a_name_is_typed_right_after_another_edit_was_abandoned,
+               deleting_goes_on_until_the_list_is_empty, a_row_is_dragged_while_the_wheel_turns,
+               quitting_in_the_middle_of_a_drag_keeps_the_list,
                a_request_to_end_in_the_middle_of_a_drag_keeps_the_list,
                a_menu_or_panel_that_closes_beside_the_minimised_window_does_not_end_the_application)
