@@ -41,7 +41,12 @@ Ring ringOfButton(NSButton *button) {
     if (![[button cell] alternateImage]) {
         return ringAround(button, NSInsetRect(bounds, 0, [button isBordered] ? 1 : 0), TNThemeButtonRadius);
     }
-    const CGFloat left = [[button title] length] == 0 ? NSMidX(bounds) - boxSize / 2 : NSMinX(bounds) + 1;
+    CGFloat left = NSMinX(bounds) + 1;
+    if ([[button title] length] == 0) {
+        left = NSMidX(bounds) - boxSize / 2;
+    } else if ([button imagePosition] == NSImageRight) {
+        left = NSMaxX(bounds) - 1 - boxSize;
+    }
     return ringAround(button, NSMakeRect(left, NSMidY(bounds) - boxSize / 2, boxSize, boxSize), boxRadius);
 }
 

@@ -5,14 +5,17 @@ step."""
 from harness.stores import ACTIONS, COPY_TARGETS, TEMPLATES, folder_records
 from harness.waiting import wait_until
 from tests.outside.checks import require, run_checks
+from tests.outside.commands import ACCENT
 from tests.outside.picture import Picture
 from tests.outside.places import PAGES, constant
 from tests.outside.screen import command
 
 NAME = "NewFileDisplayName"
-OPENING, SECOND_OPTION = "enableAutoOpenAfterCreateNewFile", 1
+OPENING, SECOND_OPTION, UNCHECKED_OPTION = "enableAutoOpenAfterCreateNewFile", 1, 3
 # Of a row, from its top.
 GAP = 0.05
+# Where the ring around a box is at its sides, from its middle.
+RING_SIDES = (-12, -7), (7, 12)
 # Of the heading's line, from the margin: its title is in it, and far longer than this.
 TITLE_END = 40
 
@@ -74,5 +77,23 @@ def texts_begin_at_the_right(start):
         require(colours(left) == 1, "something at the left of the title")
 
 
+def the_focus_is_shown_around_the_box_of_a_switch(start):
+    with start(is_right_to_left=True) as (desktop, _):
+        x, y = map(round, desktop.seen(desktop.places.switch(UNCHECKED_OPTION)))
+
+        def sides_with_a_ring():
+            picture = Picture(desktop.window.picture())
+            return [side for side in RING_SIDES if ACCENT in picture.colours(x + side[0], y, x + side[1], y + 1)]
+
+        def goes_on():
+            desktop.screen.key("Tab")
+            desktop.screen.settle()
+            return sides_with_a_ring()
+
+        wait_until(goes_on, "the focus on the switch")
+        require(len(sides_with_a_ring()) == 2, "the ring is not around the box")
+
+
 if __name__ == "__main__":
-    run_checks(controls_are_where_a_mirror_shows_them, rows_are_edited_dragged_and_found, texts_begin_at_the_right)
+    run_checks(controls_are_where_a_mirror_shows_them, rows_are_edited_dragged_and_found, texts_begin_at_the_right,
+               the_focus_is_shown_around_the_box_of_a_switch)
