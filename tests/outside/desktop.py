@@ -65,6 +65,19 @@ class Desktop(Session):
     def show_list(self, key):
         self.show(PAGE_OF[key])
 
+    def is_in_sight(self):
+        return self.window.number in [window.number for window in self.screen.windows(self.title)]
+
+    def minimise(self):
+        self.window.minimise()
+        wait_until(lambda: not self.is_in_sight(), "the end of the window", process=self.application)
+        self.screen.settle()
+
+    def bring_back(self):
+        self.window.bring_back()
+        wait_until(self.is_in_sight, "the window", process=self.application)
+        self.screen.settle()
+
     def place(self, name, *arguments):
         """Of a control of the page, by its name among the places: "remove", "reset", "row_switch", 3."""
         return self.seen(getattr(self.places, name)(self.page, *arguments))

@@ -160,6 +160,10 @@ class Window:
     def minimise(self):
         self.screen.xdotool("windowminimize", self.number)
 
+    def bring_back(self):
+        for step in ("windowmap", "windowactivate"):
+            self.screen.xdotool(step, self.number)
+
     def has_focus(self):
         return self.screen.xdotool("getwindowfocus") == [self.number]
 

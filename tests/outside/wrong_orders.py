@@ -107,37 +107,20 @@ def a_request_to_end_in_the_middle_of_a_drag_keeps_the_list(start):
         model.expect("the list as it was, after another start")
 
 
-def minimise(desktop):
-    desktop.window.minimise()
-    wait_until(lambda: not is_in_sight(desktop), "the end of the window")
-    desktop.screen.settle()
-
-
-def is_in_sight(desktop):
-    return desktop.window.number in [window.number for window in desktop.screen.windows(desktop.title)]
-
-
-def bring_back(desktop):
-    desktop.screen.xdotool("windowmap", desktop.window.number)
-    desktop.screen.xdotool("windowactivate", desktop.window.number)
-    wait_until(lambda: is_in_sight(desktop), "the window", process=desktop.application)
-    desktop.screen.settle()
-
-
 def a_menu_or_panel_that_closes_beside_the_minimised_window_does_not_end_the_application(start):
     with start() as (desktop, model):
         open_menu(desktop, desktop.place("cell", 2))
-        minimise(desktop)
-        bring_back(desktop)
+        desktop.minimise()
+        desktop.bring_back()
         desktop.click("row_switch", 4)
         model.toggle(TEMPLATES, 4)
         model.expect("a row switched after a menu")
         open_menu(desktop, APPLICATION_MENU, BUTTON)
         choose(desktop, ABOUT)
-        minimise(desktop)
+        desktop.minimise()
         desktop.screen.key("alt+F4")
         wait_until(lambda: not desktop.screen.windows(desktop.title), "the end of the panel")
-        bring_back(desktop)
+        desktop.bring_back()
         desktop.click("row_switch", 4)
         model.toggle(TEMPLATES, 4)
         model.expect("a row switched after a panel")
