@@ -86,6 +86,8 @@ NSString *message(id self, SEL) {
         TNSetAttachment(_okButton, standardPromptName, [_okButton title]);
     }
     [_okButton setTitle:[prompt length] > 0 ? prompt : TNAttachment(_okButton, standardPromptName)];
+    // That of the Return key, which is blank here, and takes its room.
+    [_okButton setImagePosition:NSNoImage];
     CGFloat right = NSMaxX([_okButton frame]);
     for (const NSInteger tag :
         {NSFileHandlingPanelOKButton, NSFileHandlingPanelCancelButton, NSFileHandlingPanelDiskEjectButton,

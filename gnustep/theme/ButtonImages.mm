@@ -124,7 +124,7 @@ void draw(id self, SEL command, NSImage *image, NSRect frame, NSView *view) {
 constexpr CGFloat titleRoom = 2;
 
 bool isTitledCheckBox(NSButtonCell *cell) {
-    return [cell alternateImage] && [cell imagePosition] != NSImageOnly && [[cell title] length] > 0;
+    return TNIsCheckBox(cell) && [cell imagePosition] != NSImageOnly && [[cell title] length] > 0;
 }
 
 using DrawTitle = NSRect (*)(id self, SEL command, NSAttributedString *title, NSRect frame, NSView *view);
@@ -154,6 +154,10 @@ BOOL dims(id self, SEL) {
 }
 
 } // namespace
+
+bool TNIsCheckBox(NSButtonCell *cell) {
+    return ([cell showsStateBy] & NSContentsCellMask) != 0 && ![cell isBordered];
+}
 
 @implementation NSImage (TNTemplates)
 

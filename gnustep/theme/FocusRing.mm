@@ -38,7 +38,7 @@ Ring ringOfButton(NSButton *button) {
     constexpr CGFloat boxSize = 14;
     constexpr CGFloat boxRadius = 3.5;
     const NSRect bounds = [button bounds];
-    if (![[button cell] alternateImage]) {
+    if (!TNIsCheckBox([button cell])) {
         return ringAround(button, NSInsetRect(bounds, 0, [button isBordered] ? 1 : 0), TNThemeButtonRadius);
     }
     CGFloat left = NSMinX(bounds) + 1;

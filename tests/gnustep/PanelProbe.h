@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 /// Open and save panels in a program that has started up.
 namespace tarnwick::probe {
@@ -20,6 +21,9 @@ struct PanelTexts {
 PanelTexts givenTexts(const std::string& title, const std::string& message, const std::string& prompt);
 /// The same, asked for once more.
 PanelTexts textsOfNextPanel();
+/// How many pixels of that prompt are to be seen on a save panel's default button, as wide as the panel makes
+/// it and with room to spare.
+std::pair<int, int> promptPixels(const std::string& prompt);
 
 struct SaveAnswer {
     long answer = -1;

@@ -90,6 +90,23 @@ int inkOf(NSView *view, NSRect rect) {
     return ink;
 }
 
+/// The title of a default button is white.
+int whitePixelsOf(NSButton *button) {
+    [[button window] display];
+    [button lockFocus];
+    NSBitmapImageRep *pixels =
+        [[[NSBitmapImageRep alloc] initWithFocusedViewRect:NSInsetRect([button bounds], 4, 4)] autorelease];
+    [button unlockFocus];
+    int white = 0;
+    for (NSInteger y = 0; y < [pixels pixelsHigh]; ++y) {
+        for (NSInteger x = 0; x < [pixels pixelsWide]; ++x) {
+            NSColor *color = [[pixels colorAtX:x y:y] colorUsingColorSpaceName:NSCalibratedWhiteColorSpace];
+            white += [color whiteComponent] > 0.9 ? 1 : 0;
+        }
+    }
+    return white;
+}
+
 } // namespace
 
 PanelTexts givenTexts(const std::string &title, const std::string &message, const std::string &prompt) {
@@ -106,6 +123,27 @@ PanelTexts givenTexts(const std::string &title, const std::string &message, cons
 PanelTexts textsOfNextPanel() {
     @autoreleasepool {
         return textsOf([NSSavePanel savePanel]);
+    }
+}
+
+std::pair<int, int> promptPixels(const std::string &prompt) {
+    @autoreleasepool {
+        startUp();
+        std::pair<int, int> pixels;
+        NSSavePanel *panel = [NSSavePanel savePanel];
+        [panel setPrompt:text(prompt)];
+        [panel setNameFieldStringValue:@"Name"];
+        [panel beginWithCompletionHandler:^(NSInteger){
+        }];
+        runPanel([panel, &pixels] {
+            constexpr double spare = 40;
+            NSButton *button = buttonWithTag(panel, NSFileHandlingPanelOKButton);
+            pixels.first = whitePixelsOf(button);
+            [button setFrame:NSInsetRect([button frame], -spare, 0)];
+            pixels.second = whitePixelsOf(button);
+            [panel cancel:nil];
+        });
+        return pixels;
     }
 }
 

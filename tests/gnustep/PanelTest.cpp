@@ -28,6 +28,14 @@ TEST(Panel, ShowsItsTitleItsMessageAndItsPromptOnTheDefaultButton) {
     EXPECT_TRUE(texts.buttonsAreApart);
 }
 
+TEST(Panel, HasRoomForItsPrompt) {
+    for (const auto* prompt : {"Export", "Exporter", "Export These Settings"}) {
+        const auto [pixels, pixelsWithRoom] = promptPixels(prompt);
+        EXPECT_GT(pixels, 0) << prompt;
+        EXPECT_EQ(pixels, pixelsWithRoom) << prompt;
+    }
+}
+
 TEST(Panel, HasNoneOfTheTextsOfTheOneBefore) {
     static_cast<void>(givenTexts("Export", "Where to?", "Export These Settings"));
     const auto texts = textsOfNextPanel();

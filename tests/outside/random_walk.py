@@ -30,6 +30,7 @@ class Walk:
     def __init__(self, desktop, model, seed):
         self.desktop, self.model, self.random = desktop, model, random.Random(seed)
         self.is_editing = False
+        self.renamed_row = None
         self.texts = 0
 
     @property
@@ -99,6 +100,10 @@ class Walk:
 
     def rename(self):
         row = self.any_row(FIXED_ACTIONS)
+        if row == self.renamed_row:
+            # Clicks into a name that is being edited go on with it.
+            self.end_edit()
+        self.renamed_row = row
         self.texts += 1
         text = f"Name {self.texts}"
         self.desktop.click("cell", row, times=2)
