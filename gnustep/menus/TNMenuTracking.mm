@@ -18,6 +18,8 @@ constexpr NSTimeInterval submenuDelay = 0.15;
 constexpr NSTimeInterval tipDelay = 0.8;
 constexpr NSTimeInterval scrollPeriod = 0.04;
 constexpr CGFloat scrollStep = 24;
+/// As far as scroll views go.
+constexpr CGFloat wheelStep = 10;
 constexpr int pageRows = 10;
 
 NSTimeInterval now() {
@@ -236,7 +238,7 @@ void TNMenuTracking::wheel(NSEvent *event) {
     const auto depth = menus_.depthAt(screenPlaceOf(event));
     if (depth > 0) {
         menus_.closeBelow(depth);
-        [menus_[depth - 1] scrollBy:-3 * scrollStep * [event deltaY]];
+        [menus_[depth - 1] scrollBy:-wheelStep * [event deltaY]];
     }
 }
 

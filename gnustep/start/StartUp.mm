@@ -53,6 +53,8 @@ void registerInitialDefaults(NSArray *languages, NSString *han) {
         // It has its scrollers at the left.
         [values setObject:@"NSNextStepInterfaceStyle" forKey:@"NSScrollViewInterfaceStyle"];
     }
+    // Times ten points, which would be no more than a third of a row.
+    [values setObject:@"5" forKey:@"GSMouseScrollMultiplier"];
     // The menu bar stands in the window.
     [values setObject:@"NSWindows95InterfaceStyle" forKey:@"NSMenuInterfaceStyle"];
     // Report, instead of dropping, what event handlers raise.

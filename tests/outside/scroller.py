@@ -1,4 +1,4 @@
-"""python3 -m tests.outside.scroller PROGRAM: the knob beside a long list, taken hold of with a real pointer."""
+"""python3 -m tests.outside.scroller PROGRAM: long lists scrolled with a real pointer, by the knob and by the wheel."""
 
 from harness.stores import COMMON_FOLDERS, folder_records
 from tests.outside.checks import require, run_checks
@@ -33,5 +33,17 @@ def the_knob_beside_ten_thousand_rows_can_be_taken_hold_of(start):
         model.expect("all rows but the last, to which the knob led")
 
 
+def six_notches_of_the_wheel_are_ten_rows(start):
+    with start({COMMON_FOLDERS: folder_records(30)}) as (desktop, model):
+        desktop.show_list(COMMON_FOLDERS)
+        desktop.window.move(desktop.place("cell", 0))
+        desktop.screen.wheel(6)
+        desktop.screen.settle(0.2)
+        desktop.select(0)
+        desktop.click("remove")
+        model.remove(COMMON_FOLDERS, 10)
+        model.expect("all rows but the one that was scrolled to the top")
+
+
 if __name__ == "__main__":
-    run_checks(the_knob_beside_ten_thousand_rows_can_be_taken_hold_of)
+    run_checks(the_knob_beside_ten_thousand_rows_can_be_taken_hold_of, six_notches_of_the_wheel_are_ten_rows)
