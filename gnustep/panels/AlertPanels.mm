@@ -4,6 +4,7 @@
 
 #import <AppKit/AppKit.h>
 
+#import "gnustep/panels/PanelLanguages.h"
 #import "gnustep/runtime/MethodReplacement.h"
 
 #include <algorithm>
@@ -61,6 +62,7 @@ CGFloat placeButtons(NSArray *buttons, CGFloat width) {
 /// A message that is too long for the screen keeps the toolkit's layout, in which it scrolls.
 void size(id self, SEL command) {
     nativeSize(self, command);
+    [self setTitle:TNPanelText(@"Alert")];
     NSTextField *title = part(self, "titleField");
     NSTextField *message = part(self, "messageField");
     NSButton *icon = part(self, "icoButton");

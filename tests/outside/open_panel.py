@@ -53,6 +53,14 @@ def a_panel_can_be_read_and_looks_the_same_the_second_time(start):
         model.expect("no change by cancelled panels")
 
 
+def a_panel_speaks_the_language_of_the_window(start):
+    """Also one that the toolkit has no texts in."""
+    for language, title in (("zh-Hans", "\u6253\u5f00"), ("fr", "Ouvrir")):
+        with start(language=language) as (desktop, _):
+            desktop.click("add")
+            OpenPanel(desktop.screen, f"^{title}$").cancel()
+
+
 def the_prompt_of_a_first_launch_has_the_keyboard(start):
     for _ in range(4):
         with start(is_first_launch=True) as (desktop, _):
@@ -171,7 +179,7 @@ def ending_with_an_open_panel_keeps_the_lists(start):
 
 
 if __name__ == "__main__":
-    run_checks(a_panel_can_be_read_and_looks_the_same_the_second_time,
+    run_checks(a_panel_can_be_read_and_looks_the_same_the_second_time, a_panel_speaks_the_language_of_the_window,
                the_prompt_of_a_first_launch_has_the_keyboard,
                a_panel_stays_in_front_of_the_window_that_waits_for_it,
                a_panel_that_the_window_manager_closes_is_cancelled,

@@ -1,0 +1,52 @@
+// Missing: the texts of panels in languages that GNUstep GUI 0.29 has no table for, Chinese among them, and
+// the title of alerts in any. Here the application's own table is asked for them first.
+
+#import <AppKit/AppKit.h>
+
+#import "gnustep/panels/PanelLanguages.h"
+
+#import "gnustep/runtime/MethodReplacement.h"
+
+namespace {
+
+using Localized = NSString *(*)(id self, SEL command, NSString *key, NSString *value, NSString *table);
+Localized nativeLocalized = nullptr;
+
+bool isToolkits(NSBundle *bundle) {
+    static NSString *const folder = [[[NSBundle bundleForLibrary:@"gnustep-gui"] bundlePath] copy];
+    return [[bundle bundlePath] isEqualToString:folder];
+}
+
+/// What the panels show that an application brings up itself.
+bool isOfPanels(NSString *key) {
+    static NSSet *const keys =
+        [[NSSet alloc] initWithObjects:@"Alert", @"Cancel", @"Name:", @"OK", @"Open", @"Save", nil];
+    return [keys containsObject:key];
+}
+
+NSString *localized(id self, SEL command, NSString *key, NSString *value, NSString *table) {
+    if (isOfPanels(key) && isToolkits(self)) {
+        NSString *own = nativeLocalized([NSBundle mainBundle], command, key, nil, nil);
+        if (![own isEqualToString:key]) {
+            return own;
+        }
+    }
+    return nativeLocalized(self, command, key, value, table);
+}
+
+} // namespace
+
+NSString *TNPanelText(NSString *key) {
+    return [[NSBundle bundleForLibrary:@"gnustep-gui"] localizedStringForKey:key value:nil table:nil];
+}
+
+@interface NSBundle (TNPanelLanguages)
+@end
+
+@implementation NSBundle (TNPanelLanguages)
+
++ (void)load {
+    nativeLocalized = TNReplaceMethod(self, @selector(localizedStringForKey:value:table:), localized);
+}
+
+@end
