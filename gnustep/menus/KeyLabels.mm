@@ -1,4 +1,5 @@
 // Wrong: the keys that menus show, as of GNUstep GUI 0.29: "#z" for Command and Z, and nothing for Shift.
+// Their names are those of the application's table, where it has them.
 
 #import "gnustep/menus/KeyLabels.h"
 
@@ -11,10 +12,10 @@ const struct {
     NSUInteger flag;
     NSString *name;
 } modifiers[] = {
-    {NSControlKeyMask, @"Ctrl+"},
-    {NSEventModifierFlagOption, @"AltGr+"},
-    {NSEventModifierFlagShift, @"Shift+"},
-    {NSEventModifierFlagCommand, @"Alt+"},
+    {NSControlKeyMask, @"Ctrl"},
+    {NSEventModifierFlagOption, @"AltGr"},
+    {NSEventModifierFlagShift, @"Shift"},
+    {NSEventModifierFlagCommand, @"Alt"},
 };
 
 const struct {
@@ -39,10 +40,14 @@ const struct {
     {NSPageDownFunctionKey, @"Page Down"},
 };
 
+NSString *localized(NSString *name) {
+    return [[NSBundle mainBundle] localizedStringForKey:name value:name table:nil];
+}
+
 NSString *nameOf(unichar character) {
     for (const auto &key : keys) {
         if (key.character == character) {
-            return key.name;
+            return localized(key.name);
         }
     }
     if (character >= NSF1FunctionKey && character <= NSF35FunctionKey) {
@@ -66,7 +71,7 @@ NSString *TNKeyLabel(NSMenuItem *item) {
     NSMutableString *label = [NSMutableString string];
     for (const auto &modifier : modifiers) {
         if ((mask & modifier.flag) != 0) {
-            [label appendString:modifier.name];
+            [label appendFormat:@"%@+", localized(modifier.name)];
         }
     }
     NSString *name = nameOf([key characterAtIndex:0]);
