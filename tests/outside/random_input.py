@@ -7,7 +7,7 @@ import random
 import subprocess
 import sys
 
-from harness.stores import COMMON_FOLDERS, COPY_TARGETS, folder_records
+from harness.stores import ACTIONS, COMMON_FOLDERS, COPY_TARGETS, folder_records
 from harness.waiting import NotSeen, wait_until
 from tests.outside.checks import application, require
 from tests.outside.model import Model
@@ -36,6 +36,7 @@ class Hands:
     def __init__(self, desktop, seed):
         self.desktop, self.screen, self.random = desktop, desktop.screen, random.Random(seed)
         self.done = []
+        self.has_started_again = False
 
     def place(self):
         width, height = self.desktop.window.size()
@@ -121,19 +122,24 @@ class Hands:
             require(status == 0, f"the application ended with status {status}")
             require(kind == "click" or ENDINGS.intersection(what), "the application has ended unasked")
             self.desktop.start()
+            self.has_started_again = True
 
     def expect_agreement(self):
         """A list that is not synchronised is stored half a second later."""
         found = []
 
         def agree():
-            found[:] = Model(self.desktop.stores).differences()
+            found[:] = filter(self.is_wrong, Model(self.desktop.stores).differences())
             return not found
 
         try:
             wait_until(agree, "both stores in agreement", process=self.desktop.application)
         except NotSeen as error:
             raise NotSeen(f"{error}: {found}") from None
+
+    def is_wrong(self, difference):
+        """A start puts editors that were removed back into the list and publishes it; the next edit stores it."""
+        return not (self.has_started_again and difference.startswith(f"published {ACTIONS}"))
 
     def go(self, steps):
         for number in range(1, steps + 1):
