@@ -60,7 +60,7 @@ void TNThemeInstallImage(NSString *name, NSSize size, void (^drawing)(NSRect bou
 /// The system's named colours in the current appearance; autoreleased.
 NSColorList *TNThemeMakeColorList();
 
-/// Whether a button is a box with a title; default buttons too have a second picture.
+/// Whether a button is a box that shows its state; default buttons too have a second picture.
 bool TNIsCheckBox(NSButtonCell *cell);
 /// Of the corners of a push button.
 constexpr CGFloat TNThemeButtonRadius = 6;

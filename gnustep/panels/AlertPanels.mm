@@ -72,9 +72,8 @@ void size(id self, SEL command) {
     NSMutableArray *buttons = [NSMutableArray array];
     for (const char *name : {"defButton", "altButton", "othButton"}) {
         if (NSButton *button = part(self, name)) {
-            // The default one bears an arrow, which makes it look to others like a check box.
-            [button setImage:nil];
-            [button setAlternateImage:nil];
+            // That of the Return key, which is blank here, and takes its room.
+            [button setImagePosition:NSNoImage];
             [buttons addObject:button];
         }
     }

@@ -12,12 +12,12 @@ namespace {
 using Localized = NSString *(*)(id self, SEL command, NSString *key, NSString *value, NSString *table);
 Localized nativeLocalized = nullptr;
 
-bool isToolkits(NSBundle *bundle) {
-    static NSString *const folder = [[[NSBundle bundleForLibrary:@"gnustep-gui"] bundlePath] copy];
-    return [[bundle bundlePath] isEqualToString:folder];
+NSBundle *toolkit() {
+    static NSBundle *const bundle = [[NSBundle bundleForLibrary:@"gnustep-gui"] retain];
+    return bundle;
 }
 
-/// What the panels show that an application brings up itself.
+/// What alerts and file panels show of their own.
 bool isOfPanels(NSString *key) {
     static NSSet *const keys =
         [[NSSet alloc] initWithObjects:@"Alert", @"Cancel", @"Name:", @"OK", @"Open", @"Save", nil];
@@ -25,7 +25,7 @@ bool isOfPanels(NSString *key) {
 }
 
 NSString *localized(id self, SEL command, NSString *key, NSString *value, NSString *table) {
-    if (isOfPanels(key) && isToolkits(self)) {
+    if (isOfPanels(key) && [[self bundlePath] isEqualToString:[toolkit() bundlePath]]) {
         NSString *own = nativeLocalized([NSBundle mainBundle], command, key, nil, nil);
         if (![own isEqualToString:key]) {
             return own;
@@ -37,7 +37,7 @@ NSString *localized(id self, SEL command, NSString *key, NSString *value, NSStri
 } // namespace
 
 NSString *TNPanelText(NSString *key) {
-    return [[NSBundle bundleForLibrary:@"gnustep-gui"] localizedStringForKey:key value:nil table:nil];
+    return [toolkit() localizedStringForKey:key value:nil table:nil];
 }
 
 @interface NSBundle (TNPanelLanguages)

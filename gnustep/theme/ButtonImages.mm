@@ -1,6 +1,5 @@
-// Missing: template images, pictures of disabled check boxes, and room between a check box and its title, as
-// of GNUstep GUI 0.29, which draws every picture as it is, or with half of it gone when its button is
-// disabled.
+// Missing: template images, and pictures of disabled check boxes, as of GNUstep GUI 0.29, which draws every
+// picture as it is, or with half of it gone when its button is disabled.
 
 #import "TNTheme.h"
 
@@ -121,32 +120,6 @@ void draw(id self, SEL command, NSImage *image, NSRect frame, NSView *view) {
     nativeDraw(self, command, shownPicture(self, image), frame, view);
 }
 
-constexpr CGFloat titleRoom = 2;
-
-bool isTitledCheckBox(NSButtonCell *cell) {
-    return TNIsCheckBox(cell) && [cell imagePosition] != NSImageOnly && [[cell title] length] > 0;
-}
-
-using DrawTitle = NSRect (*)(id self, SEL command, NSAttributedString *title, NSRect frame, NSView *view);
-DrawTitle nativeDrawTitle = nullptr;
-
-NSRect drawTitle(id self, SEL command, NSAttributedString *title, NSRect frame, NSView *view) {
-    if (isTitledCheckBox(self)) {
-        frame.size.width -= titleRoom;
-        frame.origin.x += [self imagePosition] == NSImageRight ? 0 : titleRoom;
-    }
-    return nativeDrawTitle(self, command, title, frame, view);
-}
-
-using CellSize = NSSize (*)(id self, SEL command);
-CellSize nativeCellSize = nullptr;
-
-NSSize cellSize(id self, SEL command) {
-    NSSize size = nativeCellSize(self, command);
-    size.width += isTitledCheckBox(self) ? titleRoom : 0;
-    return size;
-}
-
 /// GNUstep has this off from the start.
 BOOL dims(id self, SEL) {
     NSImage *image = [self image];
@@ -154,10 +127,6 @@ BOOL dims(id self, SEL) {
 }
 
 } // namespace
-
-bool TNIsCheckBox(NSButtonCell *cell) {
-    return ([cell showsStateBy] & NSContentsCellMask) != 0 && ![cell isBordered];
-}
 
 @implementation NSImage (TNTemplates)
 
@@ -182,8 +151,6 @@ bool TNIsCheckBox(NSButtonCell *cell) {
 
 + (void)load {
     nativeDraw = TNReplaceMethod(self, @selector(drawImage:withFrame:inView:), draw);
-    nativeDrawTitle = TNReplaceMethod(self, @selector(drawTitle:withFrame:inView:), drawTitle);
-    nativeCellSize = TNReplaceMethod(self, @selector(cellSize), cellSize);
     TNReplaceMethod(self, @selector(imageDimsWhenDisabled), dims);
 }
 

@@ -70,21 +70,26 @@ void runPanel(const std::function<void()> &whenUp) {
     driving::settle();
 }
 
-int inkOf(NSView *view, NSRect rect) {
+NSBitmapImageRep *pixelsOf(NSView *view, NSRect rect) {
     [view lockFocus];
     NSBitmapImageRep *pixels = [[[NSBitmapImageRep alloc] initWithFocusedViewRect:rect] autorelease];
     [view unlockFocus];
-    const auto brightness = [pixels](NSInteger x, NSInteger y) {
-        NSColor *color = [[pixels colorAtX:x y:y] colorUsingColorSpaceName:NSCalibratedWhiteColorSpace];
-        return [color whiteComponent];
-    };
+    return pixels;
+}
+
+CGFloat brightnessOf(NSBitmapImageRep *pixels, NSInteger x, NSInteger y) {
+    return [[[pixels colorAtX:x y:y] colorUsingColorSpaceName:NSCalibratedWhiteColorSpace] whiteComponent];
+}
+
+int inkOf(NSView *view, NSRect rect) {
+    NSBitmapImageRep *pixels = pixelsOf(view, rect);
     // The icon is left of the name.
     constexpr NSInteger iconWidth = 20;
-    const double background = brightness([pixels pixelsWide] - 30, [pixels pixelsHigh] / 2);
+    const double background = brightnessOf(pixels, [pixels pixelsWide] - 30, [pixels pixelsHigh] / 2);
     int ink = 0;
     for (NSInteger y = 1; y < [pixels pixelsHigh] - 1; ++y) {
         for (NSInteger x = iconWidth; x < [pixels pixelsWide] - 30; ++x) {
-            ink += background - brightness(x, y) > 0.3 ? 1 : 0;
+            ink += background - brightnessOf(pixels, x, y) > 0.3 ? 1 : 0;
         }
     }
     return ink;
@@ -93,15 +98,11 @@ int inkOf(NSView *view, NSRect rect) {
 /// The title of a default button is white.
 int whitePixelsOf(NSButton *button) {
     [[button window] display];
-    [button lockFocus];
-    NSBitmapImageRep *pixels =
-        [[[NSBitmapImageRep alloc] initWithFocusedViewRect:NSInsetRect([button bounds], 4, 4)] autorelease];
-    [button unlockFocus];
+    NSBitmapImageRep *pixels = pixelsOf(button, NSInsetRect([button bounds], 4, 4));
     int white = 0;
     for (NSInteger y = 0; y < [pixels pixelsHigh]; ++y) {
         for (NSInteger x = 0; x < [pixels pixelsWide]; ++x) {
-            NSColor *color = [[pixels colorAtX:x y:y] colorUsingColorSpaceName:NSCalibratedWhiteColorSpace];
-            white += [color whiteComponent] > 0.9 ? 1 : 0;
+            white += brightnessOf(pixels, x, y) > 0.9 ? 1 : 0;
         }
     }
     return white;

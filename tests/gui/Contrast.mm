@@ -4,6 +4,7 @@
 #include "tests/gui/SettingsWindow.h"
 
 #import "adapters/foundation/StringConversion.h"
+#import "gnustep/include/TNTheme.h"
 
 #import <AppKit/AppKit.h>
 
@@ -120,7 +121,7 @@ private:
         NSFont *font = [title length] > 0
                            ? [title attribute:NSFontAttributeName atIndex:0 effectiveRange:nullptr]
                            : [button font];
-        const bool isBox = [cell alternateImage] != nil && ![button isBordered];
+        const bool isBox = TNIsCheckBox(cell);
         const CGFloat imageWidth = [button image] ? [[button image] size].width : 0;
         const NSRect picture = NSMakeRect(NSMinX(bounds), NSMidY(bounds) - 8, imageWidth, 16);
         constexpr CGFloat side = 8;

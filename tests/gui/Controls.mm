@@ -4,6 +4,7 @@
 #include "tests/gui/SettingsWindow.h"
 
 #import "adapters/foundation/StringConversion.h"
+#import "gnustep/include/TNTheme.h"
 
 #import <AppKit/AppKit.h>
 
@@ -24,8 +25,7 @@ std::string kindOf(NSView *view) {
         return [static_cast<NSTextField *>(view) isEditable] ? "field" : "text";
     }
     if ([view isKindOfClass:[NSButton class]]) {
-        // A check box keeps its state's picture; a push button has none of another state.
-        return [[static_cast<NSButton *>(view) cell] alternateImage] ? "check box" : "button";
+        return TNIsCheckBox([static_cast<NSButton *>(view) cell]) ? "check box" : "button";
     }
     return "other";
 }

@@ -5,12 +5,11 @@ from harness.stores import ACTIONS, COPY_TARGETS, TEMPLATES, folder_records
 from harness.waiting import wait_until
 from tests.outside.checks import require, run_checks
 from tests.outside.panels import OpenPanel, look_the_same
-from tests.outside.picture import Picture
+from tests.outside.picture import ACCENT, Picture
 from tests.outside.screen import BUTTON, COMMAND, CONTROL, RIGHT_BUTTON, command, shift_command
 
 # In the menu of a template, by the number of steps down to it.
 TURN_OFF, SHOW_IN_MAIN_MENU, REMOVE = 2, 3, 8
-ACCENT = bytes.fromhex("2f73da")
 ICON = 16
 
 

@@ -24,6 +24,24 @@ def file_of(record):
     return f"{record['displayName']}.{record['extension']}"
 
 
+def expect_none(differences, what):
+    """Once there is none."""
+    found = []
+
+    def holds():
+        try:
+            found[:] = differences()
+        except FileNotFoundError as error:
+            # A template file that is just taken away.
+            found[:] = [str(error)]
+        return not found
+
+    try:
+        wait_until(holds, what, 10)
+    except NotSeen:
+        raise NotSeen(f"{what}: " + "; ".join(found[:6])) from None
+
+
 class Step(NamedTuple):
     """What undo, or redo, brings back."""
 
@@ -187,17 +205,4 @@ class Model:
 
     def expect(self, what):
         """Once it is so. What is not synchronised is stored half a second later."""
-        found = []
-
-        def holds():
-            try:
-                found[:] = self.differences()
-            except FileNotFoundError as error:
-                # A template file that is just taken away.
-                found[:] = [str(error)]
-            return not found
-
-        try:
-            wait_until(holds, what, 10)
-        except NotSeen:
-            raise NotSeen(f"{what}: " + "; ".join(found[:6])) from None
+        expect_none(self.differences, what)

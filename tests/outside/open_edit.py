@@ -3,6 +3,7 @@ Both stores and the template files are looked at after each step."""
 
 from harness.stores import TEMPLATES
 from tests.outside.checks import require, run_checks
+from tests.outside.places import GAP
 from tests.outside.screen import command
 
 NAME = "NewFileDisplayName"
@@ -74,12 +75,12 @@ def rows_are_clicked_switched_and_dragged_under_an_edit(start):
         model.toggle(TEMPLATES, 4)
         model.expect("the typed name, and another row switched")
         desktop.start_typing(1, "Dragged")
-        desktop.window.drag(places.cell(page, 3), places.cell(page, 0, height=0.05))
+        desktop.window.drag(places.cell(page, 3), places.cell(page, 0, height=GAP))
         model.edit(TEMPLATES, 1, NAME, "Dragged")
         model.drop(TEMPLATES, 3, 0)
         model.expect("the typed name, and another row at the head")
         desktop.start_typing(2, "Pulled away")
-        desktop.window.drag(places.cell(page, 2, "NewFileIcon"), places.cell(page, 6, height=0.05))
+        desktop.window.drag(places.cell(page, 2, "NewFileIcon"), places.cell(page, 6, height=GAP))
         model.edit(TEMPLATES, 2, NAME, "Pulled away")
         model.drop(TEMPLATES, 2, 6)
         model.expect("the typed name in its own row, which was dragged")

@@ -6,6 +6,10 @@ PIXEL = base64.b64decode(
     "iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAYAAAAfFcSJAAAADUlEQVR4nGP4z8DwHwAFAAH/iZk9HQAAAABJRU5ErkJggg==")
 
 
+# Of rings, lines and marked menu items, in the light appearance.
+ACCENT = bytes.fromhex("2f73da")
+
+
 class Picture:
     """Of a portable pixmap."""
 

@@ -35,6 +35,10 @@ def constant(name):
     return constants()[name]
 
 
+# A row dragged to so small a part of another one's height lands above it.
+GAP = 0.05
+
+
 class Column(NamedTuple):
     identifier: str
     width: float

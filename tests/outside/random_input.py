@@ -10,7 +10,7 @@ import sys
 from harness.stores import ACTIONS, COMMON_FOLDERS, COPY_TARGETS, folder_records
 from harness.waiting import NotSeen, wait_until
 from tests.outside.checks import application, require
-from tests.outside.model import Model
+from tests.outside.model import Model, expect_none
 from tests.outside.screen import BUTTON, CONTROL, RIGHT_BUTTON, command, option_command, shift_command
 
 SETTINGS = {COPY_TARGETS: folder_records(40), COMMON_FOLDERS: folder_records(7)}
@@ -24,8 +24,6 @@ KEYS = ("a", "b", "x", "9", "space", "Return", "Return", "Tab", "Escape", "Escap
         *map(command, "123456acefgmvxz"), *map(shift_command, "efgimpz"), *map(option_command, ("Up", "Down")))
 # In a panel, where anything else could lead out of the user's folder.
 PANEL_KEYS = ("a", "b", "Tab", "Escape", "Escape")
-
-
 # These may choose the items that close the window or end the program.
 ENDINGS = {"Return", "space"}
 
@@ -124,29 +122,17 @@ class Hands:
             self.desktop.start()
             self.has_started_again = True
 
-    def expect_agreement(self):
-        """A list that is not synchronised is stored half a second later."""
-        found = []
-
-        def agree():
-            found[:] = filter(self.is_wrong, Model(self.desktop.stores).differences())
-            return not found
-
-        try:
-            wait_until(agree, "both stores in agreement", process=self.desktop.application)
-        except NotSeen as error:
-            raise NotSeen(f"{error}: {found}") from None
-
-    def is_wrong(self, difference):
+    def differences(self):
         """A start puts editors that were removed back into the list and publishes it; the next edit stores it."""
-        return not (self.has_started_again and difference.startswith(f"published {ACTIONS}"))
+        return [difference for difference in Model(self.desktop.stores).differences()
+                if not (self.has_started_again and difference.startswith(f"published {ACTIONS}"))]
 
     def go(self, steps):
         for number in range(1, steps + 1):
             self.move()
             if number % BETWEEN_LOOKS == 0 or number == steps:
                 self.put_down()
-                self.expect_agreement()
+                expect_none(self.differences, "both stores in agreement")
 
 
 def main():

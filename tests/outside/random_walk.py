@@ -10,7 +10,7 @@ import time
 from harness.stores import COMMON_FOLDERS, COPY_TARGETS, LISTS, folder_records
 from tests.outside.checks import application
 from tests.outside.model import FIXED_ACTIONS
-from tests.outside.places import PAGE_OF
+from tests.outside.places import GAP, PAGE_OF
 from tests.outside.screen import command, option_command, shift_command
 
 # So many that they are all in sight in the smallest window, above the line that says that their folders are missing.
@@ -121,7 +121,7 @@ class Walk:
         gap = self.any_row()
         if abs(gap - row) > 1:
             places, page = self.desktop.places, self.desktop.page
-            self.desktop.window.drag(places.cell(page, row), places.cell(page, gap, height=0.05), steps=6)
+            self.desktop.window.drag(places.cell(page, row), places.cell(page, gap, height=GAP), steps=6)
             self.model.drop(self.key, row, gap)
             self.is_editing = False
 

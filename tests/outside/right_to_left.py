@@ -5,15 +5,12 @@ step."""
 from harness.stores import ACTIONS, COPY_TARGETS, TEMPLATES, folder_records
 from harness.waiting import wait_until
 from tests.outside.checks import require, run_checks
-from tests.outside.commands import ACCENT
-from tests.outside.picture import Picture
-from tests.outside.places import PAGES, constant
+from tests.outside.picture import ACCENT, Picture
+from tests.outside.places import GAP, PAGES, constant
 from tests.outside.screen import command
 
 NAME = "NewFileDisplayName"
 OPENING, SECOND_OPTION, UNCHECKED_OPTION = "enableAutoOpenAfterCreateNewFile", 1, 3
-# Of a row, from its top.
-GAP = 0.05
 # Where the ring around a box is at its sides, from its middle.
 RING_SIDES = (-12, -7), (7, 12)
 # Of the heading's line, from the margin: its title is in it, and far longer than this.

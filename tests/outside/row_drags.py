@@ -8,10 +8,9 @@ import signal
 from harness.stores import COPY_TARGETS, TEMPLATES, folder_records
 from harness.waiting import wait_until_steady
 from tests.outside.checks import require, run_checks
-from tests.outside.picture import Picture
+from tests.outside.picture import ACCENT, Picture
 from tests.outside.pointer import pointer_picture
 
-ACCENT = bytes.fromhex("2f73da")
 # Of a row, from its top.
 GAP = 0.07
 UNDER_PICTURE = 220

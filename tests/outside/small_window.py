@@ -3,7 +3,7 @@ and the template files are looked at after each step."""
 
 from harness.stores import ACTIONS, COMMON_FOLDERS, COPY_TARGETS, ICONS, LISTS, TEMPLATES, folder_records
 from tests.outside.checks import require, run_checks
-from tests.outside.places import PAGE_OF, constant
+from tests.outside.places import GAP, PAGE_OF, constant
 from tests.outside.screen import option_command
 
 SMALLEST = (constant("WindowLayout.windowMinimumWidth"),
@@ -28,7 +28,7 @@ def use_every_page(desktop, model):
             model.enable_all(key, not model.is_all_on(key))
             model.expect(f"the switch of all rows of {key}")
         places = desktop.places
-        desktop.window.drag(places.cell(page, 0), places.cell(page, 3, height=0.05))
+        desktop.window.drag(places.cell(page, 0), places.cell(page, 3, height=GAP))
         model.drop(key, 0, 3)
         model.expect(f"the dragged row of {key}")
         desktop.select(2)

@@ -11,7 +11,7 @@ from harness.waiting import wait_until
 from tests.outside.commands import open_menu
 from tests.outside.desktop import Desktop
 from tests.outside.panels import OpenPanel
-from tests.outside.places import PAGES
+from tests.outside.places import GAP, PAGES
 from tests.outside.screen import command, shift_command
 from tests.outside.small_window import SMALLEST
 from tests.outside.transfer import EXPORT, IMPORT, choose_in_file_menu
@@ -91,7 +91,7 @@ def rows(album, start):
         desktop.start_typing(1, "A longer name")
         album.keep(desktop, "editing")
         desktop.screen.key("Escape")
-        desktop.window.drag_to(desktop.place("cell", 1), desktop.place("cell", 4, None, 0.05))
+        desktop.window.drag_to(desktop.place("cell", 1), desktop.place("cell", 4, None, GAP))
         album.keep(desktop, "dragging-between-rows")
         desktop.window.move(desktop.place("cell", 4))
         album.keep(desktop, "dragging-over-a-row")

@@ -8,11 +8,11 @@ from harness.stores import ACTIONS, COPY_TARGETS, ICONS, TEMPLATES, folder_recor
 from harness.waiting import wait_until
 from tests.outside.checks import require, run_checks
 from tests.outside.panels import OpenPanel
+from tests.outside.places import GAP
 from tests.outside.screen import command, option_command, shift_command
 
 UNDO, REDO = command("z"), shift_command("z")
 FOLDERS = {COPY_TARGETS: folder_records(5)}
-GAP = 0.05
 
 
 def held_files(desktop):

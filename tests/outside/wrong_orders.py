@@ -7,10 +7,9 @@ from harness.stores import ACTIONS, COMMON_FOLDERS, ICONS, TEMPLATES, folder_rec
 from harness.waiting import wait_until
 from tests.outside.checks import require, run_checks
 from tests.outside.commands import choose, open_menu
-from tests.outside.places import PAGE_OF
+from tests.outside.places import GAP, PAGE_OF
 from tests.outside.screen import BUTTON, command
 
-GAP = 0.05
 # In the menu bar, and the number of its first item.
 APPLICATION_MENU, ABOUT = (30, 10), 1
 
