@@ -20,6 +20,7 @@ from tests.outside.screen import command
 from tests.outside.session import Session
 
 PUBLISHED_AT_START = set(LISTS) - {COMMON_FOLDERS}
+FRAME = "NSWindow Frame Settings"
 
 
 class Desktop(Session):
@@ -47,6 +48,10 @@ class Desktop(Session):
     def is_ready(self):
         """Each start publishes its lists."""
         return self.stores.file(SHARED).exists() and PUBLISHED_AT_START <= self.stores.read(SHARED).keys()
+
+    def settings_now(self):
+        """All that is stored, but for the frame, which may be half a second behind a window that was moved."""
+        return {key: value for key, value in self.stores.read().items() if key != FRAME}
 
     # What a person does
 

@@ -100,14 +100,14 @@ def a_picture_becomes_a_custom_icon(start):
 def what_a_page_does_not_take_leaves_it_as_it_is(start):
     with start() as (desktop, model):
         manager = FileManager(desktop)
-        before = desktop.stores.read()
+        before = desktop.settings_now()
         desktop.show_list(COMMON_FOLDERS)
         manager.drop(LETTER, desktop.place("below_rows"))
         manager.drop(FOLDER, desktop.place("below_rows"), OUTSIDE)
         desktop.show_list(ACTIONS)
         manager.drop(FOLDER, desktop.place("cell", 2))
         model.expect("the lists as they were")
-        require(desktop.stores.read() == before, "something was stored that is not taken there")
+        require(desktop.settings_now() == before, "something was stored that is not taken there")
 
 
 if __name__ == "__main__":

@@ -2,9 +2,9 @@
 left."""
 
 from tests.outside.checks import require, run_checks
+from tests.outside.desktop import FRAME
 from tests.outside.screen import command
 
-FRAME = "NSWindow Frame Settings"
 # What the toolkit has found out about the frames of the window manager: four lengths for each style of windows.
 MEASURED, STYLES = "_GNUSTEP_FRAME_OFFSETS", 15
 

@@ -34,14 +34,14 @@ def a_click_right_of_a_title_changes_nothing_and_one_on_the_title_does(start):
         on_title = x + INSIDE_TITLE, y
         desktop.window.click(on_title)
         wait_until(lambda: desktop.stores.local(OPENING) is False, "the switch that was clicked")
-        before = desktop.stores.read()
+        before = desktop.settings_now()
         between = (places.left + x) / 2 + 40
         lower, all_rows = places.switch(3)[1], desktop.place("enable_all")[1]
         for place in ((between, y), (places.right - 20, lower), (between, all_rows), (places.right - 20, all_rows)):
             desktop.window.click(place)
         desktop.window.click(on_title)
         wait_until(lambda: desktop.stores.local(OPENING) is True, "the switch that was clicked again")
-        changed = {key for key, value in desktop.stores.read().items() if before.get(key) != value}
+        changed = {key for key, value in desktop.settings_now().items() if before.get(key) != value}
         require(changed == {OPENING}, f"clicks beside titles have changed {changed - {OPENING}}")
         model.expect("the lists as they were")
 
