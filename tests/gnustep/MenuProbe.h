@@ -28,4 +28,13 @@ bool isChosenWhenPutThere();
 /// Four and Five.
 std::vector<std::string> popUpAndType(const std::u16string& characters);
 
+/// The windows menu, which has an item "Own", while two windows are open, and when both are closed: the
+/// titles, "-" for a separator, "marked ", "pictured ".
+struct WindowsMenu {
+    std::vector<std::string> open;
+    std::vector<std::string> closed;
+};
+/// The second window is the main one.
+WindowsMenu windowsMenuOfTwo();
+
 } // namespace tarnwick::probe

@@ -100,6 +100,32 @@ NSMenu *makeMenu(TNMenuWitness *witness) {
     return menu;
 }
 
+NSWindow *makeActiveWindow(NSString *title) {
+    [NSApp finishLaunching];
+    constexpr NSUInteger style = NSWindowStyleMaskTitled | NSWindowStyleMaskClosable;
+    NSWindow *window = [[[NSWindow alloc] initWithContentRect:NSMakeRect(100, 300, 200, 100)
+                                                    styleMask:style
+                                                      backing:NSBackingStoreBuffered
+                                                        defer:NO] autorelease];
+    [window setReleasedWhenClosed:NO];
+    [window setTitle:title];
+    [window makeKeyAndOrderFront:nil];
+    [NSApp activateIgnoringOtherApps:YES];
+    driving::waitUntil([window] { return [window isKeyWindow] && [NSApp isActive]; });
+    return window;
+}
+
+std::vector<std::string> itemsOf(NSMenu *menu) {
+    [menu update];
+    std::vector<std::string> items;
+    for (NSMenuItem *item in [menu itemArray]) {
+        const std::string mark = [item state] == NSControlStateValueOn ? "marked " : "";
+        const std::string picture = [item image] ? "pictured " : "";
+        items.push_back([item isSeparatorItem] ? "-" : mark + picture + [[item title] UTF8String]);
+    }
+    return items;
+}
+
 } // namespace
 
 std::string keyLabel(const Keys &keys) {
@@ -149,15 +175,7 @@ bool isChosenBy(const Keys &item, const Keys &pressed) {
 std::vector<std::string> popUpAndType(const std::u16string &characters) {
     @autoreleasepool {
         startUp();
-        [NSApp finishLaunching];
-        NSWindow *window = [[[NSWindow alloc] initWithContentRect:NSMakeRect(100, 300, 200, 100)
-                                                        styleMask:NSWindowStyleMaskTitled
-                                                          backing:NSBackingStoreBuffered
-                                                            defer:NO] autorelease];
-        [window setReleasedWhenClosed:NO];
-        [window makeKeyAndOrderFront:nil];
-        [NSApp activateIgnoringOtherApps:YES];
-        driving::waitUntil([window] { return [window isKeyWindow] && [NSApp isActive]; });
+        NSWindow *window = makeActiveWindow(@"");
         for (const char16_t character : characters) {
             const auto unit = static_cast<unichar>(character);
             driving::postKey(window, [NSString stringWithCharacters:&unit length:1]);
@@ -168,6 +186,23 @@ std::vector<std::string> popUpAndType(const std::u16string &characters) {
                                                                  inView:[window contentView]];
         witness->events.emplace_back(answer ? "answer yes" : "answer no");
         return witness->events;
+    }
+}
+
+WindowsMenu windowsMenuOfTwo() {
+    @autoreleasepool {
+        startUp();
+        NSMenu *menu = [[[NSMenu alloc] initWithTitle:@"Window"] autorelease];
+        [menu addItem:makeItem(@"Own", nil)];
+        [NSApp setWindowsMenu:menu];
+        NSWindow *first = makeActiveWindow(@"First");
+        NSWindow *second = makeActiveWindow(@"Second");
+        WindowsMenu seen;
+        seen.open = itemsOf(menu);
+        [first close];
+        [second close];
+        seen.closed = itemsOf(menu);
+        return seen;
     }
 }
 

@@ -46,6 +46,12 @@ TEST(Menu, IsLeftByEscapeWithoutAnAction) {
     EXPECT_EQ(popUpAndType(down + u"\u001B"), (Events{"will open", "did close", "answer no"}));
 }
 
+TEST(Menu, OfWindowsMarksTheMainOneBelowASeparator) {
+    const auto menu = windowsMenuOfTwo();
+    EXPECT_EQ(menu.open, (Events{"Own", "-", "First", "marked Second"}));
+    EXPECT_EQ(menu.closed, Events{"Own"});
+}
+
 TEST(Menu, LetsTheKeyboardIntoSubmenusAndOut) {
     EXPECT_EQ(popUpAndType(up + right + down + u" "),
         (Events{"will open", "did close", "chosen Five", "answer yes"}));
