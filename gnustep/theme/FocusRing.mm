@@ -93,6 +93,12 @@ void draw(const Ring &ring, NSView *canvas) {
     [path stroke];
 }
 
+void needDisplay(NSView *frame, NSRect place) {
+    if (!NSIsEmptyRect(place)) {
+        [frame setNeedsDisplayInRect:NSIntegralRect([frame convertRect:place fromView:nil])];
+    }
+}
+
 /// A part of the view has just been drawn.
 void drawOver(NSView *view, NSRect rect) {
     const Ring ring = ringOf([view window]);
@@ -169,19 +175,23 @@ void resignKey(NSWindow *self, SEL command) {
     return [TNAttachment([[self contentView] superview], shownRing) rectValue];
 }
 
-/// Has the places drawn anew where the ring was and where it is now.
+/// Has the places drawn anew where the ring was and where it is now. One without round corners, which looks
+/// the same when it is drawn twice, comes over what is there: a whole table is much to draw.
 - (void)tnFollowFocus {
     NSView *frame = [[self contentView] superview];
     const NSRect before = [self tnShownRing];
-    const NSRect now = placeOf(ringOf(self));
+    const Ring ring = ringOf(self);
+    const NSRect now = placeOf(ring);
     if (!frame || NSEqualRects(before, now)) {
         return;
     }
     TNSetAttachment(frame, shownRing, [NSValue valueWithRect:now]);
-    for (const NSRect &place : {before, now}) {
-        if (!NSIsEmptyRect(place)) {
-            [frame setNeedsDisplayInRect:NSIntegralRect([frame convertRect:place fromView:nil])];
-        }
+    needDisplay(frame, before);
+    if (ring.radius == 0 && [frame canDraw]) {
+        drawOver(frame, [frame convertRect:now fromView:nil]);
+        [self flushWindow];
+    } else {
+        needDisplay(frame, now);
     }
 }
 
