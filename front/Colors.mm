@@ -9,7 +9,6 @@ void setLayerBackground(NSView *view, NSColor *color) {
     [NSAppearance setCurrentAppearance:[view effectiveAppearance]];
     [[view layer] setBackgroundColor:[color CGColor]];
     [NSAppearance setCurrentAppearance:drawing];
-    [view setNeedsDisplay:YES];
 }
 
 NSColor *shadeColor(CGFloat shade) {

@@ -70,7 +70,12 @@
 }
 
 - (void)showStoredValue:(NSNotification *)notification {
-    [self setState:[self stateForStoredValue:[[NSUserDefaults standardUserDefaults] boolForKey:_key]]];
+    const NSInteger state =
+        [self stateForStoredValue:[[NSUserDefaults standardUserDefaults] boolForKey:_key]];
+    // Told of each change of any setting, it is drawn anew only for its own.
+    if (state != [self state]) {
+        [self setState:state];
+    }
 }
 
 @end

@@ -67,5 +67,10 @@ void TNInstallTheme() {
     // A new one each time: GNUstep asks for the colours when a theme takes the place of another.
     TNTheme *theme = [[[TNTheme alloc] initWithBundle:[NSBundle bundleForClass:[GSTheme class]]] autorelease];
     [GSTheme setTheme:theme];
+    // Each window would draw itself anew a moment later, also one that has just come up in these colours.
+    [[NSNotificationQueue defaultQueue]
+        dequeueNotificationsMatching:[NSNotification notificationWithName:NSColorListDidChangeNotification
+                                                                   object:nil]
+                        coalesceMask:NSNotificationCoalescingOnName];
     TNThemeInstallImages();
 }

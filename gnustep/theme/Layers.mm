@@ -35,6 +35,9 @@ void drawLayer(NSView *self, SEL, NSRect) {
 
 - (void)setBackgroundColor:(CGColorRef)color {
     NSColor *newColor = (NSColor *)color;
+    if ([newColor isEqual:_color]) {
+        return;
+    }
     [newColor retain];
     [_color release];
     _color = newColor;

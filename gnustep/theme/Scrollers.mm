@@ -1,5 +1,5 @@
 // Wrong: the scrollers, as of GNUstep GUI 0.29, whose knob can hardly be taken hold of beside a long list,
-// and whose ground is that of a text wherever they stand.
+// whose ground is that of a text wherever they stand, and which reach over the line below a table's header.
 
 #import "gnustep/runtime/MethodReplacement.h"
 
@@ -44,6 +44,21 @@ void drawKnobSlot(NSScroller *self, SEL, NSRect rect, BOOL) {
     NSRectFill(rect);
 }
 
+using Tile = void (*)(NSScrollView *self, SEL command);
+Tile nativeTile = nullptr;
+
+void tile(NSScrollView *self, SEL command) {
+    nativeTile(self, command);
+    NSScroller *scroller = [self hasVerticalScroller] ? [self verticalScroller] : nil;
+    NSRect frame = [scroller frame];
+    const CGFloat over = NSMinY([[self contentView] frame]) - NSMinY(frame);
+    if (scroller && over > 0) {
+        frame.origin.y += over;
+        frame.size.height -= over;
+        [scroller setFrame:frame];
+    }
+}
+
 } // namespace
 
 @interface NSScroller (TNKnob)
@@ -54,6 +69,17 @@ void drawKnobSlot(NSScroller *self, SEL, NSRect rect, BOOL) {
 + (void)load {
     nativePart = TNReplaceMethod(self, @selector(rectForPart:), part);
     TNReplaceMethod(self, @selector(drawKnobSlotInRect:highlight:), drawKnobSlot);
+}
+
+@end
+
+@interface NSScrollView (TNScrollers)
+@end
+
+@implementation NSScrollView (TNScrollers)
+
++ (void)load {
+    nativeTile = TNReplaceMethod(self, @selector(tile), tile);
 }
 
 @end

@@ -1,5 +1,6 @@
-// Missing: the background of tab views, as of GNUstep GUI 0.29, which keeps what it is told of it, begins
-// with none and never draws one. On macOS a tab view of any kind has one until it is told otherwise.
+// Wrong: tab views, as of GNUstep GUI 0.29, which never draw a background, and when the tab that is shown is
+// selected again take its view out, put it in again and draw all of it anew. On macOS a tab view of any kind
+// has a background until it is told otherwise.
 
 #import "gnustep/runtime/MethodReplacement.h"
 
@@ -9,6 +10,8 @@ using Initialize = id (*)(id self, SEL command, NSRect frame);
 Initialize nativeInitialize = nullptr;
 using Draw = void (*)(NSTabView *self, SEL command, NSRect rect);
 Draw nativeDraw = nullptr;
+using Select = void (*)(NSTabView *self, SEL command, NSTabViewItem *item);
+Select nativeSelect = nullptr;
 
 id initialize(id self, SEL command, NSRect frame) {
     self = nativeInitialize(self, command, frame);
@@ -24,16 +27,24 @@ void draw(NSTabView *self, SEL command, NSRect rect) {
     nativeDraw(self, command, rect);
 }
 
+void selectItem(NSTabView *self, SEL command, NSTabViewItem *item) {
+    const bool isShown = item && item == [self selectedTabViewItem] && [[item view] superview] == self;
+    if (!isShown) {
+        nativeSelect(self, command, item);
+    }
+}
+
 } // namespace
 
-@interface NSTabView (TNBackground)
+@interface NSTabView (TNTabViews)
 @end
 
-@implementation NSTabView (TNBackground)
+@implementation NSTabView (TNTabViews)
 
 + (void)load {
     nativeInitialize = TNReplaceMethod(self, @selector(initWithFrame:), initialize);
     nativeDraw = TNReplaceMethod(self, @selector(drawRect:), draw);
+    nativeSelect = TNReplaceMethod(self, @selector(selectTabViewItem:), selectItem);
 }
 
 @end
