@@ -55,7 +55,7 @@ void SettingsTransfer::exportSettings() {
 void SettingsTransfer::exportSettings(std::function<void()> then) {
     editor_.endEditing();
     const SavePanelRequest request{
-        .name = "Tarnwick Settings " + clock_.today() + "." + std::string(fileType),
+        .name = bundle_.localized("Tarnwick Settings") + " " + clock_.today() + "." + std::string(fileType),
         .fileType = std::string(fileType),
         .message = bundle_.localized("Choose where the file with all your settings goes."),
         .prompt = bundle_.localized("Export"),

@@ -12,7 +12,30 @@
 
 #import <GNUstepGUI/GSDisplayServer.h>
 
+namespace {
+
+/// A window manager that is about to minimise windows may take the keyboard away for so long, in seconds.
+constexpr NSTimeInterval unsettled = 1;
+
+} // namespace
+
 @implementation TNApplication
+
+/// Brings it to the front, with the keyboard.
+- (void)activateWindow:(NSWindow *)window {
+    _keyboardAskedFor = [NSDate timeIntervalSinceReferenceDate];
+    TNActivateWindow(window);
+}
+
+/// A busy window manager gives the keyboard to the window that asks for it, and right after that, for the one
+/// that it was minimising, to nobody.
+- (void)deactivate {
+    [super deactivate];
+    const NSTimeInterval passed = [NSDate timeIntervalSinceReferenceDate] - _keyboardAskedFor;
+    if ([self modalWindow] && passed < unsettled) {
+        TNActivateWindow([self modalWindow]);
+    }
+}
 
 /// What waits for a window: the one that is modal already, the main window, or that which will be.
 - (NSWindow *)windowBehind:(NSWindow *)window {
@@ -34,7 +57,7 @@
         [GSServerForWindow(window) setParentWindow:static_cast<int>([behind windowNumber])
                                     forChildWindow:static_cast<int>([window windowNumber])];
         // It may be about to give the keyboard to the one behind, which came up a moment ago.
-        TNActivateWindow(window);
+        [self activateWindow:window];
     }
     return session;
 }
@@ -105,7 +128,7 @@
         return NO;
     }
     [[event window] orderFrontRegardless];
-    TNActivateWindow(modal);
+    [self activateWindow:modal];
     return YES;
 }
 

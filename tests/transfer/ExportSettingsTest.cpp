@@ -38,6 +38,13 @@ TEST_F(ExportSettingsTest, TheFileIsNamedAfterTheDay) {
     EXPECT_EQ(platform_.panels.saveRequests, std::vector{request});
 }
 
+TEST_F(ExportSettingsTest, TheFileIsNamedInTheUsersLanguage) {
+    platform_.bundle.texts["Tarnwick Settings"] = "Tarnwick-Einstellungen";
+    launch();
+    controller_.transfer().exportSettings();
+    EXPECT_EQ(platform_.panels.saveRequests.back().name, "Tarnwick-Einstellungen 2023-03-08.plist");
+}
+
 TEST_F(ExportSettingsTest, ThePanelsBeginWhereTheLastFileOfSettingsWas) {
     launch();
     auto& panels = platform_.panels;
