@@ -112,10 +112,10 @@ constexpr std::array customIconColumns{
 constexpr std::array othersColumns{
     enableColumn("OthersEnable", checkBoxFrame),
     iconColumn("OthersIcon", 52, &RuleCells::recordIcon, actionIconFrame),
-    nameColumn(RuleCategory::others, 210, nameFrame),
+    nameColumn(RuleCategory::others, 240, nameFrame),
     Column{.identifier = "OthersNote",
         .title = "Note",
-        .width = 300,
+        .width = 270,
         .label = "Note of %@",
         .cell = &RuleCells::note,
         .frame = nameFrame,
