@@ -10,7 +10,7 @@
 namespace tarnwick {
 namespace {
 
-class UserDefaultsStore final : public PreferenceStore {
+class UserDefaultsStore : public PreferenceStore {
 public:
     UserDefaultsStore(ObjectPointer<NSUserDefaults> defaults, RecordObjects &records)
         : defaults_(std::move(defaults)), records_(records) {}
@@ -34,15 +34,31 @@ public:
     }
     void synchronize() override { [defaults_.get() synchronize]; }
 
+protected:
+    [[nodiscard]] RecordObjects &records() { return records_; }
+
 private:
     ObjectPointer<NSUserDefaults> defaults_;
     RecordObjects &records_;
 };
 
+/// Each change stores its list here before it is published: looking for unused objects once is enough.
+class StandardDomainStore final : public UserDefaultsStore {
+public:
+    using UserDefaultsStore::UserDefaultsStore;
+
+    void setValue(std::string_view key, const PlistValue &value) override {
+        UserDefaultsStore::setValue(key, value);
+        if (value.array()) {
+            records().forgetUnused();
+        }
+    }
+};
+
 class UserDefaultsStores final : public PreferenceStores {
 public:
     std::unique_ptr<PreferenceStore> openStandardDomain() override {
-        return std::make_unique<UserDefaultsStore>(
+        return std::make_unique<StandardDomainStore>(
             ObjectPointer<NSUserDefaults>::retaining([NSUserDefaults standardUserDefaults]), records_);
     }
     std::unique_ptr<PreferenceStore> openSuite(std::string_view name) override {

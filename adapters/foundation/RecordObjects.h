@@ -9,12 +9,14 @@
 namespace tarnwick {
 
 /// The objects of records, which are the dictionaries in a list. Every change of a record stores its list
-/// anew, and publishes most of it; a record that has not changed is the same object each time. It is kept for
-/// as long as somebody else has the record.
+/// anew, and publishes most of it; a record that has not changed is the same object each time.
 class RecordObjects {
 public:
     /// Autoreleased, and equal to what `toObject` gives.
     [[nodiscard]] id toObject(const PlistValue &value);
+
+    /// Those of records that nobody else has any more.
+    void forgetUnused();
 
 private:
     struct Known {
@@ -24,7 +26,6 @@ private:
 
     [[nodiscard]] NSArray *toList(const PlistArray &array);
     [[nodiscard]] id newElement(const PlistValue &element, ObjectMaker &maker);
-    void forgetWhatOthersForgot();
 
     /// By the address of the record, which no other one takes while it is kept here.
     std::unordered_map<const PlistDictionary *, Known> known_;

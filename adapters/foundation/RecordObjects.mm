@@ -13,7 +13,6 @@ id RecordObjects::toObject(const PlistValue &value) {
 }
 
 NSArray *RecordObjects::toList(const PlistArray &array) {
-    forgetWhatOthersForgot();
     ObjectMaker maker;
     std::vector<id> elements;
     elements.reserve(array.size());
@@ -40,7 +39,7 @@ id RecordObjects::newElement(const PlistValue &element, ObjectMaker &maker) {
     return [known.object.get() retain];
 }
 
-void RecordObjects::forgetWhatOthersForgot() {
+void RecordObjects::forgetUnused() {
     std::erase_if(known_, [](const auto &entry) { return entry.second.record.use_count() == 1; });
 }
 

@@ -20,6 +20,7 @@ public:
     [[nodiscard]] std::optional<PlistValue> throughPlatform(const PlistValue& value);
     /// The objects in the list. They live on as long as the probe does.
     std::vector<const void*> objectsIn(const PlistValue& list);
+    void forgetUnused();
     /// Whether nobody but the probe keeps that object.
     [[nodiscard]] bool isForgotten(const void* object) const;
 

@@ -31,6 +31,10 @@ std::vector<const void *> RecordObjectsProbe::objectsIn(const PlistValue &list) 
     return objects;
 }
 
+void RecordObjectsProbe::forgetUnused() {
+    parts_->objects.forgetUnused();
+}
+
 bool RecordObjectsProbe::isForgotten(const void *object) const {
     const auto own = std::count_if(parts_->seen.begin(), parts_->seen.end(),
         [object](const auto &seen) { return seen.get() == object; });

@@ -50,7 +50,7 @@ TEST_F(RecordObjectsTest, TheObjectOfARecordThatNobodyHasIsForgotten) {
     const auto kept = record("kept");
     const auto before = objects.objectsIn(PlistArray{kept, record("gone")});
     EXPECT_FALSE(objects.isForgotten(before[1]));
-    objects.objectsIn(PlistArray{});
+    objects.forgetUnused();
     EXPECT_FALSE(objects.isForgotten(before[0]));
     EXPECT_TRUE(objects.isForgotten(before[1]));
 }
