@@ -14,8 +14,8 @@
 
 namespace {
 
-/// A window manager that is about to minimise windows may take the keyboard away for so long, in seconds.
-constexpr NSTimeInterval unsettled = 1;
+/// A busy window manager may take the keyboard away for so long after a window has asked for it, in seconds.
+constexpr NSTimeInterval unsettled = 2;
 
 } // namespace
 
@@ -27,12 +27,12 @@ constexpr NSTimeInterval unsettled = 1;
     TNActivateWindow(window);
 }
 
-/// A busy window manager gives the keyboard to the window that asks for it, and right after that, for the one
-/// that it was minimising, to nobody.
+/// A busy window manager gives the keyboard to the window that asks for it, and right after that, because it
+/// was minimising one, to nobody.
 - (void)deactivate {
     [super deactivate];
     const NSTimeInterval passed = [NSDate timeIntervalSinceReferenceDate] - _keyboardAskedFor;
-    if ([self modalWindow] && passed < unsettled) {
+    if ([self modalWindow] && passed < unsettled && TNKeyboardIsNobodys()) {
         TNActivateWindow([self modalWindow]);
     }
 }

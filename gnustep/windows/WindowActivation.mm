@@ -30,3 +30,16 @@ void TNActivateWindow(NSWindow *window) {
         &request);
     XFlush(display);
 }
+
+bool TNKeyboardIsNobodys() {
+    auto *display = static_cast<Display *>([GSCurrentServer() serverDevice]);
+    Window focus = None;
+    int revertsTo = 0;
+    XGetInputFocus(display, &focus, &revertsTo);
+    if (focus == None || focus == PointerRoot || focus == DefaultRootWindow(display)) {
+        return true;
+    }
+    // A window manager keeps it in one that it does not manage itself.
+    XWindowAttributes attributes{};
+    return XGetWindowAttributes(display, focus, &attributes) && attributes.override_redirect;
+}

@@ -54,8 +54,13 @@ class Screen:
         except subprocess.CalledProcessError:
             return []
 
-    def has_window_manager(self):
-        return b"window id" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
+    def window_manager(self):
+        """The number of its own window, in hexadecimal; empty without one."""
+        return self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK").decode().partition("window id # ")[2].strip()
+
+    def give_keyboard_to_nobody(self):
+        """To the window manager, as far as anybody can see."""
+        self.xdotool("windowfocus", int(self.window_manager(), 16))
 
     def windows(self, title):
         """The windows in sight whose titles match the expression."""

@@ -57,7 +57,7 @@ class Session:
 
     def start_window_manager(self):
         self.run_beside("openbox")
-        wait_until(self.screen.has_window_manager, "the window manager")
+        wait_until(self.screen.window_manager, "the window manager")
 
     def run_beside(self, *command, **environment):
         """A program that ends with the session."""
