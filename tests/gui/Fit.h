@@ -8,6 +8,8 @@ namespace tarnwick::gui {
 
 /// The window becomes as small as it can be.
 void makeWindowSmallest();
+/// As narrow as it can be, and so high that all rows of each page are in sight.
+void makeWindowNarrow();
 
 struct Fit {
     /// A sentence for each text that is cut off, control that reaches beyond its place, and two that meet.

@@ -118,6 +118,12 @@ void makeWindowSmallest() {
     settle();
 }
 
+void makeWindowNarrow() {
+    constexpr CGFloat allRows = 1000;
+    [settingsWindow() setContentSize:NSMakeSize([settingsWindow() contentMinSize].width, allRows)];
+    settle();
+}
+
 Fit fitOfWhatIsShown() {
     Fit fit;
     std::vector<NSView *> controls;

@@ -48,6 +48,14 @@ TEST(Fit, EveryPageHasRoomForItsTextsAndControls) {
     }
 }
 
+TEST(Fit, EveryRowHasRoomForItsTexts) {
+    makeWindowNarrow();
+    for (const auto page : allPages) {
+        clickPageButton(page);
+        expectRoom("all rows of page " + std::to_string(static_cast<int>(page)));
+    }
+}
+
 TEST(Fit, TheFindBarHasRoom) {
     makeWindowSmallest();
     clickPageButton(Page::others);
