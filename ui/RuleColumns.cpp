@@ -112,10 +112,10 @@ constexpr std::array customIconColumns{
 constexpr std::array othersColumns{
     enableColumn("OthersEnable", checkBoxFrame),
     iconColumn("OthersIcon", 52, &RuleCells::recordIcon, actionIconFrame),
-    nameColumn(RuleCategory::others, 240, nameFrame),
+    nameColumn(RuleCategory::others, 254, nameFrame),
     Column{.identifier = "OthersNote",
         .title = "Note",
-        .width = 270,
+        .width = 256,
         .label = "Note of %@",
         .cell = &RuleCells::note,
         .frame = nameFrame,

@@ -77,8 +77,8 @@ PAGES = (
          (Column("Enable", 34), Column("Icon", 44), Column("CustomIconName", 300, True), Column("Size", 112)),
          "CustomIconName", "Enable", "Add Pictures\u2026", True),
     Page("More Items", ACTIONS, 4, True,
-         (Column("OthersEnable", 34), Column("OthersIcon", 52), Column("OthersDisplayName", 240, True),
-          Column("OthersNote", 270, True)),
+         (Column("OthersEnable", 34), Column("OthersIcon", 52), Column("OthersDisplayName", 254, True),
+          Column("OthersNote", 256, True)),
          "OthersDisplayName", "OthersEnable", "Add Items\u2026", True),
     Page("More Apps"),
 )
