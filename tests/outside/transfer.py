@@ -56,10 +56,17 @@ def end_question(desktop, key):
 def export_and_change(desktop):
     """A file that differs from what there is, by a template that has been removed since: it and what is in it."""
     exported = export(desktop)
-    count = len(desktop.stores.local(TEMPLATES))
+    stores = desktop.stores
+
+    def counts():
+        folder = stores.template_folder
+        return [len(list(part)) for part in (stores.local(TEMPLATES), stores.shared(TEMPLATES), folder.iterdir())]
+
+    before = counts()
     desktop.select(3)
     desktop.click("remove")
-    wait_until(lambda: len(desktop.stores.local(TEMPLATES)) == count - 1, "one template less")
+    # The file goes last.
+    wait_until(lambda: counts() == [count - 1 for count in before], "one template less, in both stores and the folder")
     return exported
 
 
