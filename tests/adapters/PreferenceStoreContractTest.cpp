@@ -142,6 +142,24 @@ TEST_P(PreferenceStoresContract, TheDomainsAreApart) {
     EXPECT_EQ(port.openStandardDomain()->value("apart"), PlistValue(1));
 }
 
+TEST_P(PreferenceStoresContract, ARecordIsLetGoWithTheListThatHadIt) {
+    auto& port = harness_.port();
+    const auto local = port.openStandardDomain();
+    const auto shared = port.openSuite("H7Q2ZK5RX9.org.halvane.Tarnwick");
+    std::weak_ptr<const PlistDictionary> record;
+    {
+        const PlistValue removed(PlistDictionary{{"displayName", "removed"}});
+        record = removed.sharedDictionary();
+        local->setValue("list", PlistArray{removed});
+        shared->setValue("list", PlistArray{removed});
+    }
+    EXPECT_FALSE(record.expired());
+    // As each change does it: stored, then published.
+    local->setValue("list", PlistArray{});
+    shared->setValue("list", PlistArray{});
+    EXPECT_TRUE(record.expired());
+}
+
 TARNWICK_BOTH_IMPLEMENTATIONS(PreferenceStoresContract);
 
 } // namespace
