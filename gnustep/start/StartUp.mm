@@ -48,6 +48,8 @@ void registerInitialDefaults(NSArray *languages, NSString *han) {
     [values setObject:@"12" forKey:@"NSToolTipsFontSize"];
     [values setObject:@"YES" forKey:@"GSScrollViewNoInnerBorder"];
     [values setObject:@"YES" forKey:@"GSSuppressAppIcon"];
+    // A window that is minimised is left to the window manager, which lists it with the others.
+    [values setObject:@"NO" forKey:@"GSAppOwnsMiniwindow"];
     [values setObject:@"NSMacintoshInterfaceStyle" forKey:@"NSInterfaceStyleDefault"];
     if (TNReadsFromRightToLeft()) {
         // It has its scrollers at the left.

@@ -127,6 +127,20 @@ def a_page_is_shown_by_its_digit_on_a_keyboard_that_has_digits_with_shift(start)
         model.expect("a row less on the second page")
 
 
+def a_window_that_is_minimised_or_hidden_comes_back_by_the_keys_that_go_from_window_to_window(start):
+    with start() as (desktop, model):
+        for key in ("m", "h"):
+            desktop.screen.key(command(key))
+            wait_until(lambda: not desktop.is_in_sight(), "the end of the window", process=desktop.application)
+            desktop.screen.settle()
+            desktop.screen.key("alt+Tab")
+            wait_until(lambda: desktop.is_in_sight() and desktop.window.has_focus(), "the window, and the keyboard in it")
+            desktop.screen.settle()
+            desktop.click("row_switch", 4)
+            model.toggle(TEMPLATES, 4)
+            model.expect("a row that is switched then")
+
+
 def marked_rows(desktop):
     """Of open menus: the colours where its icon stands, of each marked row from the top."""
     picture = Picture(desktop.screen.picture())
@@ -161,4 +175,5 @@ if __name__ == "__main__":
                there_is_no_menu_where_nothing_has_one,
                a_page_is_shown_by_its_digit_on_a_keyboard_that_has_digits_with_shift,
                a_row_is_changed_by_the_keyboard_alone, the_menu_bar_is_opened_and_walked_by_key,
+               a_window_that_is_minimised_or_hidden_comes_back_by_the_keys_that_go_from_window_to_window,
                every_item_of_the_preview_has_its_icon)
