@@ -22,9 +22,9 @@ public:
     /// when there is none. From -1 it begins at the end that it goes away from.
     [[nodiscard]] NSInteger next(NSInteger row, int step) const;
 
-    /// The columns of a row, from its left.
-    [[nodiscard]] CGFloat imageLeft() const;
-    [[nodiscard]] CGFloat titleLeft() const;
+    /// The columns of a row, from the side at which reading begins.
+    [[nodiscard]] CGFloat imageLeading() const;
+    [[nodiscard]] CGFloat titleLeading() const;
 
     static NSDictionary *attributes(NSColor *color);
     static constexpr CGFloat padding = 5;

@@ -13,7 +13,7 @@ namespace {
 constexpr CGFloat rowHeight = 24;
 constexpr CGFloat separatorHeight = 9;
 constexpr CGFloat imageGap = 8;
-/// Between a title and the keys or the arrow right of it.
+/// Between a title and the keys or the arrow behind it.
 constexpr CGFloat columnGap = 28;
 constexpr CGFloat arrowWidth = 10;
 constexpr CGFloat smallestWidth = 100;
@@ -55,9 +55,9 @@ TNMenuRows::TNMenuRows(NSMenu *menu) : menu_(menu) {
     }
     tops_.push_back(top);
     const CGFloat keyWidth = widestOf(keys);
-    const CGFloat right = std::max(keyWidth, hasSubmenus ? arrowWidth : 0);
+    const CGFloat trailing = std::max(keyWidth, hasSubmenus ? arrowWidth : 0);
     width_ = std::max(smallestWidth,
-        titleLeft() + widestOf(titles) + (right > 0 ? columnGap + right : 0) + sideMargin + padding);
+        titleLeading() + widestOf(titles) + (trailing > 0 ? columnGap + trailing : 0) + sideMargin + padding);
 }
 
 NSRect TNMenuRows::rectOf(NSInteger row) const {
@@ -90,10 +90,10 @@ NSInteger TNMenuRows::next(NSInteger row, int step) const {
     return -1;
 }
 
-CGFloat TNMenuRows::imageLeft() const {
+CGFloat TNMenuRows::imageLeading() const {
     return sideMargin + (hasMarks_ ? markWidth : 0);
 }
 
-CGFloat TNMenuRows::titleLeft() const {
-    return imageLeft() + (hasImages_ ? imageSize + imageGap : 0);
+CGFloat TNMenuRows::titleLeading() const {
+    return imageLeading() + (hasImages_ ? imageSize + imageGap : 0);
 }

@@ -7,6 +7,7 @@
 #import "TNConstants.h"
 #import "gnustep/menus/MenuBarKeys.h"
 #import "gnustep/menus/TNMenuTip.h"
+#import "gnustep/start/LayoutDirection.h"
 
 #include <cmath>
 
@@ -274,10 +275,12 @@ void TNMenuTracking::key(unichar character) {
         menus_.markEnd(-1);
         return;
     case NSRightArrowFunctionKey:
-        menus_.openMarked();
-        return;
     case NSLeftArrowFunctionKey:
-        menus_.back();
+        if ((character == NSLeftArrowFunctionKey) == TNReadsFromRightToLeft()) {
+            menus_.openMarked();
+        } else {
+            menus_.back();
+        }
         return;
     case NSCarriageReturnCharacter:
     case NSEnterCharacter:

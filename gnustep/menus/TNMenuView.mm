@@ -6,6 +6,7 @@
 #import "TNConstants.h"
 #import "TNTheme.h"
 #import "gnustep/menus/KeyLabels.h"
+#import "gnustep/start/LayoutDirection.h"
 
 #include <algorithm>
 
@@ -14,10 +15,22 @@ namespace {
 constexpr CGFloat scrollBarHeight = 18;
 constexpr CGFloat arrowSize = 10;
 
-void drawText(NSString *text, CGFloat left, NSRect row, NSColor *color) {
-    NSDictionary *attributes = TNMenuRows::attributes(color);
-    const NSSize size = [text sizeWithAttributes:attributes];
-    [text drawAtPoint:NSMakePoint(left, NSMidY(row) - size.height / 2) withAttributes:attributes];
+/// Of what stands in the middle of a row, so far from the side at which reading begins.
+NSRect placeIn(NSRect row, CGFloat leading, NSSize size) {
+    return TNPlaceByDirection(
+        NSMakeRect(NSMinX(row) + leading, NSMidY(row) - size.height / 2, size.width, size.height), row);
+}
+
+NSPoint middleOf(NSRect place) {
+    return NSMakePoint(NSMidX(place), NSMidY(place));
+}
+
+NSSize sizeOf(NSString *text) {
+    return [text sizeWithAttributes:TNMenuRows::attributes(nil)];
+}
+
+void drawText(NSString *text, NSRect place, NSColor *color) {
+    [text drawAtPoint:place.origin withAttributes:TNMenuRows::attributes(color)];
 }
 
 void drawImage(NSImage *image, NSRect place) {
@@ -33,7 +46,7 @@ void drawImage(NSImage *image, NSRect place) {
                  hints:nil];
 }
 
-/// A corner that points to the right, up or down.
+/// A corner that points to the right, left, up or down.
 void drawArrow(NSPoint middle, CGFloat dx, CGFloat dy, NSColor *color) {
     constexpr CGFloat half = 3.5;
     NSBezierPath *path = [NSBezierPath bezierPath];
@@ -125,19 +138,21 @@ void drawMark(NSInteger state, NSPoint middle, NSColor *color) {
                                          yRadius:4] fill];
         color = colors->accentText;
     }
-    drawMark([item state], NSMakePoint(TNMenuRows::sideMargin + arrowSize / 2, NSMidY(row)), color);
+    constexpr NSSize arrow = {arrowSize, arrowSize};
+    drawMark([item state], middleOf(placeIn(row, TNMenuRows::sideMargin, arrow)), color);
     if ([item image]) {
-        constexpr CGFloat size = TNMenuRows::imageSize;
-        drawImage([item image], NSMakeRect(rows->imageLeft(), NSMidY(row) - size / 2, size, size));
+        constexpr NSSize size = {TNMenuRows::imageSize, TNMenuRows::imageSize};
+        drawImage([item image], placeIn(row, rows->imageLeading(), size));
     }
-    drawText([item title], rows -> titleLeft(), row, color);
-    const CGFloat right = NSMaxX(row) - TNMenuRows::sideMargin - TNMenuRows::padding;
+    drawText([item title], placeIn(row, rows->titleLeading(), sizeOf([item title])), color);
+    const CGFloat end = NSWidth(row) - TNMenuRows::sideMargin - TNMenuRows::padding;
     if ([item hasSubmenu]) {
-        drawArrow(NSMakePoint(right - arrowSize / 2, NSMidY(row)), 1, 0, color);
+        const CGFloat onward = TNReadsFromRightToLeft() ? -1 : 1;
+        drawArrow(middleOf(placeIn(row, end - arrowSize, arrow)), onward, 0, color);
     } else {
         NSString *keys = TNKeyLabel(item);
-        const CGFloat width = [keys sizeWithAttributes:TNMenuRows::attributes(color)].width;
-        drawText(keys, right - width, row, isHighlighted ? color : colors->secondaryText);
+        const NSSize size = sizeOf(keys);
+        drawText(keys, placeIn(row, end - size.width, size), isHighlighted ? color : colors->secondaryText);
     }
 }
 

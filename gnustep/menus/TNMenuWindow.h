@@ -17,10 +17,10 @@
 - (NSMenu *)shownMenu;
 - (const TNMenuRows &)rows;
 
-/// Puts the window onto the screen with its upper left corner there, or as near as the screen allows. A
-/// height of the whole screen is the most.
-- (void)showAt:(NSPoint)upperLeft;
-/// Beside a row of another open menu: right of it, or left where there is no room.
+/// Puts the window onto the screen with that upper corner there at which reading begins, or as near as the
+/// screen allows. A height of the whole screen is the most.
+- (void)showAt:(NSPoint)corner;
+/// Beside a row of another open menu: behind it, as one reads, or before it where there is no room.
 - (void)showBesideRow:(NSInteger)row of:(TNMenuWindow *)parent;
 /// Scrolls so far that the row has its upper edge there on the screen, as far as that goes.
 - (void)scrollRow:(NSInteger)row toScreenY:(CGFloat)y;

@@ -5,6 +5,7 @@
 
 #import "TNConstants.h"
 #import "gnustep/menus/TNMenuView.h"
+#import "gnustep/start/LayoutDirection.h"
 
 #include <algorithm>
 #include <memory>
@@ -56,14 +57,14 @@
     return [[NSScreen mainScreen] visibleFrame];
 }
 
-- (void)showAt:(NSPoint)upperLeft {
-    const NSRect available = [self availableAt:upperLeft];
+- (void)showAt:(NSPoint)corner {
+    const NSRect available = [self availableAt:corner];
     const NSSize wanted = [self rows].size();
     const NSSize size =
         NSMakeSize(std::min(wanted.width, NSWidth(available)), std::min(wanted.height, NSHeight(available)));
-    const CGFloat left = std::clamp(
-        upperLeft.x, NSMinX(available), std::max(NSMinX(available), NSMaxX(available) - size.width));
-    const CGFloat bottom = std::clamp(upperLeft.y - size.height, NSMinY(available),
+    const CGFloat left = std::clamp(TNReadsFromRightToLeft() ? corner.x - size.width : corner.x,
+        NSMinX(available), std::max(NSMinX(available), NSMaxX(available) - size.width));
+    const CGFloat bottom = std::clamp(corner.y - size.height, NSMinY(available),
         std::max(NSMinY(available), NSMaxY(available) - size.height));
     [self setFrame:NSMakeRect(left, bottom, size.width, size.height) display:NO];
     [self orderFrontRegardless];
@@ -74,11 +75,16 @@
     constexpr CGFloat overlap = 3;
     const NSRect item = [parent screenRectOfRow:row];
     const CGFloat top = NSMaxY(item) + TNMenuRows::padding;
-    const CGFloat right = NSMaxX([parent frame]) - overlap;
+    const NSRect beside = NSInsetRect([parent frame], overlap, 0);
     const NSRect available = [self availableAt:[parent frame].origin];
     const CGFloat width = [self rows].size().width;
-    const bool fitsRight = right + width <= NSMaxX(available);
-    [self showAt:NSMakePoint(fitsRight ? right : NSMinX([parent frame]) - width + overlap, top)];
+    if (TNReadsFromRightToLeft()) {
+        const bool fitsLeft = NSMinX(beside) - width >= NSMinX(available);
+        [self showAt:NSMakePoint(fitsLeft ? NSMinX(beside) : NSMaxX(beside) + width, top)];
+    } else {
+        const bool fitsRight = NSMaxX(beside) + width <= NSMaxX(available);
+        [self showAt:NSMakePoint(fitsRight ? NSMaxX(beside) : NSMinX(beside) - width, top)];
+    }
 }
 
 - (void)scrollRow:(NSInteger)row toScreenY:(CGFloat)y {

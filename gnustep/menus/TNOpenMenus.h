@@ -15,8 +15,8 @@ public:
     TNOpenMenus(const TNOpenMenus &) = delete;
     TNOpenMenus &operator=(const TNOpenMenus &) = delete;
 
-    /// With its upper left corner there, or with that of one of its items.
-    void openAt(NSMenu *menu, NSPoint upperLeft, NSMenuItem *positioned);
+    /// With that upper corner there at which reading begins, or with that of one of its items.
+    void openAt(NSMenu *menu, NSPoint corner, NSMenuItem *positioned);
     /// The menu of an item of a menu bar. `back` and `openMarked` then go from menu to menu.
     void openFromBar(NSMenuView *bar, NSInteger item);
     /// False when the point is on no item of the bar but, perhaps, the one whose menu is open.

@@ -3,6 +3,8 @@
 
 #import "gnustep/menus/TNOpenMenus.h"
 
+#import "gnustep/start/LayoutDirection.h"
+
 TNOpenMenus::~TNOpenMenus() {
     closeBelow(0);
 }
@@ -17,16 +19,16 @@ void TNOpenMenus::open(NSMenu *menu) {
     open_.push_back([[TNMenuWindow alloc] initWithMenu:menu]);
 }
 
-void TNOpenMenus::openAt(NSMenu *menu, NSPoint upperLeft, NSMenuItem *positioned) {
+void TNOpenMenus::openAt(NSMenu *menu, NSPoint corner, NSMenuItem *positioned) {
     open(menu);
     const NSInteger row = positioned ? [menu indexOfItem:positioned] : -1;
     if (row < 0) {
-        [open_.back() showAt:upperLeft];
+        [open_.back() showAt:corner];
         return;
     }
     const CGFloat above = NSMinY([open_.back() rows].rectOf(row));
-    [open_.back() showAt:NSMakePoint(upperLeft.x, upperLeft.y + above)];
-    [open_.back() scrollRow:row toScreenY:upperLeft.y];
+    [open_.back() showAt:NSMakePoint(corner.x, corner.y + above)];
+    [open_.back() scrollRow:row toScreenY:corner.y];
 }
 
 void TNOpenMenus::openFromBar(NSMenuView *bar, NSInteger item) {
@@ -40,7 +42,8 @@ void TNOpenMenus::openBarItem(NSInteger item) {
     NSMenu *submenu = item >= 0 ? [[[bar_ menu] itemAtIndex:item] submenu] : nil;
     if (submenu) {
         const NSRect rect = [bar_ convertRect:[bar_ rectOfItemAtIndex:item] toView:nil];
-        openAt(submenu, [[bar_ window] convertBaseToScreen:rect.origin], nil);
+        const CGFloat leading = TNReadsFromRightToLeft() ? NSMaxX(rect) : NSMinX(rect);
+        openAt(submenu, [[bar_ window] convertBaseToScreen:NSMakePoint(leading, NSMinY(rect))], nil);
     }
     [[bar_ window] displayIfNeeded];
 }

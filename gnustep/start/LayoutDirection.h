@@ -1,6 +1,12 @@
 #pragma once
 
+#import <Foundation/Foundation.h>
+
 /// Whether the interface is to be read from right to left: by the two settings with which macOS turns around
 /// an application that has no language read in that way, `AppleTextDirection` and
 /// `NSForceRightToLeftWritingDirection`. The same for the whole run.
 bool TNReadsFromRightToLeft();
+
+/// Where a rectangle in a room goes that is laid out for reading from left to right: to the other side when
+/// the interface is read from right to left, and else nowhere.
+NSRect TNPlaceByDirection(NSRect place, NSRect room);

@@ -32,6 +32,12 @@ bool TNReadsFromRightToLeft() {
     return isForced;
 }
 
+NSRect TNPlaceByDirection(NSRect place, NSRect room) {
+    return TNReadsFromRightToLeft()
+               ? NSOffsetRect(place, NSMinX(room) + NSMaxX(room) - NSMinX(place) - NSMaxX(place), 0)
+               : place;
+}
+
 @implementation NSApplication (TNLayoutDirection)
 
 - (NSUserInterfaceLayoutDirection)userInterfaceLayoutDirection {

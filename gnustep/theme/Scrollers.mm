@@ -39,8 +39,10 @@ NSRect part(NSScroller *self, SEL command, NSScrollerPart part) {
 }
 
 void drawKnobSlot(NSScroller *self, SEL, NSRect rect, BOOL) {
-    const bool isBesideContent = [[self superview] isKindOfClass:[NSScrollView class]];
-    [isBesideContent ? [NSColor scrollBarColor] : [[self window] backgroundColor] set];
+    NSView *view = [self superview];
+    const bool hasGround =
+        [view isKindOfClass:[NSScrollView class]] && [static_cast<NSScrollView *>(view) drawsBackground];
+    [hasGround ? [NSColor scrollBarColor] : [[self window] backgroundColor] set];
     NSRectFill(rect);
 }
 

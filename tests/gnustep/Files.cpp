@@ -1,5 +1,7 @@
 #include "Files.h"
 
+#include "Probe.h"
+
 #include <gtest/gtest.h>
 
 #include <cstdio>
@@ -21,6 +23,11 @@ std::string contentOf(const std::string& path) {
 
 void writeContent(const std::string& path, const std::string& content) {
     std::ofstream(path, std::ios::binary) << content;
+}
+
+void turnReadingDirection() {
+    writeContent(defaultsFolder() + "/NSGlobalDomain.plist",
+        "{ AppleTextDirection = YES; NSForceRightToLeftWritingDirection = YES; }");
 }
 
 std::string outputOf(const std::string& command) {

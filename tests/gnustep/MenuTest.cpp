@@ -1,3 +1,4 @@
+#include "Files.h"
 #include "MenuProbe.h"
 
 #include <gtest/gtest.h>
@@ -57,4 +58,12 @@ TEST(Menu, LetsTheKeyboardIntoSubmenusAndOut) {
         (Events{"will open", "did close", "chosen Five", "answer yes"}));
     EXPECT_EQ(popUpAndType(up + right + left + up + u"\r"),
         (Events{"will open", "did close", "chosen Two", "answer yes"}));
+}
+
+TEST(Menu, LetsTheKeyboardIntoSubmenusAtTheirSideWhenReadFromRightToLeft) {
+    turnReadingDirection();
+    EXPECT_EQ(popUpAndType(up + left + down + right + up + u"\r"),
+        (Events{"will open", "did close", "chosen Two", "answer yes"}));
+    EXPECT_EQ(popUpAndType(up + left + down + u" "),
+        (Events{"will open", "did close", "chosen Five", "answer yes"}));
 }

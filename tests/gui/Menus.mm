@@ -40,8 +40,8 @@ bool showsPicture(TNMenuWindow *window, NSInteger row) {
         [window contentView], [](NSView *each) { return [each isKindOfClass:[TNMenuView class]]; }));
     constexpr CGFloat size = TNMenuRows::imageSize;
     const NSRect place = [view placeOfRow:row];
-    const NSRect picture = NSMakeRect(view->rows->imageLeft(), NSMidY(place) - size / 2, size, size);
-    return view->rows->titleLeft() > NSMaxX(picture) &&
+    const NSRect picture = NSMakeRect(view->rows->imageLeading(), NSMidY(place) - size / 2, size, size);
+    return view->rows->titleLeading() > NSMaxX(picture) &&
            gui::Pixels([view window]).coloursIn([view convertRect:picture toView:nil]).size() > 1;
 }
 

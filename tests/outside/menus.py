@@ -2,7 +2,6 @@
 window made for it."""
 
 import contextlib
-import subprocess
 import time
 
 from harness.waiting import wait_until
@@ -28,16 +27,6 @@ class MenuSession(Session):
 
     def lines(self):
         return [line for line in self.said().splitlines() if line.split(" ")[0] in WORDS]
-
-    def menus(self):
-        """Where the open menus are on the screen: left, top, width, height."""
-        found = []
-        for window in self.screen.windows_of_class("."):
-            # One that closes just now is none.
-            with contextlib.suppress(subprocess.CalledProcessError):
-                if window.number != self.window.number and window.title() != "Menus":
-                    found.append(window.geometry())
-        return found
 
     def point_at(self, x, y):
         self.screen.move((x, y))

@@ -7,7 +7,7 @@ from harness.waiting import wait_until
 from tests.outside.checks import require, run_checks
 from tests.outside.picture import ACCENT, Picture
 from tests.outside.places import GAP, PAGES, constant
-from tests.outside.screen import command
+from tests.outside.screen import RIGHT_BUTTON, command
 
 NAME = "NewFileDisplayName"
 OPENING, SECOND_OPTION, UNCHECKED_OPTION = "enableAutoOpenAfterCreateNewFile", 1, 3
@@ -15,6 +15,10 @@ OPENING, SECOND_OPTION, UNCHECKED_OPTION = "enableAutoOpenAfterCreateNewFile", 1
 RING_SIDES = (-12, -7), (7, 12)
 # Of the heading's line, from the margin: its title is in it, and far longer than this.
 TITLE_END = 40
+# The first menu's title may be so far from the window's edge.
+BAR_MARGIN = 20
+# The second row of the menu of a rule, from its upper edge.
+TURN_OFF = 40
 
 
 def controls_are_where_a_mirror_shows_them(start):
@@ -74,6 +78,31 @@ def texts_begin_at_the_right(start):
         require(colours(left) == 1, "something at the left of the title")
 
 
+def menus_open_towards_the_left(start):
+    with start(is_right_to_left=True) as (desktop, model):
+        def open_menu(action):
+            action()
+            wait_until(desktop.menus, "a menu")
+            desktop.screen.settle()
+            (left, top, width, _), = desktop.menus()
+            return left, top, left + width
+
+        pointer, _ = desktop.window.on_screen(desktop.place("cell", 2))
+        left, top, right = open_menu(lambda: desktop.window.click(desktop.place("cell", 2), button=RIGHT_BUTTON))
+        require(abs(right - pointer) <= 1, f"the menu ends at {right}, the pointer is at {pointer}")
+        desktop.screen.click(((left + right) / 2, top + TURN_OFF))
+        model.toggle(TEMPLATES, 2)
+        model.expect("the rule switched off by its menu")
+
+        window_left, _, window_width, _ = desktop.window.geometry()
+        _, _, first = open_menu(lambda: desktop.screen.key("F10"))
+        require(0 <= window_left + window_width - first < BAR_MARGIN, "the first menu is not at the right")
+        _, _, second = open_menu(lambda: desktop.screen.key("Left"))
+        require(second < first, "the second menu is not left of the first")
+        desktop.screen.key("Escape")
+        wait_until(lambda: not desktop.menus(), "the end of the menu")
+
+
 def the_focus_is_shown_around_the_box_of_a_switch(start):
     with start(is_right_to_left=True) as (desktop, _):
         x, y = map(round, desktop.seen(desktop.places.switch(UNCHECKED_OPTION)))
@@ -93,4 +122,4 @@ def the_focus_is_shown_around_the_box_of_a_switch(start):
 
 if __name__ == "__main__":
     run_checks(controls_are_where_a_mirror_shows_them, rows_are_edited_dragged_and_found, texts_begin_at_the_right,
-               the_focus_is_shown_around_the_box_of_a_switch)
+               menus_open_towards_the_left, the_focus_is_shown_around_the_box_of_a_switch)

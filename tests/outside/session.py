@@ -2,6 +2,7 @@
 
 import contextlib
 import pathlib
+import re
 import signal
 import subprocess
 
@@ -84,6 +85,16 @@ class Session:
             self.screen.settle()
         finally:
             self.application.send_signal(signal.SIGCONT)
+
+    def menus(self):
+        """Where the open menus are on the screen, while no panel is: left, top, width, height."""
+        found = []
+        for window in self.screen.windows_of_class("."):
+            # One that closes just now is none.
+            with contextlib.suppress(subprocess.CalledProcessError):
+                if window.number != self.window.number and not re.search(self.title, window.title()):
+                    found.append(window.geometry())
+        return found
 
     def log(self, program):
         return pathlib.Path(self.user.name, f"{pathlib.Path(program).name}.log")
