@@ -18,6 +18,7 @@
 #import "gnustep/theme/TallLines.h"
 #import "gnustep/theme/WideCharacters.h"
 #import "gnustep/windows/FrameOffsets.h"
+#import "gnustep/windows/WindowActivation.h"
 
 #include <cstdlib>
 
@@ -88,6 +89,7 @@ void TNPrepareProcess(const TNProgram &program) {
         [TNApplication sharedApplication];
         TNInstallEventPump();
         TNInstallFrameOffsets();
+        TNInstallWindowActivation();
         TNInstallForeignDrags();
         TNInstallSignalHandling();
         TNInstallExceptionReporting(

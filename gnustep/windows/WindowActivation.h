@@ -2,6 +2,9 @@
 
 @class NSWindow;
 
+/// Lets windows that come back have the keyboard. Once the display server is there.
+void TNInstallWindowActivation();
+
 /// Asks the window manager to bring the window back, minimised or not, to the front, and to give it the
 /// keyboard. It does so a little later.
 void TNActivateWindow(NSWindow *window);

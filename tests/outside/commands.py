@@ -141,6 +141,19 @@ def a_window_that_is_minimised_or_hidden_comes_back_by_the_keys_that_go_from_win
             model.expect("a row that is switched then")
 
 
+def a_window_that_comes_back_has_the_keyboard_although_the_window_manager_took_it_meanwhile(start):
+    with start() as (desktop, model):
+        desktop.minimise()
+        with desktop.held_up():
+            desktop.bring_back()
+            desktop.screen.give_keyboard_to_nobody()
+        wait_until(desktop.window.has_focus, "the keyboard in the window")
+        desktop.screen.settle()
+        desktop.click("row_switch", 4)
+        model.toggle(TEMPLATES, 4)
+        model.expect("a row that is switched then")
+
+
 def marked_rows(desktop):
     """Of open menus: the colours where its icon stands, of each marked row from the top."""
     picture = Picture(desktop.screen.picture())
@@ -176,4 +189,5 @@ if __name__ == "__main__":
                a_page_is_shown_by_its_digit_on_a_keyboard_that_has_digits_with_shift,
                a_row_is_changed_by_the_keyboard_alone, the_menu_bar_is_opened_and_walked_by_key,
                a_window_that_is_minimised_or_hidden_comes_back_by_the_keys_that_go_from_window_to_window,
+               a_window_that_comes_back_has_the_keyboard_although_the_window_manager_took_it_meanwhile,
                every_item_of_the_preview_has_its_icon)
