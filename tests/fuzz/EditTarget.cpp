@@ -4,6 +4,9 @@
 #include "tests/fuzz/Require.h"
 #include "tests/model/RandomWalk.h"
 
+#include <csignal>
+#include <cstdlib>
+
 namespace {
 
 using namespace tarnwick;
@@ -31,8 +34,10 @@ private:
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
-    // A failed expectation ends the run at once, where it failed.
+    // A failed expectation ends the run at once, where it failed: by a trap, after which nobody keeps the
+    // input.
     ::testing::GTEST_FLAG(break_on_failure) = true;
+    std::signal(SIGTRAP, [](int) { std::abort(); });
     fuzz::FuzzInput input(bytes, size);
     const auto start = input.pick(2) == 0 ? tarnwick::testing::Start::fresh : tarnwick::testing::Start::used;
     FuzzedWalk(start, input).TestBody();

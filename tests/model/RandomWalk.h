@@ -94,8 +94,6 @@ private:
     int names_ = 0;
     std::string sought_;
     double typing_ = 0;
-    /// Of the templates.
-    int resets_ = 0;
     Moment start_ = moment();
     std::vector<Moment> undo_;
     std::vector<Moment> redo_;

@@ -137,7 +137,6 @@ bool RandomWalk::follow(RuleCategory category, Command command, long row, bool a
     case Command::removeRule:
         return model_.remove(category, row);
     case Command::resetList:
-        resets_ += category == RuleCategory::createNewFile ? 1 : 0;
         return model_.reset(category);
     case Command::enableAll:
         return model_.enableAll(category, !areAllOn);

@@ -105,7 +105,6 @@ void RandomWalk::reset(RuleCategory category) {
     if (haveReset[category]) {
         controller_.reset(category);
         noteSaved(category, model_.reset(category));
-        resets_ += category == RuleCategory::createNewFile ? 1 : 0;
     }
 }
 
