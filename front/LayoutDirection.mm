@@ -51,6 +51,10 @@ NSTextAlignment leadingAlignment() {
     return isRightToLeft() ? NSTextAlignmentRight : NSTextAlignmentLeft;
 }
 
+CGFloat leadingPlace(NSRect room, CGFloat distance) {
+    return isRightToLeft() ? NSMaxX(room) - distance : NSMinX(room) + distance;
+}
+
 void mirrorIfRightToLeft(NSView *view) {
     if (isRightToLeft()) {
         mirror(view);

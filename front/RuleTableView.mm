@@ -1,5 +1,6 @@
 #import "front/RuleTableView.h"
 
+#import "front/LayoutDirection.h"
 #import "front/SettingsViewController+Finding.h"
 
 NSString *const RuleTableViewDidReloadNotification = @"RuleTableViewDidReload";
@@ -200,7 +201,8 @@ bool isTyped(NSEvent *event) {
     }
     [self scrollRowToVisible:row];
     constexpr CGFloat indentation = 40;
-    const NSPoint place = NSMakePoint(indentation, NSMaxY([self rectOfRow:row]));
+    const NSPoint place =
+        NSMakePoint(tarnwick::leadingPlace([self bounds], indentation), NSMaxY([self rectOfRow:row]));
     [[self menu] popUpMenuPositioningItem:nil atLocation:place inView:self];
 }
 

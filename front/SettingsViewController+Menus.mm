@@ -3,6 +3,7 @@
 
 #import "adapters/foundation/StringConversion.h"
 #import "front/ControlMaking.h"
+#import "front/LayoutDirection.h"
 #import "front/NoticeLine.h"
 #import "front/PreviewMenu.h"
 #import "front/Selectors.h"
@@ -72,8 +73,9 @@ std::optional<Page> pageShownBy(SEL action) {
 - (void)previewMenu:(id)sender {
     const auto &preview = _controller->preview();
     NSMenu *menu = tarnwick::makePreviewMenu(preview, preview.items(), self);
+    const NSRect button = [_previewButton bounds];
     [menu popUpMenuPositioningItem:nil
-                        atLocation:NSMakePoint(0, NSMaxY([_previewButton bounds]))
+                        atLocation:NSMakePoint(tarnwick::leadingPlace(button, 0), NSMaxY(button))
                             inView:_previewButton];
 }
 

@@ -53,6 +53,11 @@ class Desktop(Session):
         """All that is stored, but for the frame, which may be half a second behind a window that was moved."""
         return {key: value for key, value in self.stores.read().items() if key != FRAME}
 
+    @property
+    def onward(self):
+        """The key that leads from a menu of the bar to the next, or into a submenu."""
+        return "Left" if self.is_right_to_left else "Right"
+
     # What a person does
 
     @property

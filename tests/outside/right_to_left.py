@@ -7,7 +7,7 @@ from harness.waiting import wait_until
 from tests.outside.checks import require, run_checks
 from tests.outside.picture import ACCENT, Picture
 from tests.outside.places import GAP, PAGES, constant
-from tests.outside.screen import RIGHT_BUTTON, command
+from tests.outside.screen import RIGHT_BUTTON, command, shift_command
 
 NAME = "NewFileDisplayName"
 OPENING, SECOND_OPTION, UNCHECKED_OPTION = "enableAutoOpenAfterCreateNewFile", 1, 3
@@ -97,10 +97,14 @@ def menus_open_towards_the_left(start):
         window_left, _, window_width, _ = desktop.window.geometry()
         _, _, first = open_menu(lambda: desktop.screen.key("F10"))
         require(0 <= window_left + window_width - first < BAR_MARGIN, "the first menu is not at the right")
-        _, _, second = open_menu(lambda: desktop.screen.key("Left"))
+        _, _, second = open_menu(lambda: desktop.screen.key(desktop.onward))
         require(second < first, "the second menu is not left of the first")
         desktop.screen.key("Escape")
         wait_until(lambda: not desktop.menus(), "the end of the menu")
+
+        _, _, preview = open_menu(lambda: desktop.screen.key(shift_command("p")))
+        require(0 <= window_left + window_width - preview < BAR_MARGIN, "the preview is not at its button")
+        desktop.screen.key("Escape")
 
 
 def the_focus_is_shown_around_the_box_of_a_switch(start):

@@ -112,7 +112,7 @@ def menus(album, start):
     with start(Desktop, {}) as desktop:
         desktop.select(1)
         for steps, name in enumerate(MENUS):
-            desktop.screen.key("F10", *["Right"] * steps)
+            desktop.screen.key("F10", *[desktop.onward] * steps)
             album.keep(desktop, f"menu-{name}")
             desktop.screen.key("Escape", "Escape")
         desktop.screen.key(shift_command("p"))

@@ -16,7 +16,7 @@ SAVE_TITLE, QUESTION_TITLE = "^Save$", "^Alert$"
 
 
 def choose_in_file_menu(desktop, steps):
-    desktop.screen.key("F10", "Right")
+    desktop.screen.key("F10", desktop.onward)
     desktop.screen.settle()
     desktop.screen.key(*["Down"] * steps, "Return")
 
