@@ -17,6 +17,7 @@
 #import "gnustep/theme/ImageReaders.h"
 #import "gnustep/theme/TallLines.h"
 #import "gnustep/theme/WideCharacters.h"
+#import "gnustep/windows/DialogWindows.h"
 #import "gnustep/windows/FrameOffsets.h"
 #import "gnustep/windows/WindowActivation.h"
 
@@ -88,6 +89,7 @@ void TNPrepareProcess(const TNProgram &program) {
         TNUseBitmapReadersOnly();
         [TNApplication sharedApplication];
         TNInstallEventPump();
+        TNInstallDialogWindows();
         TNInstallFrameOffsets();
         TNInstallWindowActivation();
         TNInstallForeignDrags();

@@ -169,6 +169,9 @@ class Window:
         for step in ("windowmap", "windowactivate"):
             self.screen.xdotool(step, self.number)
 
+    def is_dialog(self):
+        return b"_NET_WM_WINDOW_TYPE_DIALOG" in self.screen.run("xprop", "-id", self.number, "_NET_WM_WINDOW_TYPE")
+
     def has_focus(self):
         return self.screen.xdotool("getwindowfocus") == [self.number]
 

@@ -116,6 +116,8 @@ def a_menu_or_panel_that_closes_beside_the_minimised_window_does_not_end_the_app
         model.expect("a row switched after a menu")
         open_menu(desktop, APPLICATION_MENU, BUTTON)
         choose(desktop, ABOUT)
+        about = desktop.screen.window(desktop.title)
+        require(about.number != desktop.window.number and about.is_dialog(), "the panel is no dialogue")
         desktop.minimise()
         desktop.screen.key("alt+F4")
         wait_until(lambda: not desktop.screen.windows(desktop.title), "the end of the panel")

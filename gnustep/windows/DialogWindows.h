@@ -1,0 +1,4 @@
+#pragma once
+
+/// Says of panels that they are dialogues. Once the display server is there.
+void TNInstallDialogWindows();
