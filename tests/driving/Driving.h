@@ -15,6 +15,9 @@ void settle();
 /// Handles events until the condition holds; false when ten seconds have passed without.
 bool waitUntil(const std::function<bool()> &condition);
 
+/// From `view` inwards, hidden ones and what is in them left out, the first view that `matches`; nil without
+/// one.
+[[nodiscard]] NSView *firstView(NSView *view, const std::function<bool(NSView *)> &matches);
 [[nodiscard]] NSPoint middleOf(NSView *view);
 [[nodiscard]] NSEvent *mouseEvent(
     NSWindow *window, NSEventType type, NSPoint place, int clicks = 1, NSUInteger modifiers = 0);

@@ -45,6 +45,21 @@ bool waitUntil(const std::function<bool()> &condition) {
     return true;
 }
 
+NSView *firstView(NSView *view, const std::function<bool(NSView *)> &matches) {
+    if ([view isHidden]) {
+        return nil;
+    }
+    if (matches(view)) {
+        return view;
+    }
+    for (NSView *inner in [view subviews]) {
+        if (NSView *found = firstView(inner, matches)) {
+            return found;
+        }
+    }
+    return nil;
+}
+
 NSPoint middleOf(NSView *view) {
     const NSRect bounds = [view bounds];
     return [view convertPoint:NSMakePoint(NSMidX(bounds), NSMidY(bounds)) toView:nil];

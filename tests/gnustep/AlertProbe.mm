@@ -2,39 +2,25 @@
 
 #include "Probe.h"
 
-#import <AppKit/AppKit.h>
-
-#include <functional>
+#import "tests/driving/Driving.h"
 
 namespace tarnwick::probe {
 
 namespace {
 
-NSView *find(NSView *view, const std::function<bool(NSView *)> &matches) {
-    if (matches(view)) {
-        return view;
-    }
-    for (NSView *inner in [view subviews]) {
-        if (NSView *found = find(inner, matches)) {
-            return found;
-        }
-    }
-    return nil;
-}
-
 NSButton *buttonOf(NSWindow *panel, NSString *title) {
-    return (NSButton *)find([panel contentView], [title](NSView *view) {
+    return (NSButton *)driving::firstView([panel contentView], [title](NSView *view) {
         return [view isKindOfClass:[NSButton class]] && [[(NSButton *)view title] isEqualToString:title];
     });
 }
 
 AlertLayout layoutOf(NSWindow *panel, NSString *message) {
     NSView *content = [panel contentView];
-    auto *field = (NSTextField *)find(content, [message](NSView *view) {
+    auto *field = (NSTextField *)driving::firstView(content, [message](NSView *view) {
         return [view isKindOfClass:[NSTextField class]] &&
                [[(NSTextField *)view stringValue] isEqualToString:message];
     });
-    NSView *icon = find(content, [](NSView *view) {
+    NSView *icon = driving::firstView(content, [](NSView *view) {
         return [view isKindOfClass:[NSButton class]] && [(NSButton *)view imagePosition] == NSImageOnly;
     });
     NSScrollView *scroll = [field enclosingScrollView];

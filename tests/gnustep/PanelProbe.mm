@@ -14,18 +14,6 @@ NSString *text(const std::string &string) {
     return [NSString stringWithUTF8String:string.c_str()];
 }
 
-NSView *find(NSView *view, const std::function<bool(NSView *)> &matches) {
-    if (matches(view)) {
-        return view;
-    }
-    for (NSView *inner in [view subviews]) {
-        if (NSView *found = find(inner, matches)) {
-            return found;
-        }
-    }
-    return nil;
-}
-
 NSButton *buttonWithTag(NSWindow *panel, NSInteger tag) {
     return (NSButton *)[[panel contentView] viewWithTag:tag];
 }
@@ -45,7 +33,7 @@ bool standApart(NSWindow *panel) {
 }
 
 PanelTexts textsOf(NSSavePanel *panel) {
-    NSView *field = find([panel contentView], [panel](NSView *view) {
+    NSView *field = driving::firstView([panel contentView], [panel](NSView *view) {
         return [view isKindOfClass:[NSTextField class]] && [[panel message] length] > 0 &&
                [[(NSTextField *)view stringValue] isEqualToString:[panel message]];
     });

@@ -2,9 +2,8 @@
 
 #include "prefs/RuleCategory.h"
 
-#import <AppKit/AppKit.h>
+#import "tests/driving/Driving.h"
 
-#include <functional>
 #include <string>
 
 @class SettingsViewController;
@@ -27,9 +26,8 @@ void useInterface(const MainInterface &interface);
 /// The control inside a cell, or the cell itself when it is one; its row is scrolled to.
 [[nodiscard]] NSControl *controlIn(RuleCategory category, long row, const std::string &column);
 
-/// From `view` downwards, hidden ones and what is in them left out, the first view that `matches`.
-[[nodiscard]] NSView *firstView(NSView *view, const std::function<bool(NSView *)> &matches);
-/// The same for a button with this title.
+using driving::firstView;
+/// The first button with this title, from the view inwards, that is not hidden.
 [[nodiscard]] NSButton *visibleButton(NSView *view, NSString *title);
 
 } // namespace tarnwick::gui

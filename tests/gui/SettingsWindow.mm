@@ -42,21 +42,6 @@ NSControl *controlIn(RuleCategory category, long row, const std::string &column)
     return [[cell subviews] count] > 0 ? [[cell subviews] objectAtIndex:0] : nil;
 }
 
-NSView *firstView(NSView *view, const std::function<bool(NSView *)> &matches) {
-    if ([view isHidden]) {
-        return nil;
-    }
-    if (matches(view)) {
-        return view;
-    }
-    for (NSView *inner in [view subviews]) {
-        if (NSView *found = firstView(inner, matches)) {
-            return found;
-        }
-    }
-    return nil;
-}
-
 NSButton *visibleButton(NSView *view, NSString *title) {
     return static_cast<NSButton *>(firstView(view, [title](NSView *each) {
         return [each isKindOfClass:[NSButton class]] &&
