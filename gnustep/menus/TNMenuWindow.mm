@@ -75,16 +75,15 @@
     constexpr CGFloat overlap = 3;
     const NSRect item = [parent screenRectOfRow:row];
     const CGFloat top = NSMaxY(item) + TNMenuRows::padding;
-    const NSRect beside = NSInsetRect([parent frame], overlap, 0);
-    const NSRect available = [self availableAt:[parent frame].origin];
+    const NSRect shown = [parent frame];
+    const NSRect available = [self availableAt:shown.origin];
     const CGFloat width = [self rows].size().width;
-    if (TNReadsFromRightToLeft()) {
-        const bool fitsLeft = NSMinX(beside) - width >= NSMinX(available);
-        [self showAt:NSMakePoint(fitsLeft ? NSMinX(beside) : NSMaxX(beside) + width, top)];
-    } else {
-        const bool fitsRight = NSMaxX(beside) + width <= NSMaxX(available);
-        [self showAt:NSMakePoint(fitsRight ? NSMaxX(beside) : NSMinX(beside) - width, top)];
-    }
+    const NSRect behind =
+        TNPlaceByDirection(NSMakeRect(NSMaxX(shown) - overlap, NSMinY(shown), width, 0), shown);
+    const NSRect before =
+        TNPlaceByDirection(NSMakeRect(NSMinX(shown) + overlap - width, NSMinY(shown), width, 0), shown);
+    const bool fits = NSMinX(behind) >= NSMinX(available) && NSMaxX(behind) <= NSMaxX(available);
+    [self showAt:NSMakePoint(TNLeadingEdge(fits ? behind : before), top)];
 }
 
 - (void)scrollRow:(NSInteger)row toScreenY:(CGFloat)y {

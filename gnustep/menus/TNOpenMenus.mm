@@ -42,8 +42,8 @@ void TNOpenMenus::openBarItem(NSInteger item) {
     NSMenu *submenu = item >= 0 ? [[[bar_ menu] itemAtIndex:item] submenu] : nil;
     if (submenu) {
         const NSRect rect = [bar_ convertRect:[bar_ rectOfItemAtIndex:item] toView:nil];
-        const CGFloat leading = TNReadsFromRightToLeft() ? NSMaxX(rect) : NSMinX(rect);
-        openAt(submenu, [[bar_ window] convertBaseToScreen:NSMakePoint(leading, NSMinY(rect))], nil);
+        const NSPoint corner = NSMakePoint(TNLeadingEdge(rect), NSMinY(rect));
+        openAt(submenu, [[bar_ window] convertBaseToScreen:corner], nil);
     }
     [[bar_ window] displayIfNeeded];
 }

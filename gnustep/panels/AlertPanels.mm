@@ -29,11 +29,16 @@ constexpr CGFloat smallestMessage = 48;
 using Size = void (*)(id self, SEL command);
 Size nativeSize = nullptr;
 
-/// A view of the panel, by the name of its instance variable; nil unless it is shown.
-id part(id panel, const char *name) {
+/// A view of the panel, by the name of its instance variable, shown or not.
+id viewOf(id panel, const char *name) {
     void *found = nullptr;
     object_getInstanceVariable(panel, name, &found);
-    NSView *view = (NSView *)found;
+    return (NSView *)found;
+}
+
+/// Nil unless it is shown.
+id part(id panel, const char *name) {
+    NSView *view = viewOf(panel, name);
     return [view superview] ? view : nil;
 }
 
@@ -100,9 +105,7 @@ void setContentSize(NSPanel *panel, NSSize size) {
 
 /// As it is, or in a view that scrolls.
 void placeMessage(id panel, NSTextField *message, NSRect place, bool scrolls) {
-    void *found = nullptr;
-    object_getInstanceVariable(panel, "scroll", &found);
-    NSScrollView *scroll = (NSScrollView *)found;
+    NSScrollView *scroll = viewOf(panel, "scroll");
     [message retain];
     [scroll setDocumentView:nil];
     [message removeFromSuperview];

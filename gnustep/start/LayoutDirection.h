@@ -10,3 +10,6 @@ bool TNReadsFromRightToLeft();
 /// Where a rectangle in a room goes that is laid out for reading from left to right: to the other side when
 /// the interface is read from right to left, and else nowhere.
 NSRect TNPlaceByDirection(NSRect place, NSRect room);
+
+/// The place of the side at which reading begins.
+CGFloat TNLeadingEdge(NSRect place);

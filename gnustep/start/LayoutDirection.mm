@@ -38,6 +38,10 @@ NSRect TNPlaceByDirection(NSRect place, NSRect room) {
                : place;
 }
 
+CGFloat TNLeadingEdge(NSRect place) {
+    return TNReadsFromRightToLeft() ? NSMaxX(place) : NSMinX(place);
+}
+
 @implementation NSApplication (TNLayoutDirection)
 
 - (NSUserInterfaceLayoutDirection)userInterfaceLayoutDirection {

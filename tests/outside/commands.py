@@ -131,8 +131,7 @@ def a_window_that_is_minimised_or_hidden_comes_back_by_the_keys_that_go_from_win
     with start() as (desktop, model):
         for key in ("m", "h"):
             desktop.screen.key(command(key))
-            wait_until(lambda: not desktop.is_in_sight(), "the end of the window", process=desktop.application)
-            desktop.screen.settle()
+            desktop.wait_until_gone()
             desktop.screen.key("alt+Tab")
             wait_until(lambda: desktop.is_in_sight() and desktop.window.has_focus(), "the window with the keyboard")
             desktop.screen.settle()

@@ -80,6 +80,10 @@ class Desktop(Session):
 
     def minimise(self):
         self.window.minimise()
+        self.wait_until_gone()
+
+    def wait_until_gone(self):
+        """Minimised or hidden."""
         wait_until(lambda: not self.is_in_sight(), "the end of the window", process=self.application)
         self.screen.settle()
 
