@@ -27,14 +27,14 @@ NSArray *RecordObjects::toList(const PlistArray &array) {
 }
 
 id RecordObjects::newElement(const PlistValue &element, ObjectMaker &maker) {
-    auto record = element.sharedDictionary();
+    const auto *record = element.dictionary();
     if (!record) {
         return maker.newObject(element);
     }
-    auto &known = known_[record.get()];
+    auto &known = known_[record];
     if (!known.record) {
         NSDictionary *object = maker.newDictionary(*record);
-        known = {std::move(record), ObjectPointer<NSDictionary>::adopting(object)};
+        known = {element.sharedDictionary(), ObjectPointer<NSDictionary>::adopting(object)};
     }
     return [known.object.get() retain];
 }

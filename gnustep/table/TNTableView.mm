@@ -194,9 +194,10 @@
 /// are shown or asked for.
 - (void)exchangeRowViews {
     _reloadIsPending = NO;
+    // First, so that no row that goes marks its own part of the table.
+    [self setNeedsDisplay:YES];
     [self dropRowViews];
     _needsRows = YES;
-    [self setNeedsDisplay:YES];
 }
 
 - (void)displayRectIgnoringOpacity:(NSRect)rect inContext:(NSGraphicsContext *)context {
