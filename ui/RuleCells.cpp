@@ -77,17 +77,20 @@ CellView RuleCells::checkBox(const Column& column, const RuleList& list, std::si
 
 CellView RuleCells::templateIcon(const Column& column, const RuleList& list, std::size_t row) const {
     const auto folder = GroupContainer(folders_).templateFolder();
-    if (!folder) {
-        return picture(nullptr, column);
-    }
     const auto& record = list[row];
     const auto extension = record.text(field::extension);
+    // Without both it would be that of the folder.
+    const bool hasName = !extension.empty() || !record.text(field::displayName).empty();
+    if (!folder || !hasName) {
+        return picture(nullptr, column);
+    }
     auto image = images_.fromFile(std::string(*folder).append("/").append(extension).append(".png"));
     return picture(image ? image : images_.iconOfFile(*folder + "/" + templateFileName(record)), column);
 }
 
 CellView RuleCells::folderIcon(const Column& column, const RuleList& list, std::size_t row) const {
-    return picture(images_.iconOfFile(std::string(list[row].text(field::realPath))), column);
+    const std::string path(list[row].text(field::realPath));
+    return picture(path.empty() ? nullptr : images_.iconOfFile(path), column);
 }
 
 CellView RuleCells::recordIcon(const Column& column, const RuleList& list, std::size_t row) const {

@@ -204,6 +204,16 @@ TEST_F(RuleCellsTest, MissingFieldsShowAsEmptyTextOffAndNoImage) {
     EXPECT_FALSE(box(icons, "Enable", 0).on);
 }
 
+TEST_F(RuleCellsTest, WithoutANameOrAPathThereIsNoFileToShowTheIconOf) {
+    for (const auto category : {templates, targets, folders}) {
+        storeList(category, {makeRecord({{"modified", "1"}})});
+    }
+    launch();
+    EXPECT_EQ(image(templates, "NewFileIcon", 0), "");
+    EXPECT_EQ(image(targets, "SendFileIcon", 0), "");
+    EXPECT_EQ(image(folders, "commonPathIcon", 0), "");
+}
+
 TEST_F(RuleCellsTest, AnUnknownColumnAndARowOutsideTheListGiveAnEmptyCell) {
     for (const auto category : allRuleCategories) {
         EXPECT_EQ(cell(category, "Size of nothing", 0), CellView{});
