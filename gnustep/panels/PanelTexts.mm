@@ -5,6 +5,7 @@
 #import <AppKit/AppKit.h>
 
 #import "gnustep/runtime/MethodReplacement.h"
+#import "gnustep/start/LayoutDirection.h"
 #import "gnustep/views/ViewAttachments.h"
 
 #include <algorithm>
@@ -14,6 +15,9 @@
 - (void)tnResetTexts;
 - (void)tnSetPrompt:(NSString *)prompt;
 - (NSString *)tnPrompt;
+/// The side of the title at which reading begins, which stays where it is when the title is another one.
+- (CGFloat)tnTitleBegin;
+- (void)tnBeginTitleAt:(CGFloat)leading;
 /// Below the title; made when it is first asked for.
 - (NSTextField *)tnMessageField;
 @end
@@ -28,7 +32,9 @@ constexpr CGFloat smallestWidth = 600;
 constexpr CGFloat smallestHeight = 440;
 
 using Reset = void (*)(id self, SEL command);
+using SetTitle = void (*)(id self, SEL command, NSString *title);
 Reset nativeReset = nullptr;
+SetTitle nativeSetTitle = nullptr;
 
 void reset(id self, SEL command) {
     nativeReset(self, command);
@@ -38,6 +44,13 @@ void reset(id self, SEL command) {
     if (size.width < smallestWidth) {
         [self setContentSize:NSMakeSize(smallestWidth, std::max(size.height, smallestHeight))];
     }
+}
+
+/// As wide as it needs to be.
+void setTitle(id self, SEL command, NSString *title) {
+    const CGFloat leading = [self tnTitleBegin];
+    nativeSetTitle(self, command, title);
+    [self tnBeginTitleAt:leading];
 }
 
 void setPrompt(id self, SEL, NSString *prompt) {
@@ -64,6 +77,7 @@ NSString *message(id self, SEL) {
 
 + (void)load {
     nativeReset = TNReplaceMethod(self, @selector(_resetDefaults), reset);
+    nativeSetTitle = TNReplaceMethod(self, @selector(setTitle:), setTitle);
     TNReplaceMethod(self, @selector(setPrompt:), setPrompt);
     TNReplaceMethod(self, @selector(prompt), prompt);
     TNReplaceMethod(self, @selector(setMessage:), setMessage);
@@ -80,7 +94,7 @@ NSString *message(id self, SEL) {
     return [_okButton title];
 }
 
-/// Each button is as wide as its title needs; what stands left of it makes room.
+/// Each button is as wide as its title needs; what stands before it makes room.
 - (void)tnSetPrompt:(NSString *)prompt {
     if (!TNAttachment(_okButton, standardPromptName)) {
         TNSetAttachment(_okButton, standardPromptName, [_okButton title]);
@@ -88,7 +102,8 @@ NSString *message(id self, SEL) {
     [_okButton setTitle:[prompt length] > 0 ? prompt : TNAttachment(_okButton, standardPromptName)];
     // That of the Return key, which is blank here, and takes its room.
     [_okButton setImagePosition:NSNoImage];
-    CGFloat right = NSMaxX([_okButton frame]);
+    const NSRect room = [_bottomView bounds];
+    CGFloat right = NSMaxX(TNPlaceByDirection([_okButton frame], room));
     for (const NSInteger tag :
         {NSFileHandlingPanelOKButton, NSFileHandlingPanelCancelButton, NSFileHandlingPanelDiskEjectButton,
             NSFileHandlingPanelDiskButton, NSFileHandlingPanelHomeButton}) {
@@ -99,10 +114,19 @@ NSString *message(id self, SEL) {
             frame.size.width = std::max(smallestPromptWidth, std::ceil(wanted));
         }
         frame.origin.x = right - NSWidth(frame);
-        [button setFrame:frame];
+        [button setFrame:TNPlaceByDirection(frame, room)];
         right = NSMinX(frame) - buttonGap;
     }
     [_bottomView setNeedsDisplay:YES];
+}
+
+- (CGFloat)tnTitleBegin {
+    return TNLeadingEdge([_titleField frame]);
+}
+
+- (void)tnBeginTitleAt:(CGFloat)leading {
+    const NSRect frame = [_titleField frame];
+    [_titleField setFrameOrigin:NSMakePoint(NSMinX(frame) + leading - TNLeadingEdge(frame), NSMinY(frame))];
 }
 
 - (NSTextField *)tnMessageField {
@@ -111,22 +135,25 @@ NSString *message(id self, SEL) {
     if (!field) {
         constexpr CGFloat height = 18;
         constexpr CGFloat margin = 8;
+        const CGFloat leading = [self tnTitleBegin];
         [_titleField setFont:[NSFont boldSystemFontOfSize:15]];
         [_titleField sizeToFit];
+        [self tnBeginTitleAt:leading];
         // Both lines beside the icon.
         constexpr CGFloat titleTop = 11;
-        const CGFloat bottom = NSMaxY([_topView bounds]) - titleTop - NSHeight([_titleField frame]);
+        const NSRect room = [_topView bounds];
+        const CGFloat bottom = NSMaxY(room) - titleTop - NSHeight([_titleField frame]);
         [_titleField setFrameOrigin:NSMakePoint(NSMinX([_titleField frame]), bottom)];
-        const NSRect title = [_titleField frame];
-        const CGFloat width = NSMaxX([_topView bounds]) - NSMinX(title) - margin;
-        field = [[[NSTextField alloc]
-            initWithFrame:NSMakeRect(NSMinX(title), NSMinY(title) - height - 2, width, height)] autorelease];
+        const CGFloat begin = NSMinX(TNPlaceByDirection([_titleField frame], room));
+        const NSRect place = NSMakeRect(begin, bottom - height - 2, NSMaxX(room) - begin - margin, height);
+        field = [[[NSTextField alloc] initWithFrame:TNPlaceByDirection(place, room)] autorelease];
         // Nobody finds it in place of the button with the tag 0.
         [field setTag:-1];
         [field setSelectable:NO];
         [field setDrawsBackground:NO];
         [field setBezeled:NO];
         [field setFont:[NSFont systemFontOfSize:12]];
+        [field setAlignment:TNReadsFromRightToLeft() ? NSRightTextAlignment : NSLeftTextAlignment];
         [[field cell] setLineBreakMode:NSLineBreakByTruncatingTail];
         [field setAutoresizingMask:NSViewMinYMargin | NSViewWidthSizable];
         [_topView addSubview:field];

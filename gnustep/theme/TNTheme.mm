@@ -125,26 +125,6 @@ NSBezierPath *TNThemeHairline(NSRect rect, CGFloat radius) {
     [path stroke];
 }
 
-- (void)drawBrowserHeaderCell:(NSTableHeaderCell *)cell withFrame:(NSRect)frame inView:(NSView *)view {
-    [TNThemeCurrentColors()->header set];
-    NSRectFill(frame);
-}
-
-/// Without the toolkit's frame around the horizontal scroller, which is there also while nothing can be
-/// scrolled.
-- (void)drawBrowserRect:(NSRect)rect
-                 inView:(NSView *)view
-       withScrollerRect:(NSRect)scrollerRect
-             columnSize:(NSSize)columnSize {
-    NSBrowser *browser = (NSBrowser *)view;
-    if (![browser isLoaded]) {
-        [browser loadColumnZero];
-    }
-    for (NSInteger column = [browser firstVisibleColumn]; column <= [browser lastVisibleColumn]; ++column) {
-        [browser drawTitleOfColumn:column inRect:[browser titleFrameOfColumn:column]];
-    }
-}
-
 - (void)drawWindowBackground:(NSRect)frame view:(NSView *)view {
     [[[view window] backgroundColor] set];
     NSRectFill(frame);

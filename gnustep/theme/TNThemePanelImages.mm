@@ -3,6 +3,8 @@
 
 #import "TNTheme.h"
 
+#import "gnustep/start/LayoutDirection.h"
+
 namespace {
 
 NSColor *const *folderColors() {
@@ -81,9 +83,10 @@ void drawEject(NSRect) {
     [line({{9.5, 17.8}, {12, 20.3}, {14.5, 17.8}}, 1.6) stroke];
 }
 
-void drawArrowRight(NSRect) {
+void drawArrowOnward(NSRect) {
+    const CGFloat ahead = TNReadsFromRightToLeft() ? -1.5 : 1.5;
     [TNThemeCurrentColors()->secondaryText set];
-    [line({{3.5, 2}, {6.5, 5}, {3.5, 8}}, 1.3) stroke];
+    [line({{5 - ahead, 2}, {5 + ahead, 5}, {5 - ahead, 8}}, 1.3) stroke];
 }
 
 void drawArrowDown(NSRect) {
@@ -117,8 +120,8 @@ const struct {
     {@"common_Home", {24, 24}, drawHome},
     {@"common_Mount", {24, 24}, drawMount},
     {@"common_Unmount", {24, 24}, drawEject},
-    {@"GSMenuArrow", {10, 10}, drawArrowRight},
-    {@"common_3DArrowRightH", {10, 10}, drawArrowRight},
+    {@"GSMenuArrow", {10, 10}, drawArrowOnward},
+    {@"common_3DArrowRightH", {10, 10}, drawArrowOnward},
     {@"common_3DArrowDown", {10, 10}, drawArrowDown},
     {@"common_Nibble", {11, 12}, drawUpAndDown},
 };

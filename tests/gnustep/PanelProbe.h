@@ -44,6 +44,21 @@ struct HiddenExtension {
 };
 HiddenExtension chooseOnlyFile(const std::string& folder, bool hidesExtension);
 
+/// Which way an open panel is read that shows a folder deep inside others.
+struct PanelLayout {
+    bool iconIsAtTheLeft = false;
+    bool titleIsAtTheLeft = false;
+    bool defaultButtonIsAtTheLeft = false;
+    bool labelIsLeftOfItsField = false;
+    bool columnsGoOnToTheRight = false;
+    bool titlesGoOnToTheRight = false;
+    bool scrollerEndsAtTheRight = false;
+    bool leftKeyGoesBack = false;
+    bool rightKeyGoesBack = false;
+    std::string nameLabel;
+};
+PanelLayout layoutOfOpenPanel(const std::string& folder);
+
 /// Where a panel begins that is to begin in a folder.
 std::string beginningOf(const std::string& folder);
 std::string homeFolder();

@@ -188,6 +188,50 @@ HiddenExtension chooseOnlyFile(const std::string &folder, bool hidesExtension) {
     }
 }
 
+PanelLayout layoutOfOpenPanel(const std::string &folder) {
+    @autoreleasepool {
+        startUp();
+        PanelLayout layout;
+        NSOpenPanel *panel = [NSOpenPanel openPanel];
+        [panel setDirectoryURL:[NSURL fileURLWithPath:text(folder) isDirectory:YES]];
+        [panel beginWithCompletionHandler:^(NSInteger){
+        }];
+        runPanel([panel, &layout] {
+            NSView *content = [panel contentView];
+            const auto isAtTheLeft = [content](NSInteger tag) {
+                return NSMidX([[content viewWithTag:tag] frame]) < NSMidX([content bounds]);
+            };
+            layout.iconIsAtTheLeft = isAtTheLeft(NSFileHandlingPanelImageButton);
+            layout.titleIsAtTheLeft = isAtTheLeft(NSFileHandlingPanelTitleField);
+            layout.defaultButtonIsAtTheLeft = isAtTheLeft(NSFileHandlingPanelOKButton);
+            NSForm *form = (NSForm *)[content viewWithTag:NSFileHandlingPanelForm];
+            const NSRect field = [[form cellAtIndex:0] drawingRectForBounds:[form bounds]];
+            layout.labelIsLeftOfItsField = NSMidX(field) > NSMidX([form bounds]);
+            layout.nameLabel = [[panel nameFieldLabel] UTF8String];
+            NSBrowser *browser = (NSBrowser *)[content viewWithTag:NSFileHandlingPanelBrowser];
+            const NSInteger first = [browser firstVisibleColumn];
+            layout.columnsGoOnToTheRight =
+                NSMinX([browser frameOfColumn:first]) < NSMinX([browser frameOfColumn:first + 1]);
+            layout.titlesGoOnToTheRight =
+                NSMinX([browser titleFrameOfColumn:first]) < NSMinX([browser titleFrameOfColumn:first + 1]);
+            NSScroller *scroller = (NSScroller *)driving::firstView(browser, [browser](NSView *view) {
+                return [view isKindOfClass:[NSScroller class]] && [view superview] == browser;
+            });
+            layout.scrollerEndsAtTheRight = [scroller floatValue] > 0.5;
+            const auto goesBack = [browser](SEL key) {
+                [[browser window] makeFirstResponder:browser];
+                const NSInteger before = [browser selectedColumn];
+                [browser performSelector:key withObject:nil];
+                return [browser selectedColumn] < before;
+            };
+            layout.leftKeyGoesBack = goesBack(@selector(moveLeft:));
+            layout.rightKeyGoesBack = goesBack(@selector(moveRight:));
+            [panel cancel:nil];
+        });
+        return layout;
+    }
+}
+
 std::string beginningOf(const std::string &folder) {
     @autoreleasepool {
         startUp();

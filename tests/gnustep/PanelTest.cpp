@@ -16,6 +16,15 @@ std::string newFolder(const std::string& name) {
     return folder;
 }
 
+std::string newFolderInsideOthers() {
+    auto folder = newFolder("one");
+    for (const auto* name : {"/two", "/three", "/four", "/five", "/six"}) {
+        folder += name;
+        EXPECT_EQ(mkdir(folder.c_str(), 0700), 0);
+    }
+    return folder;
+}
+
 } // namespace
 
 TEST(Panel, ShowsItsTitleItsMessageAndItsPromptOnTheDefaultButton) {
@@ -77,4 +86,33 @@ TEST(Panel, HidesExtensionsWhereItIsToldTo) {
     EXPECT_GT(hidden.ink, 0.2 * shown.ink);
     EXPECT_EQ(shown.chosenPath, folder + "/Letter.document");
     EXPECT_EQ(hidden.chosenPath, folder + "/Letter.document");
+}
+
+TEST(Panel, IsReadFromLeftToRight) {
+    const auto layout = layoutOfOpenPanel(newFolderInsideOthers());
+    EXPECT_TRUE(layout.iconIsAtTheLeft);
+    EXPECT_TRUE(layout.titleIsAtTheLeft);
+    EXPECT_FALSE(layout.defaultButtonIsAtTheLeft);
+    EXPECT_TRUE(layout.labelIsLeftOfItsField);
+    EXPECT_TRUE(layout.columnsGoOnToTheRight);
+    EXPECT_TRUE(layout.titlesGoOnToTheRight);
+    EXPECT_TRUE(layout.scrollerEndsAtTheRight);
+    EXPECT_TRUE(layout.leftKeyGoesBack);
+    EXPECT_FALSE(layout.rightKeyGoesBack);
+    EXPECT_EQ(layout.nameLabel, "Name:");
+}
+
+TEST(Panel, IsTurnedAroundWhenReadFromRightToLeft) {
+    turnReadingDirection();
+    const auto layout = layoutOfOpenPanel(newFolderInsideOthers());
+    EXPECT_FALSE(layout.iconIsAtTheLeft);
+    EXPECT_FALSE(layout.titleIsAtTheLeft);
+    EXPECT_TRUE(layout.defaultButtonIsAtTheLeft);
+    EXPECT_FALSE(layout.labelIsLeftOfItsField);
+    EXPECT_FALSE(layout.columnsGoOnToTheRight);
+    EXPECT_FALSE(layout.titlesGoOnToTheRight);
+    EXPECT_FALSE(layout.scrollerEndsAtTheRight);
+    EXPECT_FALSE(layout.leftKeyGoesBack);
+    EXPECT_TRUE(layout.rightKeyGoesBack);
+    EXPECT_EQ(layout.nameLabel, "Name:");
 }

@@ -2,9 +2,12 @@
 to left, with a real pointer at the places of the usual layout, seen in a mirror. Both stores are looked at after each
 step."""
 
+import pathlib
+
 from harness.stores import ACTIONS, COPY_TARGETS, TEMPLATES, folder_records
 from harness.waiting import wait_until
 from tests.outside.checks import require, run_checks
+from tests.outside.panels import OpenPanel
 from tests.outside.picture import ACCENT, Picture
 from tests.outside.places import GAP, PAGES, constant
 from tests.outside.screen import RIGHT_BUTTON, command, shift_command
@@ -17,6 +20,9 @@ RING_SIDES = (-12, -7), (7, 12)
 TITLE_END = 40
 # The first menu's title may be so far from the window's edge.
 BAR_MARGIN = 20
+# From the sides of a panel: into its default button, its scroller. The titles of its columns.
+PANEL_MARGIN, PANEL_SCROLLER = 25, 78
+PANEL_TITLES = 10, 90, 590, 115
 # The second row of the menu of a rule, from its upper edge.
 TURN_OFF = 40
 
@@ -107,6 +113,41 @@ def menus_open_towards_the_left(start):
         desktop.screen.key("Escape")
 
 
+def a_panel_is_turned_around(start):
+    """The pointer is where a mirror shows the default button, and the columns before are at the right."""
+    with start(is_right_to_left=True) as (desktop, _):
+        inner = pathlib.Path(desktop.user.name, "one", "two", "three", "four", "five")
+        inner.mkdir(parents=True)
+        desktop.show_list(COPY_TARGETS)
+
+        def ask_for(folder):
+            desktop.click("add")
+            panel = OpenPanel(desktop.screen)
+            panel.enter(f"{folder}/")
+            return panel
+
+        def expect_last(folder):
+            def is_last():
+                return desktop.stores.local(COPY_TARGETS)[-1]["realPath"] == str(folder)
+            wait_until(is_last, f"{folder} at the end")
+
+        panel = ask_for(inner)
+        panel.window.click((PANEL_MARGIN, panel.window.size()[1] - PANEL_MARGIN))
+        expect_last(inner)
+        ask_for(inner)
+        desktop.screen.key("shift+Tab", "Right")
+        desktop.screen.settle()
+        desktop.screen.key("Return")
+        expect_last(inner.parent)
+        panel = ask_for(inner)
+        before = Picture(panel.window.picture()).colours(*PANEL_TITLES)
+        width, height = panel.window.size()
+        panel.window.click((width - PANEL_MARGIN, height - PANEL_SCROLLER))
+        desktop.screen.settle()
+        require(Picture(panel.window.picture()).colours(*PANEL_TITLES) != before, "the columns have not been scrolled")
+        panel.cancel()
+
+
 def the_focus_is_shown_around_the_box_of_a_switch(start):
     with start(is_right_to_left=True) as (desktop, _):
         x, y = map(round, desktop.seen(desktop.places.switch(UNCHECKED_OPTION)))
@@ -126,4 +167,4 @@ def the_focus_is_shown_around_the_box_of_a_switch(start):
 
 if __name__ == "__main__":
     run_checks(controls_are_where_a_mirror_shows_them, rows_are_edited_dragged_and_found, texts_begin_at_the_right,
-               menus_open_towards_the_left, the_focus_is_shown_around_the_box_of_a_switch)
+               menus_open_towards_the_left, a_panel_is_turned_around, the_focus_is_shown_around_the_box_of_a_switch)
