@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 /// A running application with a window, as far as the layer changes it.
 namespace tarnwick::probe {
@@ -26,5 +27,8 @@ struct WindowResult {
 /// Runs the application: posts `clicks` clicks, answers an open panel with OK, edits a field beside a default
 /// button and leaves it with Return.
 WindowResult runWindow(int clicks);
+
+/// How far a window that cannot be as narrow as the screen reaches beyond its left and its right edge.
+std::pair<double, double> overhangOfTooWideWindow(double excess);
 
 } // namespace tarnwick::probe

@@ -215,4 +215,20 @@ WindowResult runWindow(int clicks) {
     }
 }
 
+std::pair<double, double> overhangOfTooWideWindow(double excess) {
+    @autoreleasepool {
+        startUp();
+        NSScreen *screen = [NSScreen mainScreen];
+        const NSRect room = [screen visibleFrame];
+        NSWindow *window =
+            [[[NSWindow alloc] initWithContentRect:NSMakeRect(50, 50, 400, 300)
+                                         styleMask:NSWindowStyleMaskTitled | NSWindowStyleMaskResizable
+                                           backing:NSBackingStoreBuffered
+                                             defer:YES] autorelease];
+        [window setMinSize:NSMakeSize(NSWidth(room) + excess, 100)];
+        const NSRect placed = [window constrainFrameRect:NSInsetRect(room, -excess, 20) toScreen:screen];
+        return {NSMinX(room) - NSMinX(placed), NSMaxX(placed) - NSMaxX(room)};
+    }
+}
+
 } // namespace tarnwick::probe

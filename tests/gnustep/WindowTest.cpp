@@ -1,3 +1,4 @@
+#include "Files.h"
 #include "WindowProbe.h"
 
 #include <gtest/gtest.h>
@@ -18,4 +19,13 @@ TEST(Window, HandlesClicksPanelsLayersAndReturnAsOnMacOS) {
     EXPECT_NEAR(result.layerCorner, 1, 0.01);
     EXPECT_EQ(result.textAfterReturn, "x");
     EXPECT_EQ(result.defaultButtonPresses, 0);
+}
+
+TEST(Window, ShowsTheSideWhereReadingBeginsWhenItIsWiderThanTheScreen) {
+    EXPECT_EQ(overhangOfTooWideWindow(300), std::pair(0.0, 300.0));
+}
+
+TEST(Window, ShowsItsRightSideWhenItIsWiderThanTheScreenAndReadFromRightToLeft) {
+    turnReadingDirection();
+    EXPECT_EQ(overhangOfTooWideWindow(300), std::pair(300.0, 0.0));
 }
