@@ -31,4 +31,7 @@ WindowResult runWindow(int clicks);
 /// How far a window that cannot be as narrow as the screen reaches beyond its left and its right edge.
 std::pair<double, double> overhangOfTooWideWindow(double excess);
 
+/// How wide a window without a frame is that is to be that wide.
+double widthOfWindow(double wanted);
+
 } // namespace tarnwick::probe

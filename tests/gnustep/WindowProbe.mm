@@ -215,19 +215,33 @@ WindowResult runWindow(int clicks) {
     }
 }
 
+namespace {
+
+NSWindow *makeWindow(double width, NSUInteger style) {
+    return [[[NSWindow alloc] initWithContentRect:NSMakeRect(50, 50, width, 300)
+                                        styleMask:style
+                                          backing:NSBackingStoreBuffered
+                                            defer:YES] autorelease];
+}
+
+} // namespace
+
 std::pair<double, double> overhangOfTooWideWindow(double excess) {
     @autoreleasepool {
         startUp();
         NSScreen *screen = [NSScreen mainScreen];
         const NSRect room = [screen visibleFrame];
-        NSWindow *window =
-            [[[NSWindow alloc] initWithContentRect:NSMakeRect(50, 50, 400, 300)
-                                         styleMask:NSWindowStyleMaskTitled | NSWindowStyleMaskResizable
-                                           backing:NSBackingStoreBuffered
-                                             defer:YES] autorelease];
+        NSWindow *window = makeWindow(400, NSWindowStyleMaskTitled | NSWindowStyleMaskResizable);
         [window setMinSize:NSMakeSize(NSWidth(room) + excess, 100)];
         const NSRect placed = [window constrainFrameRect:NSInsetRect(room, -excess, 20) toScreen:screen];
         return {NSMinX(room) - NSMinX(placed), NSMaxX(placed) - NSMaxX(room)};
+    }
+}
+
+double widthOfWindow(double wanted) {
+    @autoreleasepool {
+        startUp();
+        return NSWidth([makeWindow(wanted, NSWindowStyleMaskBorderless) frame]);
     }
 }
 

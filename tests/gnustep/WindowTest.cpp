@@ -1,4 +1,5 @@
 #include "Files.h"
+#include "Probe.h"
 #include "WindowProbe.h"
 
 #include <gtest/gtest.h>
@@ -28,4 +29,9 @@ TEST(Window, ShowsTheSideWhereReadingBeginsWhenItIsWiderThanTheScreen) {
 TEST(Window, ShowsItsRightSideWhenItIsWiderThanTheScreenAndReadFromRightToLeft) {
     turnReadingDirection();
     EXPECT_EQ(overhangOfTooWideWindow(300), std::pair(300.0, 0.0));
+}
+
+TEST(Window, IsAsLargeAsItSaysWhateverTheScaleFactor) {
+    writeContent(defaultsFolder() + "/NSGlobalDomain.plist", "{ GSScaleFactor = 2; }");
+    EXPECT_EQ(widthOfWindow(400), 400);
 }
