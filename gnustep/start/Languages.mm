@@ -6,6 +6,8 @@
 
 #import <Foundation/Foundation.h>
 
+#import "gnustep/start/PrimaryDefaults.h"
+
 #include <cstdlib>
 
 namespace {
@@ -127,13 +129,7 @@ void TNUseLanguagesOfUser() {
     }
     id chosen = [defaults objectForKey:@"AppleLanguages"];
     NSArray *codes = [chosen isKindOfClass:[NSArray class]] ? chosen : codesOfEnvironment();
-    // The domain ahead of all others: GNUstep has put the languages that it found itself there.
-    NSString *const domain = @"GSPrimaryDomain";
-    NSDictionary *old = [defaults volatileDomainForName:domain];
-    NSMutableDictionary *changed = [NSMutableDictionary dictionaryWithDictionary:old];
-    [changed setObject:TNLanguagesForCodes(codes) forKey:@"NSLanguages"];
-    if (old) {
-        [defaults removeVolatileDomainForName:domain];
-    }
-    [defaults setVolatileDomain:changed forName:domain];
+    // Before those that GNUstep has found itself.
+    TNSetPrimaryDefaults([NSDictionary dictionaryWithObject:TNLanguagesForCodes(codes)
+                                                     forKey:@"NSLanguages"]);
 }

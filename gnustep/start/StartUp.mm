@@ -13,6 +13,7 @@
 #import "gnustep/start/Languages.h"
 #import "gnustep/start/LayoutDirection.h"
 #import "gnustep/start/Paths.h"
+#import "gnustep/start/PrimaryDefaults.h"
 #import "gnustep/start/Workspace.h"
 #import "gnustep/theme/ImageReaders.h"
 #import "gnustep/theme/TallLines.h"
@@ -31,8 +32,10 @@ void prepareDefaultsFile(NSString *domain) {
     TNReadSettingsFile(TNSettingsFileOf(domain));
 }
 
-/// `han` is the font of Chinese characters, without its weight.
-void registerInitialDefaults(NSArray *languages, NSString *han) {
+/// What the window is laid out for, whatever a user has set for all programs of GNUstep, most of which look
+/// another way: with larger letters texts would be cut, and elsewhere the menu bar has no theme. `han` is the
+/// font of Chinese characters, without its weight.
+NSDictionary *lookOfProgram(NSArray *languages, NSString *han) {
     // Latin letters beside Chinese characters come from their font too: otherwise these would never be bold,
     // and sit lower than the rest of the line.
     const bool inHan = TNLanguageUsesHanCharacters(languages);
@@ -48,22 +51,27 @@ void registerInitialDefaults(NSArray *languages, NSString *han) {
     [values setObject:bold forKey:@"NSTitleBarFont"];
     [values setObject:@"13" forKey:@"NSFontSize"];
     [values setObject:@"12" forKey:@"NSToolTipsFontSize"];
+    // Letters as they are drawn, a whole number of points wide.
+    [values setObject:@"33" forKey:@"GSFontHinting"];
     [values setObject:@"YES" forKey:@"GSScrollViewNoInnerBorder"];
     [values setObject:@"YES" forKey:@"GSSuppressAppIcon"];
     // A window that is minimised is left to the window manager, which lists it with the others.
     [values setObject:@"NO" forKey:@"GSAppOwnsMiniwindow"];
     [values setObject:@"NSMacintoshInterfaceStyle" forKey:@"NSInterfaceStyleDefault"];
-    if (TNReadsFromRightToLeft()) {
-        // It has its scrollers at the left.
-        [values setObject:@"NSNextStepInterfaceStyle" forKey:@"NSScrollViewInterfaceStyle"];
-    }
-    // Times ten points, which would be no more than a third of a row.
-    [values setObject:@"5" forKey:@"GSMouseScrollMultiplier"];
+    // The one has its scrollers at the right, the other at the left.
+    [values setObject:TNReadsFromRightToLeft() ? @"NSNextStepInterfaceStyle" : @"NSMacintoshInterfaceStyle"
+               forKey:@"NSScrollViewInterfaceStyle"];
     // The menu bar stands in the window.
     [values setObject:@"NSWindows95InterfaceStyle" forKey:@"NSMenuInterfaceStyle"];
     // Report, instead of dropping, what event handlers raise.
     [values setObject:@"1" forKey:@"NSExceptionHandlerMask"];
-    [[NSUserDefaults standardUserDefaults] registerDefaults:values];
+    return values;
+}
+
+void registerInitialDefaults() {
+    // Times ten points, which would be no more than a third of a row.
+    [[NSUserDefaults standardUserDefaults]
+        registerDefaults:[NSDictionary dictionaryWithObject:@"5" forKey:@"GSMouseScrollMultiplier"]];
 }
 
 /// What is still only in memory when the program ends goes to its files.
@@ -83,7 +91,8 @@ void TNPrepareProcess(const TNProgram &program) {
         TNUseLanguagesOfUser();
         NSArray *languages = [[NSUserDefaults standardUserDefaults] stringArrayForKey:@"NSLanguages"];
         NSString *han = TNHanFontForLanguages(languages);
-        registerInitialDefaults(languages, han);
+        TNSetPrimaryDefaults(lookOfProgram(languages, han));
+        registerInitialDefaults();
         TNWriteDefaultsPromptly();
         std::atexit(writeDefaultsAtExit);
         TNUseBitmapReadersOnly();

@@ -114,6 +114,21 @@ TEST(StartUp, WritesEmojiAndWhatLooksLikeAnEscapeAsTheyAre) {
     EXPECT_NE(contentOf(standardFile()).find(text), std::string::npos) << contentOf(standardFile());
 }
 
+TEST(StartUp, KeepsTheLookOfTheProgramWhateverIsSetForAllPrograms) {
+    writeContent(defaultsFolder() + "/NSGlobalDomain.plist",
+        "{ NSFontSize = 18; NSFont = DejaVuSerif; NSMenuInterfaceStyle = NSMacintoshInterfaceStyle; "
+        "NSInterfaceStyleDefault = NSNextStepInterfaceStyle; GSFontHinting = 17; GSAppOwnsMiniwindow = YES; "
+        "GSMouseScrollMultiplier = 9; }");
+    startUp();
+    EXPECT_EQ(standardString("NSFontSize"), "13");
+    EXPECT_EQ(standardString("NSFont"), "Inter-Regular");
+    EXPECT_EQ(standardString("NSMenuInterfaceStyle"), "NSWindows95InterfaceStyle");
+    EXPECT_EQ(standardString("NSScrollViewInterfaceStyle"), "NSMacintoshInterfaceStyle");
+    EXPECT_EQ(standardString("GSFontHinting"), "33");
+    EXPECT_EQ(standardString("GSAppOwnsMiniwindow"), "NO");
+    EXPECT_EQ(standardString("GSMouseScrollMultiplier"), "9");
+}
+
 TEST(StartUp, LeavesPicturesToTheBitmapReaderAlone) {
     startUp();
     EXPECT_EQ(imageReaders(), std::vector<std::string>{"NSBitmapImageRep"});
