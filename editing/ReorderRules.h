@@ -11,11 +11,12 @@ namespace tarnwick {
 class ListEditor;
 class RuleTables;
 
-/// What a table lets a drag do, as the platform numbers it.
-inline constexpr std::uint32_t dragOperationNone = 0;
-inline constexpr std::uint32_t dragOperationLink = 2;
-inline constexpr std::uint32_t dragOperationMove = 16;
-inline constexpr std::uint32_t dragOperationEvery = 0xFFFFFFFFU;
+/// What a table lets a drag do, a bit for each, as the platform numbers them.
+using DragOperations = std::uint64_t;
+inline constexpr DragOperations dragOperationNone = 0;
+inline constexpr DragOperations dragOperationLink = 2;
+inline constexpr DragOperations dragOperationMove = 16;
+inline constexpr DragOperations dragOperationEvery = ~DragOperations{0};
 
 /// The drag type that tables register and under which the dragged row indexes travel.
 inline constexpr std::string_view rowDragType = "NSStringPboardType";
@@ -24,7 +25,7 @@ inline constexpr std::string_view rowDragType = "NSStringPboardType";
 enum class DropPlace { above, on };
 
 /// What a drop between rows may do, and nothing on a row.
-[[nodiscard]] constexpr std::uint32_t validateDrop(DropPlace place) {
+[[nodiscard]] constexpr DragOperations validateDrop(DropPlace place) {
     return place == DropPlace::above ? dragOperationEvery : dragOperationNone;
 }
 

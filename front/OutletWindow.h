@@ -36,7 +36,7 @@ public:
     void editSelectedRow(RuleCategory category, std::string_view column) override;
     void hideRestartButton() override;
     void setHelpTitleColour(const Colour &colour) override;
-    void setUpDragging(RuleCategory category, std::uint32_t outside, std::uint32_t inside,
+    void setUpDragging(RuleCategory category, DragOperations outside, DragOperations inside,
         std::string_view draggedType) override;
     void observeSwitches(std::span<const std::string_view> keys) override;
     void observeApplicationChanges() override;

@@ -193,7 +193,7 @@ void OutletWindow::setHelpTitleColour(const Colour &colour) {
 }
 
 void OutletWindow::setUpDragging(
-    RuleCategory category, std::uint32_t outside, std::uint32_t inside, std::string_view draggedType) {
+    RuleCategory category, DragOperations outside, DragOperations inside, std::string_view draggedType) {
     [table(category) setDraggingSourceOperationMask:outside forLocal:NO];
     [table(category) setDraggingSourceOperationMask:inside forLocal:YES];
     [table(category) registerForDraggedTypes:[NSArray arrayWithObject:toNSString(draggedType)]];

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "editing/ReorderRules.h"
 #include "editing/RuleTables.h"
 #include "ui/FaultDisplay.h"
 #include "ui/Notices.h"
 #include "ui/Page.h"
 
-#include <cstdint>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -35,8 +35,8 @@ public:
 
     /// What a drag of the table's rows may do outside the application and within it, and the only type of
     /// drag that the table accepts.
-    virtual void setUpDragging(
-        RuleCategory category, std::uint32_t outside, std::uint32_t inside, std::string_view draggedType) = 0;
+    virtual void setUpDragging(RuleCategory category, DragOperations outside, DragOperations inside,
+        std::string_view draggedType) = 0;
 
     /// From now on the controller is told of new values of these keys in the standard preference domain, on
     /// the thread that changes them, and of applications that are activated and deactivated.

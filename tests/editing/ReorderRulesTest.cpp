@@ -150,7 +150,7 @@ TEST_F(ReorderRulesTest, ARowDroppedInItsOwnGapStaysAndIsSavedAllTheSame) {
 }
 
 TEST_F(ReorderRulesTest, ADropBetweenRowsMayDoAnythingAndOnARowNothing) {
-    EXPECT_EQ(validateDrop(DropPlace::above), 0xFFFFFFFFU);
+    EXPECT_EQ(validateDrop(DropPlace::above), 0xFFFFFFFFFFFFFFFFU);
     EXPECT_EQ(validateDrop(DropPlace::on), 0U);
 }
 

@@ -19,8 +19,8 @@ class InMemoryWindow final : public InMemoryTablesOf<SettingsWindow> {
 public:
     struct DragSetUp {
         RuleCategory category;
-        std::uint32_t outside;
-        std::uint32_t inside;
+        DragOperations outside;
+        DragOperations inside;
         std::string type;
     };
 
@@ -46,7 +46,7 @@ public:
     }
     void hideRestartButton() override { restartButtonIsHidden = true; }
     void setHelpTitleColour(const Colour& colour) override { helpTitle = colour; }
-    void setUpDragging(RuleCategory category, std::uint32_t outside, std::uint32_t inside,
+    void setUpDragging(RuleCategory category, DragOperations outside, DragOperations inside,
         std::string_view draggedType) override {
         drags.push_back({category, outside, inside, std::string(draggedType)});
     }
