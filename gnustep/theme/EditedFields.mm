@@ -5,6 +5,7 @@
 #import "TNTheme.h"
 
 #import "gnustep/runtime/MethodReplacement.h"
+#import "gnustep/start/LayoutDirection.h"
 
 #include <algorithm>
 
@@ -13,12 +14,13 @@ namespace {
 constexpr CGFloat sideRoom = 4;
 constexpr CGFloat heightRoom = 3;
 
-/// A field without bezel draws its text at the top of its frame.
+/// A field without bezel draws its text at the top of its frame. What is behind the text, as one reads, is
+/// left out, so that the box does not meet what stands there.
 NSRect lineOf(NSTextField *field) {
     NSRect line = [field bounds];
     line.size.height = std::min(NSHeight(line), [[field font] defaultLineHeightForFont]);
     line.size.width = std::max(0.0, NSWidth(line) - 2 * sideRoom);
-    return line;
+    return TNPlaceByDirection(line, [field bounds]);
 }
 
 bool hasBox(NSTextField *field) {

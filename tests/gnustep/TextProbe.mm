@@ -2,6 +2,7 @@
 
 #include "Probe.h"
 
+#import "TNTheme.h"
 #import <AppKit/AppKit.h>
 
 #include <algorithm>
@@ -60,6 +61,27 @@ bool isColoured(const std::string &text) {
             }
         }
         return false;
+    }
+}
+
+double insertionPoint(TextSide side, double width) {
+    @autoreleasepool {
+        startUp();
+        NSTextView *view = [[[NSTextView alloc] initWithFrame:NSMakeRect(0, 0, width, 20)] autorelease];
+        [view setFieldEditor:YES];
+        [view setAlignment:side == TextSide::left     ? NSLeftTextAlignment
+                           : side == TextSide::middle ? NSCenterTextAlignment
+                                                      : NSRightTextAlignment];
+        return NSMinX([[view layoutManager] insertionPointRectForCharacterIndex:0
+                                                                inTextContainer:[view textContainer]]);
+    }
+}
+
+std::pair<double, double> boxOfEditedField() {
+    @autoreleasepool {
+        NSTextField *field = fieldWith("Name");
+        const NSRect box = TNFrameOfEditedField(field);
+        return {NSMinX(box) - NSMinX([field bounds]), NSMaxX(box) - NSMaxX([field bounds])};
     }
 }
 

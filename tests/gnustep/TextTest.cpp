@@ -1,3 +1,4 @@
+#include "Files.h"
 #include "TextProbe.h"
 
 #include <gtest/gtest.h>
@@ -29,4 +30,26 @@ TEST(Text, ShowsArabicLettersAndRareChineseOnes) {
 TEST(Text, GoesOnAfterACharacterThatNoFontHas) {
     EXPECT_GT(widthOf("\U0010FFFDx"), widthOf("x"));
     EXPECT_GT(widthOf("x\uFFFDy"), widthOf("xy"));
+}
+
+TEST(Text, BeginsWhereItsAlignmentPutsItInAnEmptyField) {
+    constexpr double width = 200;
+    constexpr double margin = 10;
+    EXPECT_LT(insertionPoint(TextSide::left, width), margin);
+    EXPECT_NEAR(insertionPoint(TextSide::middle, width), width / 2, margin);
+    EXPECT_GT(insertionPoint(TextSide::right, width), width - margin);
+    EXPECT_LT(insertionPoint(TextSide::right, width), width);
+}
+
+TEST(Text, IsEditedInABoxThatLeavesWhatStandsBehindItInSight) {
+    const auto [left, right] = boxOfEditedField();
+    EXPECT_LT(left, 0);
+    EXPECT_LT(right, 0);
+}
+
+TEST(Text, IsEditedInTheMirroredBoxWhenReadFromRightToLeft) {
+    turnReadingDirection();
+    const auto [left, right] = boxOfEditedField();
+    EXPECT_GT(left, 0);
+    EXPECT_GT(right, 0);
 }
