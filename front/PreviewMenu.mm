@@ -29,6 +29,15 @@ constexpr CGFloat iconSize = 16;
     return self;
 }
 
+/// An image that somebody keeps for longer does not ask an item that is gone to draw it.
+- (void)dealloc {
+    NSImage *image = [self image];
+    for (NSImageRep *drawing in [NSArray arrayWithArray:[image representations]]) {
+        [image removeRepresentation:drawing];
+    }
+    [super dealloc];
+}
+
 - (const tarnwick::PreviewItem &)item {
     return _item;
 }

@@ -33,6 +33,9 @@ std::vector<MenuItemFacts> openMenuOfEmptySpace(RuleCategory table);
 std::vector<MenuItemFacts> openMenuByKey(RuleCategory table, const std::string& chosen = "");
 /// The same for the preview of the extension's menu.
 std::vector<MenuItemFacts> openPreview();
+/// Whether the first picture of it that its item draws no longer asks for that when it is kept beyond the
+/// menu.
+[[nodiscard]] bool keptPictureAsksNobody();
 /// The same for a menu of the menu bar, which a click on its title opens.
 std::vector<MenuItemFacts> openMenuOfBar(const std::string& title, const std::string& chosen = "");
 

@@ -17,6 +17,8 @@
 @public
     std::string chosen;
     std::vector<tarnwick::gui::MenuItemFacts> found;
+    /// Of the first item that draws its own.
+    NSImage *picture;
 }
 - (void)visit:(id)sender;
 @end
@@ -45,6 +47,15 @@ bool showsPicture(TNMenuWindow *window, NSInteger row) {
            gui::Pixels([view window]).coloursIn([view convertRect:picture toView:nil]).size() > 1;
 }
 
+bool isDrawnByItsItem(NSImage *image) {
+    for (NSImageRep *drawing in [image representations]) {
+        if ([drawing isKindOfClass:[NSCustomImageRep class]]) {
+            return true;
+        }
+    }
+    return false;
+}
+
 void postKey(unichar key) {
     driving::postKey(gui::settingsWindow(), [NSString stringWithCharacters:&key length:1]);
 }
@@ -52,6 +63,11 @@ void postKey(unichar key) {
 } // namespace
 
 @implementation GuiMenuVisitor
+
+- (void)dealloc {
+    [picture release];
+    [super dealloc];
+}
 
 - (void)visit:(id)sender {
     constexpr unichar escape = 0x1B;
@@ -66,6 +82,9 @@ void postKey(unichar key) {
         found.push_back({toString([item title]), toString(TNKeyLabel(item)),
             [item toolTip] ? toString([item toolTip]) : "", [item isEnabled] == YES,
             [item state] == NSControlStateValueOn, showsPicture(openMenu(), row)});
+        if (!picture && isDrawnByItsItem([item image])) {
+            picture = [[item image] retain];
+        }
         downs += !isThere && [item isEnabled] ? 1 : 0;
         isThere = isThere || found.back().title == chosen;
     }
@@ -80,9 +99,9 @@ void postKey(unichar key) {
 namespace tarnwick::gui {
 namespace {
 
-std::vector<MenuItemFacts> visit(const std::string &chosen) {
+GuiMenuVisitor *sendVisitor(const std::string &chosen) {
+    GuiMenuVisitor *visitor = [[[GuiMenuVisitor alloc] init] autorelease];
     @autoreleasepool {
-        GuiMenuVisitor *visitor = [[[GuiMenuVisitor alloc] init] autorelease];
         visitor->chosen = chosen;
         [visitor performSelector:@selector(visit:)
                       withObject:nil
@@ -90,8 +109,18 @@ std::vector<MenuItemFacts> visit(const std::string &chosen) {
                          inModes:[NSArray arrayWithObject:NSEventTrackingRunLoopMode]];
         driving::waitUntil([visitor] { return !visitor->found.empty(); });
         driving::settle();
-        return visitor->found;
     }
+    return visitor;
+}
+
+std::vector<MenuItemFacts> visit(const std::string &chosen) {
+    @autoreleasepool {
+        return sendVisitor(chosen)->found;
+    }
+}
+
+void clickPreview() {
+    driving::postClicks(settingsWindow(), driving::middleOf([settingsController() previewButton]));
 }
 
 void press(NSPoint place, MenuPress press) {
@@ -127,8 +156,16 @@ std::vector<MenuItemFacts> openMenuByKey(RuleCategory table, const std::string &
 }
 
 std::vector<MenuItemFacts> openPreview() {
-    driving::postClicks(settingsWindow(), driving::middleOf([settingsController() previewButton]));
+    clickPreview();
     return visit("");
+}
+
+bool keptPictureAsksNobody() {
+    @autoreleasepool {
+        clickPreview();
+        NSImage *picture = sendVisitor("")->picture;
+        return picture && !isDrawnByItsItem(picture);
+    }
 }
 
 std::vector<MenuItemFacts> openMenuOfBar(const std::string &title, const std::string &chosen) {

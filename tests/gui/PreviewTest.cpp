@@ -37,6 +37,10 @@ TEST(Preview, EverythingButTheRemarkAtTheFootShowsItsIcon) {
     }
 }
 
+TEST(Preview, APictureThatIsKeptLongerThanItsMenuAsksNobodyToDrawIt) {
+    EXPECT_TRUE(keptPictureAsksNobody());
+}
+
 TEST(Preview, LeavingTheMenuChangesNothing) {
     clickPageButton(Page::customIcon);
     clickPreviewAndType({downKey, escapeKey});

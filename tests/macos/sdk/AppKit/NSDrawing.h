@@ -94,7 +94,9 @@ typedef TN_OPTIONS(NSUInteger, NSFontTraitMask){NSItalicFontMask = 1};
 - (nullable CGImageRef)CGImageForProposedRect:(nullable NSRect *)rect
                                       context:(nullable NSGraphicsContext *)context
                                         hints:(nullable NSDictionary<NSString *, id> *)hints;
+@property (readonly, copy) NSArray<NSImageRep *> *representations;
 - (void)addRepresentation:(NSImageRep *)representation;
+- (void)removeRepresentation:(NSImageRep *)representation;
 - (void)drawInRect:(NSRect)rect
           fromRect:(NSRect)from
          operation:(NSCompositingOperation)operation
