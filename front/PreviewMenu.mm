@@ -32,7 +32,7 @@ constexpr CGFloat iconSize = 16;
 /// An image that somebody keeps for longer does not ask an item that is gone to draw it.
 - (void)dealloc {
     NSImage *image = [self image];
-    for (NSImageRep *drawing in [NSArray arrayWithArray:[image representations]]) {
+    for (NSImageRep *drawing in [[[image representations] copy] autorelease]) {
         [image removeRepresentation:drawing];
     }
     [super dealloc];
