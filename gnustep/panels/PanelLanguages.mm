@@ -19,8 +19,8 @@ NSBundle *toolkit() {
 
 /// What alerts and file panels show of their own.
 bool isOfPanels(NSString *key) {
-    static NSSet *const keys =
-        [[NSSet alloc] initWithObjects:@"Alert", @"Cancel", @"Name:", @"OK", @"Open", @"Save", nil];
+    static NSSet *const keys = [[NSSet alloc] initWithObjects:@"Alert", @"Cancel", @"Home", @"Name:", @"OK",
+                                              @"Open", @"Save", @"Show Hidden Files", nil];
     return [keys containsObject:key];
 }
 

@@ -105,8 +105,7 @@ NSString *message(id self, SEL) {
     const NSRect room = [_bottomView bounds];
     CGFloat right = NSMaxX(TNPlaceByDirection([_okButton frame], room));
     for (const NSInteger tag :
-        {NSFileHandlingPanelOKButton, NSFileHandlingPanelCancelButton, NSFileHandlingPanelDiskEjectButton,
-            NSFileHandlingPanelDiskButton, NSFileHandlingPanelHomeButton}) {
+        {NSFileHandlingPanelOKButton, NSFileHandlingPanelCancelButton, NSFileHandlingPanelHomeButton}) {
         NSButton *button = (NSButton *)[_bottomView viewWithTag:tag];
         NSRect frame = [button frame];
         if ([button imagePosition] != NSImageOnly) {
@@ -116,6 +115,10 @@ NSString *message(id self, SEL) {
         frame.origin.x = right - NSWidth(frame);
         [button setFrame:TNPlaceByDirection(frame, room)];
         right = NSMinX(frame) - buttonGap;
+    }
+    // Drives are mounted by the system.
+    for (const NSInteger tag : {NSFileHandlingPanelDiskEjectButton, NSFileHandlingPanelDiskButton}) {
+        [[_bottomView viewWithTag:tag] setHidden:YES];
     }
     [_bottomView setNeedsDisplay:YES];
 }

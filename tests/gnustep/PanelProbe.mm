@@ -19,8 +19,8 @@ NSButton *buttonWithTag(NSWindow *panel, NSInteger tag) {
 }
 
 bool standApart(NSWindow *panel) {
-    const NSInteger tags[] = {NSFileHandlingPanelHomeButton, NSFileHandlingPanelDiskButton,
-        NSFileHandlingPanelDiskEjectButton, NSFileHandlingPanelCancelButton, NSFileHandlingPanelOKButton};
+    const NSInteger tags[] = {
+        NSFileHandlingPanelHomeButton, NSFileHandlingPanelCancelButton, NSFileHandlingPanelOKButton};
     double right = 0;
     for (const auto tag : tags) {
         const NSRect frame = [buttonWithTag(panel, tag) frame];

@@ -1,7 +1,9 @@
 """python3 -m tests.outside.open_panel PROGRAM: what is added is chosen in a panel, which is typed into, looked at, and
 left for something else. Both stores and the template files are looked at after each step."""
 
+import os
 import pathlib
+import pwd
 
 from harness.stores import COPY_TARGETS, ICONS, TEMPLATES
 from harness.waiting import NotSeen, wait_until
@@ -13,6 +15,9 @@ from tests.outside.screen import command
 
 # Of the panel, from its upper left: left, top, right, bottom.
 INSIDE_OK_BUTTON = (530, 414, 580, 430)
+# In its first row.
+LAST_COLUMN = (450, 109)
+HOME_BUTTON = (420, 420)
 # On a busy machine the keyboard may be taken away so late that somebody else may have meant it.
 TRIES = 5
 
@@ -137,6 +142,33 @@ def files_are_chosen_by_their_paths_and_by_any_names(start):
             expect_last(desktop, TEMPLATES, name)
 
 
+def a_double_click_on_a_folder_shows_what_is_in_it(start):
+    with start() as (desktop, model):
+        inner = pathlib.Path(desktop.user.name, "one", "two", "three")
+        inner.mkdir(parents=True)
+        desktop.show_list(COPY_TARGETS)
+        panel = ask(desktop)
+        panel.enter(f"{inner.parent}/")
+        panel.window.click(LAST_COLUMN, times=2)
+        desktop.screen.settle(0.2)
+        require(panel.is_open(), "a double click has ended the panel")
+        panel.confirm()
+        model.add_folders(COPY_TARGETS, str(inner))
+        model.expect("the folder that was double-clicked, after Return")
+
+
+def the_button_of_the_users_home_counts_more_than_what_was_typed_before(start):
+    with start() as (desktop, model):
+        one, = folders_of(desktop, "One")
+        desktop.show_list(COPY_TARGETS)
+        panel = ask(desktop)
+        panel.enter(one)
+        panel.window.click(HOME_BUTTON)
+        panel.confirm()
+        model.add_folders(COPY_TARGETS, pwd.getpwuid(os.getuid()).pw_dir)
+        model.expect("the user's home")
+
+
 def a_type_is_one_in_capitals_too(start):
     with start() as (desktop, _):
         folder = folder_of(desktop, "Red.PNG", content=PIXEL)
@@ -211,5 +243,7 @@ if __name__ == "__main__":
                a_panel_and_the_window_behind_it_stay_when_they_are_minimised,
                the_keyboard_that_a_window_manager_gives_to_nobody_comes_back_to_a_panel,
                files_are_chosen_by_their_paths_and_by_any_names,
+               a_double_click_on_a_folder_shows_what_is_in_it,
+               the_button_of_the_users_home_counts_more_than_what_was_typed_before,
                a_type_is_one_in_capitals_too, buttons_behind_a_panel_do_nothing,
                opening_a_panel_ends_an_edit_into_its_row, ending_with_an_open_panel_keeps_the_lists)
