@@ -17,13 +17,13 @@ NSRect insertionPoint(id self, SEL command, NSUInteger character, NSTextContaine
     if ([[self textStorage] length] > 0) {
         return place;
     }
+    const CGFloat margin = [textContainer lineFragmentPadding];
+    const CGFloat rest = std::max(0.0, [textContainer containerSize].width - 2 * margin - NSWidth(place));
     NSParagraphStyle *style = [[self typingAttributes] objectForKey:NSParagraphStyleAttributeName];
-    const CGFloat rest =
-        [textContainer containerSize].width - 2 * [textContainer lineFragmentPadding] - NSWidth(place);
     if ([style alignment] == NSRightTextAlignment) {
-        place.origin.x += std::max(rest, 0.0);
+        place.origin.x = margin + rest;
     } else if ([style alignment] == NSCenterTextAlignment) {
-        place.origin.x += std::max(rest / 2, 0.0);
+        place.origin.x = margin + rest / 2;
     }
     return place;
 }
