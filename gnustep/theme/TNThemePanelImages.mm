@@ -1,4 +1,4 @@
-// Wrong: the pictures of the open panel and of pop-up buttons: folders, arrows, drives. GNUstep GUI 0.29 has
+// Wrong: the pictures of the open panel and of pop-up buttons: folders, arrows. GNUstep GUI 0.29 has
 // them in files, from another age, and they do not fit flat controls.
 
 #import "TNTheme.h"
@@ -63,26 +63,6 @@ void drawHome(NSRect) {
     [line({{6.5, 10}, {6.5, 4.5}, {17.5, 4.5}, {17.5, 10}}, 1.6) stroke];
 }
 
-void drawDrive() {
-    [TNThemeCurrentColors()->secondaryText set];
-    NSBezierPath *drive = box(4, 4, 16, 7, 2);
-    [drive setLineWidth:1.6];
-    [drive stroke];
-    [box(15, 6.6, 1.8, 1.8, 0.9) fill];
-}
-
-void drawMount(NSRect) {
-    drawDrive();
-    [line({{12, 20}, {12, 14}}, 1.6) stroke];
-    [line({{9.5, 16.2}, {12, 13.7}, {14.5, 16.2}}, 1.6) stroke];
-}
-
-void drawEject(NSRect) {
-    drawDrive();
-    [line({{12, 14}, {12, 20}}, 1.6) stroke];
-    [line({{9.5, 17.8}, {12, 20.3}, {14.5, 17.8}}, 1.6) stroke];
-}
-
 void drawArrowOnward(NSRect) {
     const CGFloat ahead = TNReadsFromRightToLeft() ? -1.5 : 1.5;
     [TNThemeCurrentColors()->secondaryText set];
@@ -118,8 +98,6 @@ const struct {
     {@"common_HomeDirectory", {48, 48}, drawFolder},
     {@"common_Unknown", {48, 48}, drawFile},
     {@"common_Home", {24, 24}, drawHome},
-    {@"common_Mount", {24, 24}, drawMount},
-    {@"common_Unmount", {24, 24}, drawEject},
     {@"GSMenuArrow", {10, 10}, drawArrowOnward},
     {@"common_3DArrowRightH", {10, 10}, drawArrowOnward},
     {@"common_3DArrowDown", {10, 10}, drawArrowDown},
