@@ -26,8 +26,9 @@ bool isOfPanels(NSString *key) {
 
 NSString *localized(id self, SEL command, NSString *key, NSString *value, NSString *table) {
     if (isOfPanels(key) && [[self bundlePath] isEqualToString:[toolkit() bundlePath]]) {
-        NSString *own = nativeLocalized([NSBundle mainBundle], command, key, nil, nil);
-        if (![own isEqualToString:key]) {
+        NSString *const none = @"\n";
+        NSString *own = nativeLocalized([NSBundle mainBundle], command, key, none, nil);
+        if (![own isEqualToString:none]) {
             return own;
         }
     }

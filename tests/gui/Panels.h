@@ -19,6 +19,9 @@ void pressInNextAlert(const std::string& buttonTitle);
 /// Opens the panel about the application and closes it by Escape; what it says, from the top.
 [[nodiscard]] std::vector<std::string> textsOfAboutPanel();
 
+/// What alerts and panels say for this text of the toolkit's.
+[[nodiscard]] std::string panelText(const std::string& text);
+
 /// Types a path into the next open panel and confirms.
 void chooseInNextPanel(const std::string& path);
 /// Types a path into the next save panel and confirms.

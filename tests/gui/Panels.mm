@@ -3,6 +3,7 @@
 #include "tests/gui/SettingsWindow.h"
 
 #import "adapters/foundation/StringConversion.h"
+#import "gnustep/panels/PanelLanguages.h"
 #import "tests/driving/Driving.h"
 
 #include <algorithm>
@@ -262,6 +263,12 @@ std::vector<std::string> textsOfAboutPanel() {
     driving::postKey(panel, @"\x1B");
     driving::waitUntil([panel] { return ![panel isVisible]; });
     return [panel isVisible] ? std::vector<std::string>{"it stays open"} : texts;
+}
+
+std::string panelText(const std::string &text) {
+    @autoreleasepool {
+        return toString(TNPanelText(toNSString(text)));
+    }
 }
 
 void chooseInNextPanel(const std::string &path) {
