@@ -19,8 +19,13 @@ NSBundle *toolkit() {
 
 /// What alerts and file panels show of their own.
 bool isOfPanels(NSString *key) {
-    static NSSet *const keys = [[NSSet alloc] initWithObjects:@"Alert", @"Cancel", @"Home", @"Name:", @"OK",
-                                              @"Open", @"Save", @"Show Hidden Files", nil];
+    static NSSet *const keys = [[NSSet alloc]
+        initWithObjects:@"Alert", @"Cancel", @"Dismiss", @"Home", @"Name:", @"No", @"OK", @"Open", @"Replace",
+        @"Save", @"Show Hidden Files", @"The directory '%@' could not be created.",
+        @"The directory '%@' does not exist, do you want to create it?",
+        @"The file '%@' in '%@' exists. Replace it?", @"The path '%@' is not a directory.", @"Use .%@",
+        @"Yes", @"You cannot save this document with extension '.%@'.\nThe required extension is '.%@'.",
+        nil];
     return [keys containsObject:key];
 }
 

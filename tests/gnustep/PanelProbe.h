@@ -35,6 +35,14 @@ struct SaveAnswer {
 /// Begins a save panel with a name in it, in a folder, and presses its default button.
 SaveAnswer saveAs(const std::string& folder, const std::string& name, const std::string& type);
 
+struct TypedFolder {
+    bool panelStays = false;
+    std::string shownFolder;
+    std::string name;
+};
+/// Begins a save panel with a name, types the path of a folder in its place and presses the default button.
+TypedFolder typeFolderForName(const std::string& folder, const std::string& name);
+
 struct HiddenExtension {
     /// The name field after the folder's only file has been selected.
     std::string nameField;

@@ -163,6 +163,27 @@ SaveAnswer saveAs(const std::string &folder, const std::string &name, const std:
     }
 }
 
+TypedFolder typeFolderForName(const std::string &folder, const std::string &name) {
+    @autoreleasepool {
+        startUp();
+        TypedFolder result;
+        NSSavePanel *panel = [NSSavePanel savePanel];
+        [panel setDirectoryURL:[NSURL fileURLWithPath:@"/" isDirectory:YES]];
+        [panel setNameFieldStringValue:text(name)];
+        [panel beginWithCompletionHandler:^(NSInteger){
+        }];
+        runPanel([panel, &result, &folder] {
+            [panel setNameFieldStringValue:text(folder)];
+            [buttonWithTag(panel, NSFileHandlingPanelOKButton) performClick:nil];
+            result.panelStays = [panel isVisible];
+            result.shownFolder = [[panel directory] UTF8String];
+            result.name = [[panel nameFieldStringValue] UTF8String];
+            [panel cancel:nil];
+        });
+        return result;
+    }
+}
+
 HiddenExtension chooseOnlyFile(const std::string &folder, bool hidesExtension) {
     @autoreleasepool {
         startUp();

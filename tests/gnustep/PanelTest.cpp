@@ -64,6 +64,16 @@ TEST(Panel, GivesTheBlockTheNameToSaveAsWithItsExtension) {
     EXPECT_EQ(result.path, folder + "/Backup \u00E9.plist");
 }
 
+TEST(Panel, GoesIntoAFolderThatIsTypedForTheNameToSaveAs) {
+    const auto folder = newFolder("typed");
+    for (const auto& typed : {folder, folder + "/"}) {
+        const auto result = typeFolderForName(typed, "Backup");
+        EXPECT_TRUE(result.panelStays) << typed;
+        EXPECT_EQ(result.shownFolder, folder) << typed;
+        EXPECT_EQ(result.name, "Backup") << typed;
+    }
+}
+
 TEST(Panel, BeginsInTheUsersHomeWhenTheFolderAskedForIsNotThere) {
     EXPECT_EQ(beginningOf("/usr/share"), "/usr/share");
     EXPECT_EQ(beginningOf("/nowhere/Desktop"), homeFolder());
