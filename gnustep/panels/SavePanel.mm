@@ -1,13 +1,17 @@
 // Wrong: what a save panel takes for a name, as of GNUstep GUI 0.29: the path of a folder, which gets the
-// extension and is saved beside that folder. Here it leads into the folder.
+// extension and is saved beside that folder. Here it leads into the folder. And a folder that is not there is
+// saved into although nobody wants it to be made.
 
 #import <AppKit/AppKit.h>
 
+#import "gnustep/panels/PanelLanguages.h"
 #import "gnustep/runtime/MethodReplacement.h"
 
 @interface NSSavePanel (TNTypedFolders)
 /// Shows a folder whose path was typed, with the name that the panel began with; NO for any other text.
 - (BOOL)tnShowTypedFolder;
+/// The folder that the typed name is to be saved in.
+- (NSString *)tnFolderToSaveIn;
 @end
 
 namespace {
@@ -26,8 +30,27 @@ void setUp(id self, SEL command, NSString *path, NSString *name) {
     nativeSetUp(self, command, path, name);
 }
 
+/// Whether the folder is there, made now if the user wants that.
+bool makeFolder(NSString *folder) {
+    NSFileManager *files = [NSFileManager defaultManager];
+    if ([files fileExistsAtPath:folder]) {
+        return true;
+    }
+    if (NSRunAlertPanel(TNPanelText(@"Save"),
+            TNPanelText(@"The directory '%@' does not exist, do you want to create it?"), TNPanelText(@"Yes"),
+            TNPanelText(@"No"), nil, folder) != NSAlertDefaultReturn) {
+        return false;
+    }
+    if (![files createDirectoryAtPath:folder withIntermediateDirectories:YES attributes:nil error:nullptr]) {
+        NSRunAlertPanel(TNPanelText(@"Save"), TNPanelText(@"The directory '%@' could not be created."),
+            TNPanelText(@"Dismiss"), nil, nil, folder);
+        return false;
+    }
+    return true;
+}
+
 void confirm(id self, SEL command, id sender) {
-    if (![self tnShowTypedFolder]) {
+    if (![self tnShowTypedFolder] && makeFolder([self tnFolderToSaveIn])) {
         nativeConfirm(self, command, sender);
     }
 }
@@ -57,6 +80,14 @@ bool isFolder(NSString *path) {
     [self setNameFieldStringValue:proposedName ? proposedName : @""];
     [_form selectTextAtIndex:0];
     return YES;
+}
+
+- (NSString *)tnFolderToSaveIn {
+    NSString *name = [[self nameFieldStringValue] stringByExpandingTildeInPath];
+    NSString *path = [name isAbsolutePath] ? name
+                                           : [[_browser pathToColumn:[_browser lastColumn]]
+                                                 stringByAppendingPathComponent:name];
+    return [path stringByDeletingLastPathComponent];
 }
 
 @end

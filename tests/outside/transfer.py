@@ -123,6 +123,22 @@ def a_name_that_is_being_typed_is_exported_and_counts_before_an_import(start):
         expect(desktop, first, "the imported settings")
 
 
+def a_folder_that_is_not_there_is_made_only_when_it_is_wanted(start):
+    with start() as (desktop, _):
+        path = pathlib.Path(desktop.user.name, "new", "mine.plist")
+        choose_in_file_menu(desktop, EXPORT)
+        panel = OpenPanel(desktop.screen, SAVE_TITLE)
+        for answer in ("Escape", "Return"):
+            require(panel.is_open() and not path.parent.exists(), f"something has happened before {answer}")
+            panel.enter(str(path))
+            desktop.screen.key("Return")
+            desktop.screen.window(QUESTION_TITLE)
+            desktop.screen.settle(0.2)
+            end_question(desktop, answer)
+            desktop.screen.settle(0.2)
+        wait_until(path.exists, "the exported file")
+
+
 def ending_with_the_question_open_keeps_the_lists(start):
     with start() as (desktop, _):
         path, _ = export_and_change(desktop)
@@ -138,4 +154,5 @@ if __name__ == "__main__":
     run_checks(what_was_exported_comes_back_as_one_step, a_question_that_is_cancelled_changes_nothing,
                a_file_that_is_none_of_ours_is_refused,
                a_name_that_is_being_typed_is_exported_and_counts_before_an_import,
+               a_folder_that_is_not_there_is_made_only_when_it_is_wanted,
                ending_with_the_question_open_keeps_the_lists)
