@@ -128,7 +128,7 @@ def a_panel_is_turned_around(start):
 
         def expect_last(folder):
             def is_last():
-                return desktop.stores.local(COPY_TARGETS)[-1]["realPath"] == str(folder)
+                return (desktop.stores.local(COPY_TARGETS) or [{}])[-1].get("realPath") == str(folder)
             wait_until(is_last, f"{folder} at the end")
 
         panel = ask_for(inner)
