@@ -51,7 +51,7 @@ CGFloat heightOf(NSTextField *field, CGFloat width) {
 
 void prepareText(NSTextField *field, NSFont *font) {
     [field setFont:font];
-    [field setAlignment:TNReadsFromRightToLeft() ? NSRightTextAlignment : NSLeftTextAlignment];
+    [field setAlignment:TNLeadingAlignment()];
     [[field cell] setWraps:YES];
     [[field cell] setLineBreakMode:NSLineBreakByWordWrapping];
 }

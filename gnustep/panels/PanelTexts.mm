@@ -156,7 +156,7 @@ NSString *message(id self, SEL) {
         [field setDrawsBackground:NO];
         [field setBezeled:NO];
         [field setFont:[NSFont systemFontOfSize:12]];
-        [field setAlignment:TNReadsFromRightToLeft() ? NSRightTextAlignment : NSLeftTextAlignment];
+        [field setAlignment:TNLeadingAlignment()];
         [[field cell] setLineBreakMode:NSLineBreakByTruncatingTail];
         [field setAutoresizingMask:NSViewMinYMargin | NSViewWidthSizable];
         [_topView addSubview:field];

@@ -1,6 +1,6 @@
 #pragma once
 
-#import <Foundation/Foundation.h>
+#import <AppKit/AppKit.h>
 
 /// Whether the interface is to be read from right to left: by the two settings with which macOS turns around
 /// an application that has no language read in that way, `AppleTextDirection` and
@@ -13,3 +13,6 @@ NSRect TNPlaceByDirection(NSRect place, NSRect room);
 
 /// The place of the side at which reading begins.
 CGFloat TNLeadingEdge(NSRect place);
+
+/// That of texts which begin there.
+NSTextAlignment TNLeadingAlignment();

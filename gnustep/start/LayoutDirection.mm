@@ -42,6 +42,10 @@ CGFloat TNLeadingEdge(NSRect place) {
     return TNReadsFromRightToLeft() ? NSMaxX(place) : NSMinX(place);
 }
 
+NSTextAlignment TNLeadingAlignment() {
+    return TNReadsFromRightToLeft() ? NSRightTextAlignment : NSLeftTextAlignment;
+}
+
 @implementation NSApplication (TNLayoutDirection)
 
 - (NSUserInterfaceLayoutDirection)userInterfaceLayoutDirection {

@@ -2,5 +2,5 @@
 
 #import <Foundation/Foundation.h>
 
-/// Settings of this run that count before all that anybody has set, whatever other programs are to use.
+/// Settings for this run, which count before whatever the user has set.
 void TNSetPrimaryDefaults(NSDictionary *values);

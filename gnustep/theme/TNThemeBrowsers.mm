@@ -30,9 +30,7 @@ void drawImage(NSImage *image, NSRect place, NSView *view) {
 
 NSAttributedString *alignedTitle(NSCell *cell) {
     NSMutableAttributedString *title = [[[cell attributedStringValue] mutableCopy] autorelease];
-    if (TNReadsFromRightToLeft()) {
-        [title setAlignment:NSRightTextAlignment range:NSMakeRange(0, [title length])];
-    }
+    [title setAlignment:TNLeadingAlignment() range:NSMakeRange(0, [title length])];
     return title;
 }
 

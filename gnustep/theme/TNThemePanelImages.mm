@@ -1,5 +1,5 @@
-// Wrong: the pictures of the open panel and of pop-up buttons: folders, arrows. GNUstep GUI 0.29 has
-// them in files, from another age, and they do not fit flat controls.
+// Wrong: the pictures of the open panel and of pop-up buttons: folders and arrows. GNUstep GUI 0.29 has them
+// in files, from another age, and they do not fit flat controls.
 
 #import "TNTheme.h"
 
