@@ -1,7 +1,7 @@
 // Wrong: what an open panel takes, as of GNUstep GUI 0.29. The full path of a file cannot be confirmed,
 // `Red.PNG` is no file of the type "png", the name of the folder that is shown stands in the field where
-// somebody begins to type, the button of the user's home leaves a typed path there that counts, and
-// extensions that are to be hidden are shown.
+// somebody begins to type, the button of the user's home leaves a typed path there that counts, a double
+// click on a folder takes it (and saves there), and extensions that are to be hidden are shown.
 
 #import <AppKit/AppKit.h>
 
@@ -11,11 +11,14 @@
 @interface NSSavePanel (TNPrivateMethods)
 - (void)_updateDefaultDirectory;
 - (void)_setHomeDirectory;
+- (void)_doubleClick:(id)sender;
 - (BOOL)_shouldShowExtension:(NSString *)extension;
 @end
 
 @interface NSOpenPanel (TNTypedPaths)
 - (void)tnEmptyNameField;
+/// Nothing that was typed counts any longer.
+- (void)tnForgetTyped;
 /// A typed text as the path of something that may be chosen; nil when it is none.
 - (NSString *)tnChoosablePath:(NSString *)typed;
 /// Shows what a typed path leads to; NO when the text is not the path of something that may be chosen.
@@ -28,10 +31,13 @@ namespace {
 using SetUp = void (*)(id self, SEL command, NSString *path, NSString *name);
 using TextChanged = void (*)(id self, SEL command, NSNotification *notification);
 using Confirm = void (*)(id self, SEL command, id sender);
+using GoHome = void (*)(id self, SEL command);
 using FileNames = NSArray *(*)(id self, SEL command);
 SetUp nativeSetUp = nullptr;
 TextChanged nativeTextChanged = nullptr;
 Confirm nativeConfirm = nullptr;
+Confirm nativeDoubleClick = nullptr;
+GoHome nativeGoHome = nullptr;
 FileNames nativeFileNames = nullptr;
 
 /// What was confirmed as a path that had been typed; nil when something was chosen from the list. There is
@@ -65,6 +71,20 @@ void confirm(id self, SEL command, id sender) {
         [self tnEndWithPath:path];
     } else {
         nativeConfirm(self, command, sender);
+    }
+}
+
+/// What is in a folder is shown since the first click.
+void doubleClick(id self, SEL command, id browser) {
+    if ([[browser selectedCell] isLeaf]) {
+        nativeDoubleClick(self, command, browser);
+    }
+}
+
+void goHome(id self, SEL command) {
+    nativeGoHome(self, command);
+    if ([self isKindOfClass:[NSOpenPanel class]]) {
+        [self tnForgetTyped];
     }
 }
 
@@ -103,9 +123,7 @@ BOOL showsExtension(id self, SEL, NSString *extension) {
     [_form selectTextAtIndex:0];
 }
 
-/// Nothing that was typed counts any longer.
-- (void)_setHomeDirectory {
-    [super _setHomeDirectory];
+- (void)tnForgetTyped {
     [self tnEmptyNameField];
     [_okButton setEnabled:[self canChooseDirectories]];
 }
@@ -142,6 +160,18 @@ BOOL showsExtension(id self, SEL, NSString *extension) {
     [NSApp stopModalWithCode:NSModalResponseOK];
     [_okButton setEnabled:NO];
     [self close];
+}
+
+@end
+
+@interface NSSavePanel (TNWaysThroughFolders)
+@end
+
+@implementation NSSavePanel (TNWaysThroughFolders)
+
++ (void)load {
+    nativeDoubleClick = TNReplaceMethod(self, @selector(_doubleClick:), doubleClick);
+    nativeGoHome = TNReplaceMethod(self, @selector(_setHomeDirectory), goHome);
 }
 
 @end

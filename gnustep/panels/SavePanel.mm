@@ -1,17 +1,11 @@
 // Wrong: what a save panel takes for a name, as of GNUstep GUI 0.29: the path of a folder, which gets the
-// extension and is saved beside that folder. Here it leads into the folder. A folder that is not there is
-// saved into although nobody wants it to be made. And in open panels too, a double click on a folder ends the
-// panel.
+// extension and is saved beside that folder. Here it leads into the folder. And a folder that is not there is
+// saved into although nobody wants it to be made.
 
 #import <AppKit/AppKit.h>
 
 #import "gnustep/panels/PanelLanguages.h"
 #import "gnustep/runtime/MethodReplacement.h"
-
-/// What the panel has of its own, without saying so.
-@interface NSSavePanel (TNPrivateClicks)
-- (void)_doubleClick:(id)sender;
-@end
 
 @interface NSSavePanel (TNTypedFolders)
 /// Shows a folder whose path was typed, with the name that the panel began with; NO for any other text.
@@ -26,7 +20,6 @@ using SetUp = void (*)(id self, SEL command, NSString *path, NSString *name);
 using Confirm = void (*)(id self, SEL command, id sender);
 SetUp nativeSetUp = nullptr;
 Confirm nativeConfirm = nullptr;
-Confirm nativeDoubleClick = nullptr;
 
 /// What the panel begins with. There is one save panel.
 NSString *proposedName = nil;
@@ -62,13 +55,6 @@ void confirm(id self, SEL command, id sender) {
     }
 }
 
-/// What is in a folder is shown since the first click.
-void doubleClick(id self, SEL command, id browser) {
-    if ([[browser selectedCell] isLeaf]) {
-        nativeDoubleClick(self, command, browser);
-    }
-}
-
 bool isFolder(NSString *path) {
     BOOL isDirectory = NO;
     return [path isAbsolutePath] &&
@@ -83,7 +69,6 @@ bool isFolder(NSString *path) {
 + (void)load {
     nativeSetUp = TNReplaceMethod(self, @selector(_setupForDirectory:file:), setUp);
     nativeConfirm = TNReplaceMethod(self, @selector(ok:), confirm);
-    nativeDoubleClick = TNReplaceMethod(self, @selector(_doubleClick:), doubleClick);
 }
 
 - (BOOL)tnShowTypedFolder {
